@@ -1,0 +1,45 @@
+# shellcheck shell=bash
+# SPDX-FileCopyrightText: 2026 Quillmark contributors
+# SPDX-License-Identifier: MIT
+
+# What Quillmark is built with, and how it gets onto this machine. Sourced by build.sh, whose say and fail it uses.
+
+debianPackages=(g++ cmake ninja-build ccache qt6-base-dev libicu-dev libcli11-dev)
+homebrewPackages=(cmake ninja ccache qt icu4c cli11)
+
+installDebianPackages() {
+    local package installed missing=()
+    installed=" $(dpkg-query -W -f '${Package}=${db:Status-Status} ' "${debianPackages[@]}" 2>/dev/null || true)"
+    for package in "${debianPackages[@]}"; do
+        [[ "$installed" == *" $package=installed "* ]] || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    # A root shell opened by plain su keeps the user's PATH, without the folders that dpkg looks for its tools in.
+    local apt=(env DEBIAN_FRONTEND=noninteractive PATH="$PATH:/usr/sbin:/sbin" apt-get -y -o DPkg::Lock::Timeout=600)
+    if [ "$EUID" -ne 0 ]; then
+        command -v sudo >/dev/null || fail "needs packages that only root can install (there is no sudo): ${missing[*]}"
+        # With nobody at the terminal, a password is not waited for.
+        if [ -t 0 ]; then apt=(sudo "${apt[@]}"); else apt=(sudo -n "${apt[@]}"); fi
+    fi
+    say "installing with apt-get: ${missing[*]}"
+    "${apt[@]}" update </dev/null >&2 || say "the package lists could not be updated, going on with those at hand"
+    "${apt[@]}" install --no-install-recommends "${missing[@]}" </dev/null >&2 ||
+        fail "apt-get could not install these packages (its own messages are above): ${missing[*]}"
+}
+
+installHomebrewPackages() {
+    local package prefix missing=()
+    PATH="$PATH:/opt/homebrew/bin:/usr/local/bin"
+    command -v brew >/dev/null || fail "needs Homebrew, to install: ${homebrewPackages[*]}"
+    prefix="$(brew --prefix)"
+    for package in "${homebrewPackages[@]}"; do
+        [ -d "$prefix/opt/$package" ] || missing+=("$package")
+    done
+    # Homebrew keeps its ICU apart from the system's, where CMake does not look by itself.
+    export ICU_ROOT="$prefix/opt/icu4c"
+    [ ${#missing[@]} -gt 0 ] || return 0
+    say "installing with Homebrew: ${missing[*]}"
+    brew install "${missing[@]}" </dev/null >&2 ||
+        fail "Homebrew could not install these formulae (its own messages are above): ${missing[*]}"
+}

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <ostream>
+
+namespace quillmark::cli {
+
+/// Where a command writes, and what is known of it. Data goes to `out` and nothing else does.
+struct Output
+{
+    std::ostream &out;
+    std::ostream &err;
+    bool isTerminal = false;      ///< `out` is one
+    int columns = 80;             ///< its width
+    bool colorIsWelcome = false;  ///< it is a terminal, and the environment does not say NO_COLOR
+
+    void write(const QString &text) const;
+    void write(const QByteArray &utf8) const;
+};
+
+/// Why a command could not do what it was asked: one line for standard error.
+struct Failure
+{
+    QString reason;
+};
+
+} // namespace quillmark::cli

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "reports/Report.h"
+
+#include <QString>
+
+namespace quillmark::cli {
+
+struct TerminalStyle
+{
+    int columns = 0; ///< to lay the text out in; 0: no limit, so that no value is broken
+    bool color = false;
+};
+
+/// The report as it is read on a terminal: headline, score, then each section's rows in aligned columns with a mark and a
+/// word for the status.
+QString terminalReport(const reports::Report &report, const TerminalStyle &style);
+
+} // namespace quillmark::cli

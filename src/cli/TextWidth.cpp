@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "cli/TextWidth.h"
+
+#include <unicode/uchar.h>
+
+namespace quillmark::cli {
+
+namespace {
+
+int codePointWidth(char32_t codePoint)
+{
+    const auto c = static_cast<UChar32>(codePoint);
+    switch (u_charType(c)) {
+    case U_NON_SPACING_MARK:
+    case U_ENCLOSING_MARK:
+    case U_FORMAT_CHAR:
+    case U_CONTROL_CHAR:
+        return 0;
+    default:
+        break;
+    }
+    switch (u_getIntPropertyValue(c, UCHAR_EAST_ASIAN_WIDTH)) {
+    case U_EA_FULLWIDTH:
+    case U_EA_WIDE:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
+bool runsRightToLeft(const QString &text)
+{
+    for (const char32_t codePoint : text.toUcs4()) {
+        const auto direction = u_charDirection(static_cast<UChar32>(codePoint));
+        if (direction == U_RIGHT_TO_LEFT || direction == U_RIGHT_TO_LEFT_ARABIC)
+            return true;
+    }
+    return false;
+}
+
+bool reordersText(QChar c)
+{
+    const auto code = c.unicode();
+    return (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+}
+
+/// How many characters of the text fit into that many columns; at least one, so that every line gets on.
+qsizetype fittingLength(const QString &text, int columns)
+{
+    qsizetype length = 0;
+    int width = 0;
+    while (length < text.size()) {
+        const qsizetype step = text.at(length).isHighSurrogate() && length + 1 < text.size() ? 2 : 1;
+        width += textWidth(text.mid(length, step));
+        if (width > columns && length > 0)
+            break;
+        length += step;
+    }
+    return length;
+}
+
+} // namespace
+
+int textWidth(const QString &text)
+{
+    int width = 0;
+    for (const char32_t codePoint : text.toUcs4())
+        width += codePointWidth(codePoint);
+    return width;
+}
+
+QString padded(const QString &text, int columns)
+{
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popIsolate(0x2069);
+    const QString spaces(qMax(0, columns - textWidth(text)), u' ');
+    return runsRightToLeft(text) ? firstStrongIsolate + text + popIsolate + spaces : text + spaces;
+}
+
+QStringList wrapped(const QString &text, int columns)
+{
+    QStringList lines;
+    QString rest = text;
+    while (textWidth(rest) > columns) {
+        const auto fitting = fittingLength(rest, columns);
+        const auto space = rest.lastIndexOf(u' ', fitting);
+        const auto end = space > 0 ? space : fitting;
+        lines += rest.left(end);
+        rest = rest.mid(end).trimmed();
+    }
+    lines += rest;
+    return lines;
+}
+
+QString printable(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar c : text) {
+        if (c.category() == QChar::Other_Control)
+            result += QChar(QChar::ReplacementCharacter);
+        else if (!reordersText(c))
+            result += c;
+    }
+    return result;
+}
+
+} // namespace quillmark::cli

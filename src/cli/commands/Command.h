@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "cli/Session.h"
+
+#include <CLI/App.hpp>
+
+#include <expected>
+#include <functional>
+
+namespace quillmark::cli {
+
+/// Called once the whole command line has been understood.
+using Command = std::function<std::expected<void, Failure>(const Session &)>;
+
+// Each adds its sub-command to the program; when that one is typed, `chosen` becomes what to do.
+void addInspect(CLI::App &program, Command &chosen);
+void addMachine(CLI::App &program, Command &chosen);
+
+} // namespace quillmark::cli

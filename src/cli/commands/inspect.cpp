@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "cli/TerminalReport.h"
+#include "cli/commands/Command.h"
+#include "inspection/DeviceProbe.h"
+#include "language/folding.h"
+#include "reports/Report.h"
+
+#include <CLI/Validators.hpp>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillmark::cli {
+
+namespace {
+
+using inspection::CapabilityItem;
+using inspection::CapabilitySection;
+using inspection::CapabilityStatus;
+
+struct InspectOptions
+{
+    bool json = false;
+    bool text = false;
+    bool markdown = false;
+    std::vector<std::string> statuses;
+    std::vector<std::string> sections;
+    std::string search;
+};
+
+/// Whether the row is among those asked for; an empty option asks for all.
+class RowFilter
+{
+public:
+    explicit RowFilter(const InspectOptions &options)
+        : m_search(language::folded(QString::fromStdString(options.search).trimmed()))
+    {
+        for (const auto &status : options.statuses)
+            m_statuses += *inspection::statusFromRawValue(QString::fromStdString(status));
+        for (const auto &section : options.sections)
+            m_sections += QString::fromStdString(section);
+    }
+
+    bool operator()(const CapabilitySection &section, const CapabilityItem &item) const
+    {
+        return (m_statuses.isEmpty() || m_statuses.contains(item.status))
+               && (m_sections.isEmpty() || m_sections.contains(section.key.value_or(QString()))) && matches(item);
+    }
+
+private:
+    bool matches(const CapabilityItem &item) const
+    {
+        return m_search.isEmpty() || language::folded(item.label).contains(m_search)
+               || language::folded(item.value).contains(m_search);
+    }
+
+    QList<CapabilityStatus> m_statuses;
+    QStringList m_sections;
+    QString m_search;
+};
+
+reports::Report inspectMachine(const platform::Machine &machine, const language::Formats &formats)
+{
+    return {.date = QDateTime::currentDateTimeUtc(),
+            .language = formats.language(),
+            .summary = inspection::DeviceProbe::summary(machine, formats),
+            .sections = inspection::DeviceProbe::sections(machine, formats, machine.network().currentPath())};
+}
+
+std::expected<void, Failure> inspect(const Session &session, const InspectOptions &options)
+{
+    const auto machine = session.openMachine();
+    if (!machine)
+        return std::unexpected(machine.error());
+    auto report = inspectMachine(**machine, session.language().formats());
+    report.filter = RowFilter(options);
+    const auto &output = session.output();
+    if (options.json)
+        output.write(reports::json(report));
+    else if (options.markdown)
+        output.write(reports::markdown(report));
+    else if (options.text)
+        output.write(reports::plainText(report));
+    else
+        output.write(terminalReport(report, {.columns = output.isTerminal ? output.columns : 0, .color = session.usesColor()}));
+    return {};
+}
+
+std::vector<std::string> statusNames()
+{
+    std::vector<std::string> names;
+    std::ranges::transform(inspection::allStatuses, std::back_inserter(names),
+                           [](CapabilityStatus status) { return rawValue(status).toStdString(); });
+    return names;
+}
+
+std::vector<std::string> sectionNames()
+{
+    std::vector<std::string> names;
+    std::ranges::transform(inspection::DeviceProbe::sectionKeys(), std::back_inserter(names), &QString::toStdString);
+    return names;
+}
+
+} // namespace
+
+void addInspect(CLI::App &program, Command &chosen)
+{
+    const auto options = std::make_shared<InspectOptions>();
+    auto *command = program.add_subcommand("inspect", "Inspect the machine and print every capability with its status");
+
+    auto *format = command->add_option_group("Format", "instead of the form for a terminal");
+    format->add_flag("--json", options->json, "Print the report as JSON (report-v1)");
+    format->add_flag("--markdown", options->markdown, "Print the report as Markdown");
+    format->add_flag("--text", options->text, "Print the report as plain text");
+    format->require_option(0, 1);
+
+    command->add_option("--section", options->sections, "Only this section (repeatable)")
+        ->check(CLI::IsMember(sectionNames()))
+        ->allow_extra_args(false)
+        ->option_text("KEY");
+    command->add_option("--status", options->statuses, "Only rows with this status (repeatable)")
+        ->check(CLI::IsMember(statusNames()))
+        ->allow_extra_args(false)
+        ->option_text("supported|unsupported|warning|info");
+    command->add_option("--search", options->search, "Only rows whose label or value contains this text")
+        ->option_text("TEXT");
+    command->footer("Examples:\n"
+                    "  quillmark inspect --status warning --status unsupported\n"
+                    "  quillmark inspect --json | jq '.sections[].items[] | select(.status == \"warning\")'\n"
+                    "  quillmark inspect --machine machines/macbook-pro-m3-max.json --section graphics");
+
+    command->callback([options, &chosen] {
+        chosen = [options](const Session &session) { return inspect(session, *options); };
+    });
+}
+
+} // namespace quillmark::cli

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "inspection/CapabilityModel.h"
+
+#include "inspection/Text.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillmark::inspection {
+
+QString rawValue(CapabilityStatus status)
+{
+    switch (status) {
+    case CapabilityStatus::Supported:
+        return QStringLiteral("supported");
+    case CapabilityStatus::Unsupported:
+        return QStringLiteral("unsupported");
+    case CapabilityStatus::Warning:
+        return QStringLiteral("warning");
+    case CapabilityStatus::Info:
+        break;
+    }
+    return QStringLiteral("info");
+}
+
+std::optional<CapabilityStatus> statusFromRawValue(QStringView text)
+{
+    for (const auto status : allStatuses) {
+        if (text == rawValue(status))
+            return status;
+    }
+    return std::nullopt;
+}
+
+QString title(CapabilityStatus status)
+{
+    switch (status) {
+    case CapabilityStatus::Supported:
+        return Text::tr("Supported");
+    case CapabilityStatus::Unsupported:
+        return Text::tr("Not supported");
+    case CapabilityStatus::Warning:
+        return Text::tr("Warning");
+    case CapabilityStatus::Info:
+        break;
+    }
+    return Text::tr("Info");
+}
+
+size_t qHash(const CapabilityItem &item, size_t seed)
+{
+    return qHashMulti(seed, item.id, item.label, item.value, static_cast<int>(item.status),
+                      item.key.value_or(QString()), item.isVolatile);
+}
+
+size_t qHash(const CapabilitySection &section, size_t seed)
+{
+    return qHashMulti(seed, section.id, section.title, section.symbol, section.items,
+                      section.key.value_or(QString()));
+}
+
+qsizetype count(const QList<CapabilitySection> &sections, CapabilityStatus status)
+{
+    qsizetype total = 0;
+    for (const auto &section : sections)
+        total += std::ranges::count(section.items, status, &CapabilityItem::status);
+    return total;
+}
+
+qsizetype ratedCount(const QList<CapabilitySection> &sections)
+{
+    return count(sections, CapabilityStatus::Supported) + count(sections, CapabilityStatus::Warning)
+           + count(sections, CapabilityStatus::Unsupported);
+}
+
+double capabilityScore(const QList<CapabilitySection> &sections)
+{
+    const auto supported = count(sections, CapabilityStatus::Supported);
+    const auto rated = ratedCount(sections);
+    return rated == 0 ? 0 : static_cast<double>(supported) / static_cast<double>(rated);
+}
+
+int scorePercent(const QList<CapabilitySection> &sections)
+{
+    const double score = capabilityScore(sections);
+    const int percent = static_cast<int>(std::floor(score * 100 + 0.5));
+    return score < 1 ? std::min(percent, 99) : percent;
+}
+
+} // namespace quillmark::inspection

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quillmark::json {
+
+/// Builds a JSON text value by value, in the order of the calls. The caller keeps objects and arrays balanced, and names
+/// each member of an object before its value.
+class Writer
+{
+public:
+    enum class Layout { Compact, Indented };
+
+    explicit Writer(Layout layout = Layout::Indented)
+        : m_layout(layout)
+    {}
+
+    void beginObject() { open('{'); }
+    void endObject() { close('}'); }
+    void beginArray() { open('['); }
+    void endArray() { close(']'); }
+
+    void key(std::string_view name);
+
+    /// UTF-8; a byte that is not part of valid UTF-8 is written as U+FFFD.
+    void string(std::string_view text);
+    void integer(std::int64_t number);
+    void integer(std::uint64_t number);
+    /// In the fewest digits that read back as the same double. What JSON cannot say (infinity, not a number) is null.
+    void number(double number);
+    void boolean(bool value);
+    void null();
+
+    void member(std::string_view name, std::string_view text) { key(name), string(text); }
+    void member(std::string_view name, const char *text) { key(name), string(text); }
+    void member(std::string_view name, std::same_as<bool> auto value) { key(name), boolean(value); }
+    void member(std::string_view name, double value) { key(name), number(value); }
+    void member(std::string_view name, std::signed_integral auto value)
+    {
+        key(name);
+        integer(std::int64_t{value});
+    }
+
+    /// The text so far; complete once every object and array has ended.
+    const std::string &text() const { return m_text; }
+    std::string take() { return std::move(m_text); }
+
+private:
+    void open(char bracket);
+    void close(char bracket);
+    void beforeValue();
+    void newLine();
+    void quoted(std::string_view text);
+
+    std::string m_text;
+    Layout m_layout;
+    std::size_t m_depth = 0;
+    bool m_first = true;     ///< nothing stands in the innermost object or array yet
+    bool m_afterKey = false;
+};
+
+} // namespace quillmark::json

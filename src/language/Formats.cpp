@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "language/Formats.h"
+
+#include <unicode/formattedvalue.h>
+#include <unicode/listformatter.h>
+#include <unicode/locid.h>
+#include <unicode/measunit.h>
+#include <unicode/numberformatter.h>
+#include <unicode/rbnf.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace quillmark::language {
+
+namespace {
+
+icu::Locale localeOf(const QString &language)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const auto locale = icu::Locale::forLanguageTag(language.toStdString(), status);
+    return U_SUCCESS(status) ? locale : icu::Locale::getRoot();
+}
+
+QString toQString(const icu::UnicodeString &text)
+{
+    return QString(reinterpret_cast<const QChar *>(text.getBuffer()), text.length());
+}
+
+icu::UnicodeString toUnicodeString(const QString &text)
+{
+    return {reinterpret_cast<const char16_t *>(text.utf16()), static_cast<int32_t>(text.size())};
+}
+
+enum Unit { Byte, Kilobyte, Megabyte, Gigabyte, Terabyte, Petabyte, UnitCount };
+
+constexpr std::array<int, UnitCount> fractionDigits = {0, 0, 1, 2, 2, 2};
+
+icu::MeasureUnit measureUnit(Unit unit)
+{
+    switch (unit) {
+    case Byte:
+        return icu::MeasureUnit::getByte();
+    case Kilobyte:
+        return icu::MeasureUnit::getKilobyte();
+    case Megabyte:
+        return icu::MeasureUnit::getMegabyte();
+    case Gigabyte:
+        return icu::MeasureUnit::getGigabyte();
+    case Terabyte:
+        return icu::MeasureUnit::getTerabyte();
+    default:
+        return icu::MeasureUnit::getPetabyte();
+    }
+}
+
+/// The first unit whose limit lies above the magnitude. A limit is the largest value that, rounded to the unit's digits,
+/// still shows fewer than a whole one of the next unit (swift-foundation, ByteCountFormatStyle).
+Unit unitFor(std::uint64_t magnitude, ByteCountStyle style)
+{
+    using Limits = std::array<std::uint64_t, UnitCount - 1>;
+    static constexpr Limits memory = {1023, 1048063, 1073689395, 1099506259066, 1125894409284485};
+    static constexpr Limits file = {999, 999499, 999949999, 999994999999, 999994999999999};
+    const Limits &limits = style == ByteCountStyle::Memory ? memory : file;
+    return static_cast<Unit>(std::ranges::upper_bound(limits, magnitude) - limits.begin());
+}
+
+icu::number::FormattedNumber formatMeasure(double amount, const icu::MeasureUnit &unit, UNumberUnitWidth width,
+                                           int fraction, const icu::Locale &locale, UErrorCode &status)
+{
+    using namespace icu::number;
+    return NumberFormatter::with()
+        .unit(unit)
+        .unitWidth(width)
+        .precision(Precision::maxFraction(fraction))
+        .roundingMode(UNUM_ROUND_HALFEVEN)
+        .locale(locale)
+        .formatDouble(amount, status);
+}
+
+icu::number::FormattedNumber formatBytes(double amount, Unit unit, const icu::Locale &locale, UErrorCode &status)
+{
+    const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
+    return formatMeasure(amount, measureUnit(unit), width, fractionDigits[unit], locale, status);
+}
+
+icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFormatterType type,
+                          UListFormatterWidth width, const icu::Locale &locale, UErrorCode &status)
+{
+    icu::UnicodeString text;
+    const std::unique_ptr<icu::ListFormatter> format(icu::ListFormatter::createInstance(locale, type, width, status));
+    if (format)
+        format->format(texts.data(), static_cast<int32_t>(texts.size()), text, status);
+    return text;
+}
+
+/// The languages in which a count of zero is written as a word.
+bool spellsOutZero(const icu::Locale &locale)
+{
+    constexpr std::array<std::string_view, 13> languages = {"ar", "da", "el", "en", "fr", "hi", "hr",
+                                                            "id", "it", "ms", "pt", "ro", "th"};
+    return std::ranges::find(languages, locale.getLanguage()) != languages.end();
+}
+
+/// "Zero kB": the formatted zero with its digit replaced by the language's word.
+icu::UnicodeString spelledZero(const icu::Locale &locale, UErrorCode &status)
+{
+    const auto formatted = formatBytes(0, Kilobyte, locale, status);
+    auto text = formatted.toString(status);
+    icu::ConstrainedFieldPosition digit;
+    digit.constrainField(UFIELD_CATEGORY_NUMBER, UNUM_INTEGER_FIELD);
+    if (!formatted.nextPosition(digit, status))
+        return text;
+    icu::RuleBasedNumberFormat spelling(icu::URBNF_SPELLOUT, locale, status);
+    spelling.setContext(UDISPCTX_CAPITALIZATION_FOR_BEGINNING_OF_SENTENCE, status);
+    icu::UnicodeString word;
+    spelling.format(0, word, status);
+    return text.replaceBetween(digit.getStart(), digit.getLimit(), word);
+}
+
+} // namespace
+
+Formats::Formats(QString language)
+    : m_language(std::move(language))
+{}
+
+QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
+{
+    const auto locale = localeOf(m_language);
+    UErrorCode status = U_ZERO_ERROR;
+    if (bytes == 0 && spellsOutZero(locale))
+        return toQString(spelledZero(locale, status));
+    const auto magnitude = bytes < 0 ? 0 - static_cast<std::uint64_t>(bytes) : static_cast<std::uint64_t>(bytes);
+    const Unit unit = bytes == 0 ? Kilobyte : unitFor(magnitude, style);
+    const double divisor = std::pow(style == ByteCountStyle::Memory ? 1024 : 1000, static_cast<int>(unit));
+    return toQString(formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
+}
+
+std::optional<QString> Formats::uptime(std::optional<double> seconds) const
+{
+    constexpr double longest = 1e12; // thirty thousand years: beyond it the clock is broken
+    if (!seconds || !(*seconds >= 0) || *seconds > longest)
+        return std::nullopt;
+    const auto locale = localeOf(m_language);
+    UErrorCode status = U_ZERO_ERROR;
+    std::vector<icu::UnicodeString> parts;
+    const auto add = [&](std::int64_t amount, const icu::MeasureUnit &unit) {
+        const auto part =
+            formatMeasure(static_cast<double>(amount), unit, UNUM_UNIT_WIDTH_NARROW, 0, locale, status);
+        parts.push_back(part.toString(status));
+    };
+    const auto minutes = static_cast<std::int64_t>(*seconds) / 60;
+    if (const auto days = minutes / (24 * 60))
+        add(days, icu::MeasureUnit::getDay());
+    if (const auto hours = minutes / 60 % 24)
+        add(hours, icu::MeasureUnit::getHour());
+    if (minutes % 60 != 0 || parts.empty())
+        add(minutes % 60, icu::MeasureUnit::getMinute());
+    const auto text = joined(parts, ULISTFMT_TYPE_UNITS, ULISTFMT_WIDTH_NARROW, locale, status);
+    return U_SUCCESS(status) ? std::optional(toQString(text)) : std::nullopt;
+}
+
+QString Formats::list(const QStringList &items) const
+{
+    UErrorCode status = U_ZERO_ERROR;
+    std::vector<icu::UnicodeString> texts(static_cast<std::size_t>(items.size()));
+    std::ranges::transform(items, texts.begin(), toUnicodeString);
+    const auto text = joined(texts, ULISTFMT_TYPE_AND, ULISTFMT_WIDTH_WIDE, localeOf(m_language), status);
+    return U_SUCCESS(status) ? toQString(text) : items.join(QStringLiteral(", "));
+}
+
+} // namespace quillmark::language

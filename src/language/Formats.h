@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <optional>
+
+namespace quillmark::language {
+
+enum class ByteCountStyle {
+    Memory, ///< powers of 1024
+    File,   ///< powers of 1000
+};
+
+/// Values as a language writes them, the same on every system: word for word what Foundation's formatters give on a Mac.
+///
+/// A value without state of its own; its calls may be made from any thread.
+class Formats
+{
+public:
+    /// `language` is a BCP 47 tag: "en", "pt-BR".
+    explicit Formats(QString language);
+
+    const QString &language() const { return m_language; }
+
+    /// "16 GB", "494.38 GB", "Zero kB". Both styles name their units kB, MB, GB, …
+    QString byteCount(std::int64_t bytes, ByteCountStyle style) const;
+
+    /// Days, hours and minutes with short names: "3d 4h", "0m". None when there is no such time.
+    std::optional<QString> uptime(std::optional<double> seconds) const;
+
+    /// "low power and external eGPU"
+    QString list(const QStringList &items) const;
+
+private:
+    QString m_language;
+};
+
+} // namespace quillmark::language

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace quillmark::platform
+{
+
+/// Owns an open file descriptor; may hold none.
+class FileDescriptor
+{
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int number)
+        : m_number(number)
+    {
+    }
+    FileDescriptor(FileDescriptor &&other) noexcept
+        : m_number(std::exchange(other.m_number, -1))
+    {
+    }
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
+    ~FileDescriptor();
+
+    explicit operator bool() const { return m_number >= 0; }
+    int number() const { return m_number; }
+
+private:
+    int m_number = -1;
+};
+
+/// The files that the kernel and the system describe themselves with, under a root. Paths are absolute and
+/// are taken below that root. Nothing here waits for a file that is not ready, and whatever cannot be read is
+/// absent.
+class Files
+{
+public:
+    explicit Files(const std::filesystem::path &root);
+
+    std::string pathOf(std::string_view path) const { return m_root + std::string(path); }
+
+    FileDescriptor open(std::string_view path) const;
+
+    /// The text of a file with one value, got in one read (an attribute in /sys fits in a page), without the
+    /// white space and zero bytes around it. None also when nothing is left.
+    std::optional<std::string> value(std::string_view path) const;
+
+    /// The same as a number in the base, if all of the text is one.
+    std::optional<std::int64_t> number(std::string_view path, int base = 10) const;
+
+    /// A table, at most the first MiB.
+    std::optional<std::string> text(std::string_view path) const;
+
+    /// As text(), but in small steps that end as soon as what was read is enough, and after 64 KiB: for
+    /// tables that the kernel writes while they are read.
+    std::optional<std::string> beginning(std::string_view path, bool (*isEnough)(std::string_view)) const;
+
+    bool exists(std::string_view path) const;
+
+    /// The last component of what a symbolic link points to.
+    std::optional<std::string> linkName(std::string_view path) const;
+
+    /// The names in a folder that begin with the prefix, in no order. Empty when there is no such folder.
+    std::vector<std::string> names(std::string_view folder, std::string_view prefix = {}) const;
+
+private:
+    std::string m_root; ///< without the final slash: empty for "/"
+};
+
+/// A file that stays open and is read again from its beginning each time. The kernel writes such a file anew
+/// then.
+class HeldFile
+{
+public:
+    HeldFile(Files files, std::string path);
+
+    /// The text, at most the first MiB; valid until the next call. None when it cannot be read or is empty; a
+    /// file that was missing is looked for again.
+    std::optional<std::string_view> read();
+
+private:
+    Files m_files;
+    std::string m_path;
+    FileDescriptor m_file;
+    std::vector<char> m_buffer;
+};
+
+} // namespace quillmark::platform

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/LinuxMachine.h"
+
+#include "platform/linux/Files.h"
+#include "platform/linux/LinuxAbsent.h"
+#include "platform/linux/LinuxCounters.h"
+#include "platform/linux/LinuxGraphics.h"
+#include "platform/linux/LinuxKernelValues.h"
+#include "platform/linux/LinuxNetwork.h"
+#include "platform/linux/LinuxPower.h"
+#include "platform/linux/LinuxProcessor.h"
+#include "platform/linux/LinuxSystemInformation.h"
+#include "platform/linux/LinuxVolumes.h"
+
+namespace quillmark::platform
+{
+
+namespace
+{
+
+class LinuxMachine final : public Machine
+{
+public:
+    explicit LinuxMachine(const Files &files)
+        : m_processor(files)
+        , m_kernelValues(files, m_processor)
+        , m_system(files, m_processor)
+        , m_counters(files)
+        , m_power(files)
+        , m_graphics(files)
+        , m_volumes(files)
+        , m_network(files)
+    {
+    }
+
+    const KernelValues &kernelValues() const override { return m_kernelValues; }
+    const SystemInformation &system() const override { return m_system; }
+    const Counters &counters() const override { return m_counters; }
+    const Power &power() const override { return m_power; }
+    const Registry &registry() const override { return m_registry; }
+    const Graphics &graphics() const override { return m_graphics; }
+    const Media &media() const override { return m_media; }
+    const Volumes &volumes() const override { return m_volumes; }
+    const Network &network() const override { return m_network; }
+
+private:
+    LinuxProcessor m_processor;
+    LinuxKernelValues m_kernelValues;
+    LinuxSystemInformation m_system;
+    LinuxCounters m_counters;
+    LinuxPower m_power;
+    LinuxRegistry m_registry;
+    LinuxGraphics m_graphics;
+    LinuxMedia m_media;
+    LinuxVolumes m_volumes;
+    LinuxNetwork m_network;
+};
+
+} // namespace
+
+std::unique_ptr<Machine> linuxMachine(const std::filesystem::path &root)
+{
+    return std::make_unique<LinuxMachine>(Files(root));
+}
+
+std::unique_ptr<Machine> thisMachine()
+{
+    return linuxMachine();
+}
+
+} // namespace quillmark::platform

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/LinuxNetwork.h"
+
+#include "platform/linux/LinuxPathWatch.h"
+#include "platform/linux/RouteFiles.h"
+#include "platform/linux/TextFields.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <utility>
+
+#include <arpa/inet.h>
+#include <ifaddrs.h>
+#include <linux/if_link.h>
+#include <net/if.h>
+#include <net/if_arp.h>
+#include <netinet/in.h>
+
+namespace quillmark::platform
+{
+
+namespace
+{
+
+std::optional<std::string> numericAddress(const sockaddr &address)
+{
+    std::array<char, INET6_ADDRSTRLEN> text = {};
+    const char *written = nullptr;
+    if (address.sa_family == AF_INET) {
+        sockaddr_in internet = {};
+        std::memcpy(&internet, &address, sizeof internet);
+        written = ::inet_ntop(AF_INET, &internet.sin_addr, text.data(), text.size());
+    } else {
+        sockaddr_in6 internet = {};
+        std::memcpy(&internet, &address, sizeof internet);
+        written = ::inet_ntop(AF_INET6, &internet.sin6_addr, text.data(), text.size());
+    }
+    return written ? std::optional<std::string>(written) : std::nullopt;
+}
+
+/// None for a family that has no place in the list.
+std::optional<InterfaceEntry> entryOf(const ifaddrs &found, InterfaceEntries wanted)
+{
+    if (!found.ifa_addr)
+        return std::nullopt;
+    InterfaceEntry entry;
+    const int family = found.ifa_addr->sa_family;
+    if (family == AF_PACKET) {
+        // The counters of 32 bits, which the kernel cuts from its own of 64.
+        if (const auto *counters = static_cast<const rtnl_link_stats *>(found.ifa_data)) {
+            entry.receivedBytes = counters->rx_bytes;
+            entry.sentBytes = counters->tx_bytes;
+        }
+    } else if (wanted == InterfaceEntries::All && (family == AF_INET || family == AF_INET6)) {
+        entry.family = family == AF_INET ? AddressFamily::IPv4 : AddressFamily::IPv6;
+        entry.address = numericAddress(*found.ifa_addr);
+    } else {
+        return std::nullopt;
+    }
+    entry.name = found.ifa_name;
+    entry.up = (found.ifa_flags & IFF_UP) != 0;
+    entry.loopback = (found.ifa_flags & IFF_LOOPBACK) != 0;
+    return entry;
+}
+
+InterfaceType typeOf(const Files &files, const std::string &interfaceName)
+{
+    const std::string folder = "/sys/class/net/" + interfaceName + "/";
+    const std::string uevent = files.value(folder + "uevent").value_or(std::string());
+    const auto deviceType = assignedValue(uevent, "DEVTYPE");
+    if (deviceType == "wlan" || files.exists(folder + "phy80211"))
+        return InterfaceType::Wifi;
+    if (deviceType == "wwan")
+        return InterfaceType::Cellular;
+    const auto hardware = files.number(folder + "type");
+    if (hardware == ARPHRD_LOOPBACK)
+        return InterfaceType::Loopback;
+    // A tunnel of whole frames and a bridge call themselves Ethernet too.
+    if (hardware == ARPHRD_ETHER && !files.exists(folder + "tun_flags") && !files.exists(folder + "bridge"))
+        return InterfaceType::Wired;
+    return InterfaceType::Other;
+}
+
+/// A route stays in the table when the cable is pulled. An interface that does not know its state counts as
+/// connected.
+bool isConnected(const Files &files, const std::string &interfaceName)
+{
+    const auto state = files.value("/sys/class/net/" + interfaceName + "/operstate");
+    return state != "down" && state != "lowerlayerdown" && state != "notpresent";
+}
+
+/// Takes the preferred route that leads out; whether there is one.
+bool addRoute(const Files &files, const std::vector<DefaultRoute> &routes, PathReading &reading)
+{
+    const auto route = std::ranges::find_if(routes, [&files](const DefaultRoute &candidate) {
+        return isConnected(files, candidate.interfaceName);
+    });
+    if (route == routes.end())
+        return false;
+    if (std::ranges::find(reading.interfaceNames, route->interfaceName) != reading.interfaceNames.end())
+        return true;
+    reading.interfaceNames.push_back(route->interfaceName);
+    const InterfaceType type = typeOf(files, route->interfaceName);
+    if (std::ranges::find(reading.path.interfaceTypes, type) == reading.path.interfaceTypes.end())
+        reading.path.interfaceTypes.push_back(type);
+    return true;
+}
+
+} // namespace
+
+std::vector<InterfaceEntry> readInterfaces(InterfaceEntries wanted)
+{
+    std::vector<InterfaceEntry> entries;
+    ifaddrs *list = nullptr;
+    if (::getifaddrs(&list) != 0)
+        return entries;
+    for (const ifaddrs *found = list; found; found = found->ifa_next) {
+        if (auto entry = entryOf(*found, wanted))
+            entries.push_back(std::move(*entry));
+    }
+    ::freeifaddrs(list);
+    return entries;
+}
+
+std::optional<PathReading> readPath(const Files &files)
+{
+    const auto routes = files.text("/proc/net/route");
+    const auto ipv6Routes = files.text("/proc/net/ipv6_route");
+    if (!routes && !ipv6Routes)
+        return std::nullopt;
+    PathReading reading;
+    NetworkPath &path = reading.path;
+    path.supportsIPv4 = routes && addRoute(files, parseRoute(*routes), reading);
+    path.supportsIPv6 = ipv6Routes && addRoute(files, parseIpv6Route(*ipv6Routes), reading);
+    const bool isSatisfied = path.supportsIPv4 || path.supportsIPv6;
+    path.status = isSatisfied ? NetworkPath::Status::Satisfied : NetworkPath::Status::Unsatisfied;
+    if (isSatisfied)
+        path.supportsDNS = hasNameServer(files.text("/etc/resolv.conf").value_or(std::string()));
+    return reading;
+}
+
+LinuxNetwork::LinuxNetwork(const Files &files)
+    : m_files(files)
+{
+}
+
+std::vector<InterfaceEntry> LinuxNetwork::interfaces() const
+{
+    return readInterfaces(InterfaceEntries::All);
+}
+
+std::optional<NetworkPath> LinuxNetwork::currentPath() const
+{
+    auto reading = readPath(m_files);
+    return reading ? std::optional(std::move(reading->path)) : std::nullopt;
+}
+
+std::unique_ptr<PathWatch> LinuxNetwork::watchPath(PathHandler handler) const
+{
+    return startPathWatch(m_files, std::move(handler));
+}
+
+} // namespace quillmark::platform

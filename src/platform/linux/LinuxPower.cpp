@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/LinuxPower.h"
+
+#include "platform/linux/TextFields.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace quillmark::platform
+{
+
+namespace
+{
+
+/// The properties of a supply: the lines of its uevent file, which the kernel fills in one go.
+struct Supply {
+    std::string name; ///< of its folder: "BAT0"
+    std::string type;
+    std::string lines;
+
+    std::string_view text(std::string_view property) const
+    {
+        return assignedValue(lines, "POWER_SUPPLY_" + std::string(property)).value_or(std::string_view());
+    }
+    std::optional<std::int64_t> number(std::string_view property) const
+    {
+        return parseNumber<std::int64_t>(text(property));
+    }
+};
+
+std::vector<Supply> suppliesOf(const Files &files)
+{
+    const std::string folder = "/sys/class/power_supply/";
+    std::vector<std::string> names = files.names(folder);
+    std::ranges::sort(names);
+    std::vector<Supply> supplies;
+    for (std::string &name : names) {
+        auto lines = files.value(folder + name + "/uevent");
+        if (!lines)
+            continue;
+        Supply supply = {std::move(name), {}, std::move(*lines)};
+        supply.type = supply.text("TYPE");
+        // Kernels before 5.8 leave it out.
+        if (supply.type.empty())
+            supply.type = files.value(folder + supply.name + "/type").value_or(std::string());
+        if (supply.text("SCOPE") != "Device")
+            supplies.push_back(std::move(supply));
+    }
+    return supplies;
+}
+
+bool bringsPower(const Supply &supply)
+{
+    const bool isLine = supply.type == "Mains" || supply.type == "Wireless" || supply.type.starts_with("USB");
+    // 2 is "online with a voltage that can be programmed".
+    return isLine && supply.number("ONLINE").value_or(0) > 0;
+}
+
+/// Percent of what the battery can hold now.
+std::optional<std::int64_t> capacityOf(const Supply &supply)
+{
+    if (const auto capacity = supply.number("CAPACITY"); capacity && *capacity >= 0)
+        return std::min<std::int64_t>(*capacity, 100);
+    for (const std::string unit : {"ENERGY", "CHARGE"}) {
+        const auto now = supply.number(unit + "_NOW");
+        const auto full = supply.number(unit + "_FULL");
+        if (now && full && *now >= 0 && *full > 0) {
+            const double share = static_cast<double>(*now) / static_cast<double>(*full);
+            return static_cast<std::int64_t>(std::min(share, 1.0) * 100 + 0.5);
+        }
+    }
+    return std::nullopt;
+}
+
+/// Whether the machine runs on the line; none when neither a supply nor the battery tells.
+std::optional<bool> isOnLine(const Supply &supply, bool isLineOnline)
+{
+    const std::string_view status = supply.text("STATUS");
+    if (isLineOnline)
+        return true;
+    if (status == "Discharging")
+        return false;
+    return status == "Charging" || status == "Not charging" || status == "Full" ? std::optional(true)
+                                                                                : std::nullopt;
+}
+
+PropertyMap describe(const Supply &supply, bool isLineOnline)
+{
+    const bool isBattery = supply.type == "Battery";
+    PropertyMap source;
+    source["Type"].value = std::string(isBattery ? "InternalBattery" : "UPS");
+    if (isBattery)
+        source["Transport Type"].value = std::string("Internal");
+    source["Name"].value = supply.name;
+    source["Is Present"].value = true;
+    if (const auto capacity = capacityOf(supply)) {
+        source["Current Capacity"].value = *capacity;
+        source["Max Capacity"].value = std::int64_t{100};
+    }
+    const std::string_view status = supply.text("STATUS");
+    if (!status.empty() && status != "Unknown")
+        source["Is Charging"].value = status == "Charging";
+    if (status == "Full")
+        source["Is Charged"].value = true;
+    if (const auto onLine = isOnLine(supply, isLineOnline))
+        source["Power Source State"].value = std::string(*onLine ? "AC Power" : "Battery Power");
+    const std::string_view health = supply.text("HEALTH");
+    if (!health.empty() && health != "Unknown")
+        source["BatteryHealth"].value = std::string(health);
+    return source;
+}
+
+} // namespace
+
+LinuxPower::LinuxPower(const Files &files)
+    : m_files(files)
+{
+}
+
+std::vector<PropertyMap> LinuxPower::powerSources() const
+{
+    const std::vector<Supply> supplies = suppliesOf(m_files);
+    const bool isLineOnline = std::ranges::any_of(supplies, bringsPower);
+    std::vector<PropertyMap> sources;
+    for (const std::string_view type : {"Battery", "UPS"}) {
+        for (const Supply &supply : supplies) {
+            if (supply.type == type && supply.text("PRESENT") != "0")
+                sources.push_back(describe(supply, isLineOnline));
+        }
+    }
+    return sources;
+}
+
+} // namespace quillmark::platform

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/SystemInformation.h"
+#include "platform/linux/Files.h"
+#include "platform/linux/LinuxProcessor.h"
+
+#include <map>
+#include <string>
+
+namespace quillmark::platform
+{
+
+class LinuxSystemInformation final : public SystemInformation
+{
+public:
+    /// The processor must live longer.
+    LinuxSystemInformation(const Files &files, const LinuxProcessor &processor);
+
+    OperatingSystem operatingSystem() const override;
+    SystemWords words() const override;
+    std::optional<InstructionSet> instructionSet() const override;
+    std::optional<std::string> hostName() const override;
+    std::int64_t physicalMemory() const override;
+    std::optional<double> uptime() const override;
+    std::int32_t thermalState() const override;
+
+private:
+    std::map<std::string, std::string, std::less<>> osRelease() const;
+    std::string operatingSystemWords() const;
+    std::string architectureWord() const;
+    std::string processorWord() const;
+
+    Files m_files;
+    const LinuxProcessor &m_processor;
+};
+
+} // namespace quillmark::platform

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Volumes.h"
+#include "platform/linux/Files.h"
+
+namespace quillmark::platform
+{
+
+class LinuxVolumes final : public Volumes
+{
+public:
+    explicit LinuxVolumes(const Files &files);
+
+    std::optional<StartupVolume> startupVolume() const override;
+
+private:
+    Files m_files;
+};
+
+} // namespace quillmark::platform

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "inspection/CapabilityModel.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace quillmark::reports {
+
+/// One inspection as it is written down. Every format walks this value, so that no two of them disagree.
+struct Report
+{
+    std::optional<QDateTime> date; ///< of the inspection, any time zone; absent before the first one
+    QString language;              ///< tag of the interface language that the texts are in
+    inspection::DeviceSummary summary;
+    QList<inspection::CapabilitySection> sections; ///< all of them, in inspection order
+    /// The rows to write; empty: all. Counts and score are of all rows in any case.
+    std::function<bool(const inspection::CapabilitySection &, const inspection::CapabilityItem &)> filter;
+};
+
+/// The version of this program, "1.0.0".
+QString applicationVersion();
+
+/// The sections of the report with the rows that the filter lets through; sections left without rows stand there too.
+QList<inspection::CapabilitySection> filteredSections(const Report &report);
+
+/// What copying puts on the pasteboard: headline, then a line for each row.
+QString plainText(const Report &report);
+
+/// A table for each section. Texts are escaped so that they read the same wherever Markdown is rendered.
+QString markdown(const Report &report);
+
+/// The object "report-v1" (docs/contracts.md), UTF-8, indented, ending with a line break.
+QByteArray json(const Report &report);
+
+} // namespace quillmark::reports
