@@ -5,12 +5,13 @@
 # Sets the machine up and builds. Sourced with $script, the resolved path of a script in the folder above this one.
 # Standard output stays the program's: all that is said here goes to standard error.
 
-root="${script%/script/*}"
+root="${script:?is set by whoever sources this}"
+root="${root%/script/*}"
 
 say() { printf 'Quillmark: %s\n' "$*" >&2; }
 fail() { say "$@"; exit 1; }
 
-# shellcheck source=script/lib/packages.sh
+# shellcheck source=packages.sh source-path=SCRIPTDIR
 . "$root/script/lib/packages.sh"
 
 # One set-up and build of a checkout at a time. The lock is on the folder itself, so that it leaves no file behind.
@@ -60,7 +61,7 @@ prepare() {
 build() {
     local folder="$root/build/$1" configure=(cmake -S "$root" --preset "$@")
     local stamp="$folder/configured-with"
-    mkdir -p "$folder" && [ -w "$folder" ] || fail "cannot write to $folder"
+    if ! mkdir -p "$folder" || [ ! -w "$folder" ]; then fail "cannot write to $folder"; fi
     [ -w "${HOME:-/}" ] || export CCACHE_DIR="$root/build/ccache"
 
     if [ "$(cat "$stamp" 2>/dev/null)" != "${configure[*]}" ] || [ "$root/CMakePresets.json" -nt "$stamp" ] ||

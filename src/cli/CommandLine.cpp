@@ -33,15 +33,17 @@ int rejectCommandLine(const CLI::App &program, const CLI::Error &error, const Ou
 
 void addCommonOptions(CLI::App &program, CommonOptions &options)
 {
-    program.add_option("--machine", options.machineFile, "Inspect this recorded machine instead of the one at hand")
+    program
+        .add_option("--machine", options.machineFile,
+                    "Inspect this recorded machine instead of the one at hand")
         ->envname("QUILLMARK_MACHINE")
         ->option_text("FILE");
     program.add_option("--language", options.language, "Interface language for this run")
         ->check([](const std::string &tag) {
             if (!language::LanguageManager::match(QString::fromStdString(tag)).isEmpty())
                 return std::string();
-            return "there is no '" + tag + "'; the languages are: "
-                   + language::LanguageManager::available().join(QStringLiteral(", ")).toStdString();
+            return "there is no '" + tag + "'; the languages are: " +
+                   language::LanguageManager::available().join(QStringLiteral(", ")).toStdString();
         })
         ->option_text("TAG");
     program.add_flag("--no-color", options.noColor, "No colours, even on a terminal");
@@ -57,7 +59,8 @@ int report(const Failure &failure, const Output &output)
 
 } // namespace
 
-int run(int argumentCount, const char *const *arguments, const Output &output, const MachineSource &thisMachine)
+int run(int argumentCount, const char *const *arguments, const Output &output,
+        const MachineSource &thisMachine)
 {
     CLI::App program("Tells what this computer can really do.", "quillmark");
     program.set_version_flag("--version", "quillmark " + reports::applicationVersion().toStdString());

@@ -21,6 +21,7 @@ enum ExitStatus {
 using MachineSource = std::function<std::unique_ptr<platform::Machine>()>;
 
 /// Runs the program `quillmark` with its arguments, and returns its exit status.
-int run(int argumentCount, const char *const *arguments, const Output &output, const MachineSource &thisMachine);
+int run(int argumentCount, const char *const *arguments, const Output &output,
+        const MachineSource &thisMachine);
 
 } // namespace quillmark::cli

@@ -15,9 +15,9 @@ struct Output
 {
     std::ostream &out;
     std::ostream &err;
-    bool isTerminal = false;      ///< `out` is one
-    int columns = 80;             ///< its width
-    bool colorIsWelcome = false;  ///< it is a terminal, and the environment does not say NO_COLOR
+    bool isTerminal = false;     ///< `out` is one
+    int columns = 80;            ///< its width
+    bool colorIsWelcome = false; ///< it is a terminal, and the environment does not say NO_COLOR
 
     void write(const QString &text) const;
     void write(const QByteArray &utf8) const;

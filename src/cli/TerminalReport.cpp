@@ -25,8 +25,8 @@ class Text
 };
 
 constexpr int gap = 2;
-constexpr int markWidth = 4;        // two spaces, the mark, a space
-constexpr int narrowestValue = 16;  // below this a narrow terminal has to scroll
+constexpr int markWidth = 4;       // two spaces, the mark, a space
+constexpr int narrowestValue = 16; // below this a narrow terminal has to scroll
 constexpr int barLength = 24;
 
 // ANSI colours, which each terminal's own palette makes fit its ground.
@@ -147,16 +147,16 @@ private:
         const auto supported = inspection::count(sections, CapabilityStatus::Supported);
         const double score = inspection::capabilityScore(sections);
         const int filled = static_cast<int>(score * barLength);
-        m_text += u'\n' + styled(Text::tr("Capability score"), bold) + u"  "_s
-                  + styled(QString(filled, u'█'), colorOf(CapabilityStatus::Supported))
-                  + styled(QString(barLength - filled, u'░'), faint) + u"  "_s
-                  + styled(u"%1%"_s.arg(inspection::scorePercent(sections)), bold) + u'\n';
+        m_text += u'\n' + styled(Text::tr("Capability score"), bold) + u"  "_s +
+                  styled(QString(filled, u'█'), colorOf(CapabilityStatus::Supported)) +
+                  styled(QString(barLength - filled, u'░'), faint) + u"  "_s +
+                  styled(u"%1%"_s.arg(inspection::scorePercent(sections)), bold) + u'\n';
         addWrapped(Text::tr("%1 of %2 rated capabilities supported").arg(supported).arg(rated));
 
         QStringList counts;
         for (const auto status : inspection::allStatuses) {
-            counts += styled(mark(status), colorOf(status))
-                      + u" %1 %2"_s.arg(inspection::count(sections, status)).arg(title(status));
+            counts += styled(mark(status), colorOf(status)) +
+                      u" %1 %2"_s.arg(inspection::count(sections, status)).arg(title(status));
         }
         m_text += counts.join(u"   "_s) + u'\n';
     }
@@ -173,9 +173,9 @@ private:
         const auto value = printable(item.value);
         const auto lines = m_style.columns > 0 ? wrapped(value, m_columns.value) : QStringList{value};
         const auto status = title(item.status);
-        m_text += u"  "_s + styled(mark(item.status), colorOf(item.status)) + u' '
-                  + padded(printable(item.label), m_columns.label + gap) + padded(lines.first(), m_columns.value + gap)
-                  + styled(status, colorOf(item.status)) + u'\n';
+        m_text += u"  "_s + styled(mark(item.status), colorOf(item.status)) + u' ' +
+                  padded(printable(item.label), m_columns.label + gap) +
+                  padded(lines.first(), m_columns.value + gap) + styled(status, colorOf(item.status)) + u'\n';
         for (const auto &line : lines.mid(1))
             m_text += QString(markWidth + m_columns.label + gap, u' ') + line + u'\n';
     }

@@ -15,8 +15,8 @@ struct TerminalStyle
     bool color = false;
 };
 
-/// The report as it is read on a terminal: headline, score, then each section's rows in aligned columns with a mark and a
-/// word for the status.
+/// The report as it is read on a terminal: headline, score, then each section's rows in aligned columns with
+/// a mark and a word for the status.
 QString terminalReport(const reports::Report &report, const TerminalStyle &style);
 
 } // namespace quillmark::cli

@@ -11,14 +11,15 @@ namespace quillmark::cli {
 /// The columns that the text takes on a terminal: wide characters two, combining ones none.
 int textWidth(const QString &text);
 
-/// The text with spaces after it up to that many columns. One that runs from right to left is isolated from what stands
-/// beside it, so that the columns stay in place on terminals that order such text.
+/// The text with spaces after it up to that many columns. One that runs from right to left is isolated from
+/// what stands beside it, so that the columns stay in place on terminals that order such text.
 QString padded(const QString &text, int columns);
 
 /// The text in lines of at most that many columns, broken between words where possible.
 QStringList wrapped(const QString &text, int columns);
 
-/// The text without what would steer a terminal: control characters become U+FFFD, marks that reorder text are dropped.
+/// The text without what would steer a terminal: control characters become U+FFFD, marks that reorder text
+/// are dropped.
 QString printable(const QString &text);
 
 } // namespace quillmark::cli

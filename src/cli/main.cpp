@@ -4,13 +4,13 @@
 #include "cli/CommandLine.h"
 #include "platform/Machine.h"
 
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace {
 

@@ -73,8 +73,8 @@ qsizetype count(const QList<CapabilitySection> &sections, CapabilityStatus statu
 
 qsizetype ratedCount(const QList<CapabilitySection> &sections)
 {
-    return count(sections, CapabilityStatus::Supported) + count(sections, CapabilityStatus::Warning)
-           + count(sections, CapabilityStatus::Unsupported);
+    return count(sections, CapabilityStatus::Supported) + count(sections, CapabilityStatus::Warning) +
+           count(sections, CapabilityStatus::Unsupported);
 }
 
 double capabilityScore(const QList<CapabilitySection> &sections)

@@ -83,7 +83,8 @@ qsizetype ratedCount(const QList<CapabilitySection> &sections);
 /// The share of rated rows that are supported, from 0 to 1; 0 when none is rated.
 double capabilityScore(const QList<CapabilitySection> &sections);
 
-/// The score as a whole percentage, as it is shown everywhere: rounded, but 100 only when every rated row is supported.
+/// The score as a whole percentage, as it is shown everywhere: rounded, but 100 only when every rated row is
+/// supported.
 int scorePercent(const QList<CapabilitySection> &sections);
 
 } // namespace quillmark::inspection

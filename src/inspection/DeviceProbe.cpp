@@ -19,7 +19,7 @@ using platform::find;
 using platform::get;
 using platform::PropertyMap;
 
-template<typename Integer>
+template <typename Integer>
 std::int64_t widened(const platform::Bytes &bytes)
 {
     Integer number = 0;
@@ -85,6 +85,11 @@ bool sysctlFlag(const platform::Machine &machine, std::string_view name)
     return sysctlInt(machine, name) == 1;
 }
 
+bool isMac(const platform::Machine &machine)
+{
+    return machine.system().operatingSystem().name == "macOS";
+}
+
 bool isAppleSilicon(const platform::Machine &machine)
 {
     return sysctlFlag(machine, "hw.optional.arm64");
@@ -104,7 +109,8 @@ QString osVersionDescription(const platform::Machine &machine)
     if (const auto word = machine.system().words().operatingSystem)
         return QString::fromStdString(*word);
     const auto version = machine.system().operatingSystem();
-    QString text = u"%1 %2.%3"_s.arg(QString::fromStdString(version.name)).arg(version.major).arg(version.minor);
+    QString text =
+        u"%1 %2.%3"_s.arg(QString::fromStdString(version.name)).arg(version.major).arg(version.minor);
     if (version.patch >= 1)
         text += u".%1"_s.arg(version.patch);
     if (const auto name = versionName(version); !name.isEmpty())
@@ -149,7 +155,8 @@ std::optional<int> highestAppleFamily(const platform::GraphicsDevice &device)
 QSet<std::uint32_t> hardwareEncoders(const platform::Machine &machine)
 {
     QSet<std::uint32_t> codecs;
-    for (const auto &encoder : machine.media().videoEncoders().value_or(std::vector<platform::VideoEncoder>())) {
+    for (const auto &encoder :
+         machine.media().videoEncoders().value_or(std::vector<platform::VideoEncoder>())) {
         if (encoder.isHardwareAccelerated.value_or(false))
             codecs.insert(encoder.codecType);
     }
@@ -176,7 +183,8 @@ QList<std::pair<QString, QString>> ipv4Addresses(const platform::Machine &machin
     QList<std::pair<QString, QString>> addresses;
     for (const auto &entry : machine.network().interfaces()) {
         if (entry.family == platform::AddressFamily::IPv4 && entry.address && entry.up && !entry.loopback)
-            addresses.emplace_back(QString::fromStdString(entry.name), QString::fromStdString(*entry.address));
+            addresses.emplace_back(QString::fromStdString(entry.name),
+                                   QString::fromStdString(*entry.address));
     }
     return addresses;
 }

@@ -16,8 +16,8 @@
 #include <string_view>
 #include <utility>
 
-/// The probes of an inspection: each takes a machine and returns values, changes nothing and keeps nothing. What cannot
-/// be read is absent, or shown by a fallback text; no probe fails.
+/// The probes of an inspection: each takes a machine and returns values, changes nothing and keeps nothing.
+/// What cannot be read is absent, or shown by a fallback text; no probe fails.
 ///
 /// A probe reads the machine on the calling thread, for as long as that takes.
 namespace quillmark::inspection::DeviceProbe {
@@ -57,6 +57,15 @@ QStringList sectionKeys();
 CapabilitySection systemSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection processorSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection graphicsSection(const platform::Machine &machine, const language::Formats &formats);
+CapabilitySection intelligenceSection(const platform::Machine &machine, const language::Formats &formats);
+CapabilitySection displaysSection(const platform::Machine &machine, const language::Formats &formats);
+CapabilitySection mediaSection(const platform::Machine &machine, const language::Formats &formats);
+CapabilitySection cameraAudioSection(const platform::Machine &machine, const language::Formats &formats);
+CapabilitySection storageSection(const platform::Machine &machine, const language::Formats &formats);
+CapabilitySection powerSection(const platform::Machine &machine, const language::Formats &formats);
+CapabilitySection networkSection(const platform::Machine &machine, const language::Formats &formats,
+                                 const std::optional<platform::NetworkPath> &networkPath);
+CapabilitySection securitySection(const platform::Machine &machine, const language::Formats &formats);
 
 /// A kernel value as text, up to its first zero byte.
 std::optional<QString> sysctlString(const platform::Machine &machine, std::string_view name);
@@ -68,6 +77,8 @@ bool sysctlFlag(const platform::Machine &machine, std::string_view name);
 QString chipName(const platform::Machine &machine);
 /// "macOS 15.3.1 Sequoia (24D70)"
 QString osVersionDescription(const platform::Machine &machine);
+/// False on every other system, whose facts and words differ.
+bool isMac(const platform::Machine &machine);
 /// The rule by which everything decides whether this is an Apple-silicon Mac.
 bool isAppleSilicon(const platform::Machine &machine);
 
@@ -81,7 +92,8 @@ std::optional<int> highestAppleFamily(const platform::GraphicsDevice &device);
 /// The codes of the codecs that are encoded in hardware. Empty when there is no list.
 QSet<std::uint32_t> hardwareEncoders(const platform::Machine &machine);
 
-/// The permission in the interface language: "Not requested yet", "Restricted", "Denied", "Allowed", "Unknown".
+/// The permission in the interface language: "Not requested yet", "Restricted", "Denied", "Allowed",
+/// "Unknown".
 QString describe(platform::AuthorizationStatus status);
 
 /// Interface name and dotted address of every interface that is up, loopback left out, in the system's order.

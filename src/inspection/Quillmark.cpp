@@ -17,10 +17,11 @@ Quillmark::Quillmark(const platform::Machine &machine, const language::LanguageM
     , m_pasteboard(pasteboard)
     , m_reportText(std::move(reportText))
 {
-    // The handler runs on a thread of the monitor's and owns nothing of this object: the call that it posts is dropped
-    // if the object has gone by the time the event loop comes to it.
+    // The handler runs on a thread of the monitor's and owns nothing of this object: the call that it posts
+    // is dropped if the object has gone by the time the event loop comes to it.
     m_monitor = m_machine.network().watchPath([this](const platform::NetworkPath &path) {
-        QMetaObject::invokeMethod(this, [this, path] { pathChanged(path); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, path] { pathChanged(path); }, Qt::QueuedConnection);
     });
 }
 

@@ -34,13 +34,14 @@ class Quillmark : public QObject
 
 public:
     /// The plain-text report of an inspection.
-    using ReportText =
-        std::function<QString(const QList<CapabilitySection> &sections, const std::optional<QDateTime> &lastUpdated)>;
+    using ReportText = std::function<QString(const QList<CapabilitySection> &sections,
+                                             const std::optional<QDateTime> &lastUpdated)>;
 
-    /// Begins to watch the network path, and inspects nothing yet: the first inspection comes with the first path, shortly
-    /// after the event loop runs, or from refresh(). A machine that reports no path is inspected only by refresh().
-    Quillmark(const platform::Machine &machine, const language::LanguageManager &language, Pasteboard &pasteboard,
-              ReportText reportText, QObject *parent = nullptr);
+    /// Begins to watch the network path, and inspects nothing yet: the first inspection comes with the first
+    /// path, shortly after the event loop runs, or from refresh(). A machine that reports no path is
+    /// inspected only by refresh().
+    Quillmark(const platform::Machine &machine, const language::LanguageManager &language,
+              Pasteboard &pasteboard, ReportText reportText, QObject *parent = nullptr);
     ~Quillmark() override;
 
     /// The three are absent or empty until the first inspection.

@@ -37,7 +37,8 @@ QList<CapabilityItem> deviceItems(const std::vector<platform::GraphicsDevice> &d
     QList<CapabilityItem> items;
     for (const auto &device : devices) {
         const auto number = items.size() + 1;
-        items += fact(u"gpu.%1"_s.arg(number), devices.size() < 2 ? Text::tr("GPU") : Text::tr("GPU %1").arg(number),
+        items += fact(u"gpu.%1"_s.arg(number),
+                      devices.size() < 2 ? Text::tr("GPU") : Text::tr("GPU %1").arg(number),
                       nameWithTags(device, formats));
     }
     return items;

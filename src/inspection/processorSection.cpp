@@ -77,7 +77,10 @@ CapabilitySection processorSection(const platform::Machine &machine, const langu
                   formats.byteCount(machine.system().physicalMemory(), language::ByteCountStyle::Memory));
     items += neuralEngineItem(machine);
     items += instructionItems(machine);
-    return {.title = Text::tr("Processor & Memory"), .symbol = u"cpu"_s, .items = std::move(items), .key = u"processor"_s};
+    return {.title = Text::tr("Processor & Memory"),
+            .symbol = u"cpu"_s,
+            .items = std::move(items),
+            .key = u"processor"_s};
 }
 
 } // namespace quillmark::inspection::DeviceProbe

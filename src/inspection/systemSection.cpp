@@ -60,19 +60,20 @@ CapabilitySection systemSection(const platform::Machine &machine, const language
     return {
         .title = Text::tr("System"),
         .symbol = u"info.circle"_s,
-        .items = {
-            fact(u"deviceName"_s, Text::tr("Device name"),
-                 hostName ? QString::fromStdString(*hostName) : missing()),
-            fact(u"modelIdentifier"_s, Text::tr("Model identifier"),
-                 sysctlString(machine, "hw.model").value_or(missing())),
-            fact(u"os"_s, Text::tr("Operating system"), osVersionDescription(machine)),
-            architectureItem(machine),
-            {.label = Text::tr("Uptime"),
-             .value = formats.uptime(machine.system().uptime()).value_or(missing()),
-             .key = u"uptime"_s,
-             .isVolatile = true},
-            thermalStateItem(machine),
-        },
+        .items =
+            {
+                fact(u"deviceName"_s, Text::tr("Device name"),
+                     hostName ? QString::fromStdString(*hostName) : missing()),
+                fact(u"modelIdentifier"_s, Text::tr("Model identifier"),
+                     sysctlString(machine, "hw.model").value_or(missing())),
+                fact(u"os"_s, Text::tr("Operating system"), osVersionDescription(machine)),
+                architectureItem(machine),
+                {.label = Text::tr("Uptime"),
+                 .value = formats.uptime(machine.system().uptime()).value_or(missing()),
+                 .key = u"uptime"_s,
+                 .isVolatile = true},
+                thermalStateItem(machine),
+            },
         .key = u"system"_s,
     };
 }

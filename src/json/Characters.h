@@ -24,8 +24,8 @@ constexpr std::size_t plainLength(std::string_view text)
     return length;
 }
 
-/// The length of the UTF-8 sequence at the start of `text`; 0 when it is not one (overlong, surrogate, beyond U+10FFFF,
-/// cut short, or empty).
+/// The length of the UTF-8 sequence at the start of `text`; 0 when it is not one (overlong, surrogate, beyond
+/// U+10FFFF, cut short, or empty).
 std::size_t utf8SequenceLength(std::string_view text);
 
 } // namespace quillmark::json

@@ -47,7 +47,8 @@ void appendUtf8(std::string &text, std::uint32_t codePoint)
     }
 }
 
-/// std::from_chars for double is missing from the libc++ of older Macs, and strtod follows the process's locale.
+/// std::from_chars for double is missing from the libc++ of older Macs, and strtod follows the process's
+/// locale.
 double toDouble(const std::string &digits)
 {
     static const locale_t c = newlocale(LC_ALL_MASK, "C", nullptr);

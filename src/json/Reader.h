@@ -11,7 +11,21 @@
 
 namespace quillmark::json {
 
-enum class Token { BeginObject, EndObject, BeginArray, EndArray, Key, String, Integer, Double, True, False, Null, End, Error };
+enum class Token {
+    BeginObject,
+    EndObject,
+    BeginArray,
+    EndArray,
+    Key,
+    String,
+    Integer,
+    Double,
+    True,
+    False,
+    Null,
+    End,
+    Error
+};
 
 /// Where a text stops being JSON, and why. Lines and columns count from 1, columns in bytes.
 struct Error
@@ -21,10 +35,12 @@ struct Error
     std::size_t column = 0;
 };
 
-/// Reads JSON (RFC 8259) piece by piece, without building a tree: next() says what comes, text() or a number holds it.
+/// Reads JSON (RFC 8259) piece by piece, without building a tree: next() says what comes, text() or a number
+/// holds it.
 ///
-/// Strict: the text must be valid UTF-8 without a byte order mark, escapes must form whole characters, nothing may follow
-/// the value. Values may be nested maximumDepth deep. After Error or End every further next() gives the same.
+/// Strict: the text must be valid UTF-8 without a byte order mark, escapes must form whole characters,
+/// nothing may follow the value. Values may be nested maximumDepth deep. After Error or End every further
+/// next() gives the same.
 class Reader
 {
 public:

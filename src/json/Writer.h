@@ -10,8 +10,8 @@
 
 namespace quillmark::json {
 
-/// Builds a JSON text value by value, in the order of the calls. The caller keeps objects and arrays balanced, and names
-/// each member of an object before its value.
+/// Builds a JSON text value by value, in the order of the calls. The caller keeps objects and arrays
+/// balanced, and names each member of an object before its value.
 class Writer
 {
 public:
@@ -32,7 +32,8 @@ public:
     void string(std::string_view text);
     void integer(std::int64_t number);
     void integer(std::uint64_t number);
-    /// In the fewest digits that read back as the same double. What JSON cannot say (infinity, not a number) is null.
+    /// In the fewest digits that read back as the same double. What JSON cannot say (infinity, not a number)
+    /// is null.
     void number(double number);
     void boolean(bool value);
     void null();
@@ -61,7 +62,7 @@ private:
     std::string m_text;
     Layout m_layout;
     std::size_t m_depth = 0;
-    bool m_first = true;     ///< nothing stands in the innermost object or array yet
+    bool m_first = true; ///< nothing stands in the innermost object or array yet
     bool m_afterKey = false;
 };
 

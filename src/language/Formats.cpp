@@ -62,8 +62,9 @@ icu::MeasureUnit measureUnit(Unit unit)
     }
 }
 
-/// The first unit whose limit lies above the magnitude. A limit is the largest value that, rounded to the unit's digits,
-/// still shows fewer than a whole one of the next unit (swift-foundation, ByteCountFormatStyle).
+/// The first unit whose limit lies above the magnitude. A limit is the largest value that, rounded to the
+/// unit's digits, still shows fewer than a whole one of the next unit (swift-foundation,
+/// ByteCountFormatStyle).
 Unit unitFor(std::uint64_t magnitude, ByteCountStyle style)
 {
     using Limits = std::array<std::uint64_t, UnitCount - 1>;
@@ -73,8 +74,9 @@ Unit unitFor(std::uint64_t magnitude, ByteCountStyle style)
     return static_cast<Unit>(std::ranges::upper_bound(limits, magnitude) - limits.begin());
 }
 
-icu::number::FormattedNumber formatMeasure(double amount, const icu::MeasureUnit &unit, UNumberUnitWidth width,
-                                           int fraction, const icu::Locale &locale, UErrorCode &status)
+icu::number::FormattedNumber formatMeasure(double amount, const icu::MeasureUnit &unit,
+                                           UNumberUnitWidth width, int fraction, const icu::Locale &locale,
+                                           UErrorCode &status)
 {
     using namespace icu::number;
     return NumberFormatter::with()
@@ -86,7 +88,8 @@ icu::number::FormattedNumber formatMeasure(double amount, const icu::MeasureUnit
         .formatDouble(amount, status);
 }
 
-icu::number::FormattedNumber formatBytes(double amount, Unit unit, const icu::Locale &locale, UErrorCode &status)
+icu::number::FormattedNumber formatBytes(double amount, Unit unit, const icu::Locale &locale,
+                                         UErrorCode &status)
 {
     const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
     return formatMeasure(amount, measureUnit(unit), width, fractionDigits[unit], locale, status);
@@ -96,7 +99,8 @@ icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFor
                           UListFormatterWidth width, const icu::Locale &locale, UErrorCode &status)
 {
     icu::UnicodeString text;
-    const std::unique_ptr<icu::ListFormatter> format(icu::ListFormatter::createInstance(locale, type, width, status));
+    const std::unique_ptr<icu::ListFormatter> format(
+        icu::ListFormatter::createInstance(locale, type, width, status));
     if (format)
         format->format(texts.data(), static_cast<int32_t>(texts.size()), text, status);
     return text;
@@ -138,10 +142,12 @@ QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
     UErrorCode status = U_ZERO_ERROR;
     if (bytes == 0 && spellsOutZero(locale))
         return toQString(spelledZero(locale, status));
-    const auto magnitude = bytes < 0 ? 0 - static_cast<std::uint64_t>(bytes) : static_cast<std::uint64_t>(bytes);
+    const auto magnitude =
+        bytes < 0 ? 0 - static_cast<std::uint64_t>(bytes) : static_cast<std::uint64_t>(bytes);
     const Unit unit = bytes == 0 ? Kilobyte : unitFor(magnitude, style);
     const double divisor = std::pow(style == ByteCountStyle::Memory ? 1024 : 1000, static_cast<int>(unit));
-    return toQString(formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
+    return toQString(
+        formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
 }
 
 std::optional<QString> Formats::uptime(std::optional<double> seconds) const

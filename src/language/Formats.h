@@ -16,7 +16,8 @@ enum class ByteCountStyle {
     File,   ///< powers of 1000
 };
 
-/// Values as a language writes them, the same on every system: word for word what Foundation's formatters give on a Mac.
+/// Values as a language writes them, the same on every system: word for word what Foundation's formatters
+/// give on a Mac.
 ///
 /// A value without state of its own; its calls may be made from any thread.
 class Formats

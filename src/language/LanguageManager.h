@@ -18,13 +18,15 @@ class LanguageManager : public QObject
     Q_OBJECT
 
 public:
-    /// Begins with the first language of `preferred` (tags as "de-CH" or "de_CH.UTF-8") that there is, else English.
+    /// Begins with the first language of `preferred` (tags as "de-CH" or "de_CH.UTF-8") that there is, else
+    /// English.
     explicit LanguageManager(const QStringList &preferred = {}, QObject *parent = nullptr);
 
     /// The tags of the languages that there are.
     static QStringList available();
 
-    /// The available language that serves `tag`: the same one, or the one it is a variant of. Empty when there is none.
+    /// The available language that serves `tag`: the same one, or the one it is a variant of. Empty when
+    /// there is none.
     static QString match(const QString &tag);
 
     /// The tag of the language in use; snapshots and reports carry it.
@@ -41,8 +43,8 @@ private:
     Formats m_formats;
 };
 
-/// The languages that the environment asks for, best first (LC_ALL, LC_MESSAGES, LANG, LANGUAGE; on a Mac the system's
-/// settings).
+/// The languages that the environment asks for, best first (LC_ALL, LC_MESSAGES, LANG, LANGUAGE; on a Mac the
+/// system's settings).
 QStringList preferredLanguages();
 
 } // namespace quillmark::language

@@ -38,10 +38,12 @@ struct VirtualMemory
 /// All live counters at one moment. Each is absent when its own reading failed.
 struct CounterReading
 {
-    std::optional<std::chrono::sys_time<std::chrono::milliseconds>> date; ///< only in a replay: when it was recorded
-    std::optional<std::vector<ProcessorTicks>> processorTicks;            ///< by core, in the kernel's order
+    std::optional<std::chrono::sys_time<std::chrono::milliseconds>>
+        date;                                                  ///< only in a replay: when it was recorded
+    std::optional<std::vector<ProcessorTicks>> processorTicks; ///< by core, in the kernel's order
     std::optional<VirtualMemory> virtualMemory;
-    /// Kernel value "vm.swapusage": total, available, used (unsigned 64-bit each), page size, flags (32-bit each).
+    /// Kernel value "vm.swapusage": total, available, used (unsigned 64-bit each), page size, flags (32-bit
+    /// each).
     std::optional<Bytes> swapUsage;
     /// Kernel value "kern.memorystatus_vm_pressure_level", 4 bytes: 1 normal, 2 warning, 4 critical.
     std::optional<Bytes> pressureLevel;

@@ -18,8 +18,9 @@ class KernelValues
 public:
     virtual ~KernelValues() = default;
 
-    /// The bytes of the value as the kernel holds them, in this machine's byte order: a number is 4 or 8 bytes, a text
-    /// ends with a zero byte. None when there is no such name here, or the kernel does not answer.
+    /// The bytes of the value as the kernel holds them, in this machine's byte order: a number is 4 or 8
+    /// bytes, a text ends with a zero byte. None when there is no such name here, or the kernel does not
+    /// answer.
     virtual std::optional<Bytes> read(std::string_view name) const = 0;
 };
 

@@ -3,8 +3,12 @@
 
 #pragma once
 
+#include "platform/Command.h"
+
 #include <cstdint>
+#include <expected>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace quillmark::platform {
@@ -12,27 +16,47 @@ namespace quillmark::platform {
 /// An entry of VideoToolbox's list of encoders (VTCopyVideoEncoderList). A codec may have several.
 struct VideoEncoder
 {
-    std::uint32_t codecType = 0;                ///< four-character code: 'avc1', 'hvc1', …
-    std::optional<bool> isHardwareAccelerated;  ///< absent means no
+    std::uint32_t codecType = 0;               ///< four-character code: 'avc1', 'hvc1', …
+    std::optional<bool> isHardwareAccelerated; ///< absent means no
 
     bool operator==(const VideoEncoder &) const = default;
 };
 
-/// What the user has allowed this program (AVAuthorizationStatus). A newer system may give other numbers.
-enum class AuthorizationStatus : std::int32_t { NotDetermined = 0, Restricted = 1, Denied = 2, Authorized = 3 };
+/// Whether a codec is decoded in hardware, asked after the supplemental decoders were registered.
+struct VideoDecoder
+{
+    std::uint32_t codecType = 0;
+    bool isHardwareSupported = false;
 
-enum class CaptureKind { Video, Audio };
+    bool operator==(const VideoDecoder &) const = default;
+};
+
+/// Uniform type identifiers of image formats: "public.heic".
+struct ImageTypes
+{
+    std::vector<std::string> readable;
+    std::vector<std::string> writable;
+
+    bool operator==(const ImageTypes &) const = default;
+};
+
+/// Why there is no answer about video acceleration.
+enum class NoAnswer { NotInstalled, NotAsked, Failed };
 
 class Media
 {
 public:
     virtual ~Media() = default;
 
-    /// None when the system gives no list.
+    /// None, here and below, when the system gives no list.
     virtual std::optional<std::vector<VideoEncoder>> videoEncoders() const = 0;
+    /// The codecs that this program shows. One that is missing is not decoded in hardware.
+    virtual std::optional<std::vector<VideoDecoder>> videoDecoders() const = 0;
+    virtual std::optional<ImageTypes> imageTypes() const = 0;
 
-    /// Whether cameras or microphones may be used; asking does not prompt. None where there is no such permission.
-    virtual std::optional<AuthorizationStatus> authorization(CaptureKind kind) const = 0;
+    /// What `vainfo` says of the first render node that is awake and may be used: Linux alone. Not asked when
+    /// there is no such node. A child process, because video drivers crash; it has two seconds.
+    virtual std::expected<CommandAnswer, NoAnswer> vainfo() const = 0;
 };
 
 } // namespace quillmark::platform

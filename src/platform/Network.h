@@ -46,7 +46,39 @@ struct NetworkPath
     bool operator==(const NetworkPath &) const = default;
 };
 
-/// Watches the path for as long as it lives. After its destructor has returned, the handler is not called any more.
+/// A Wi-Fi interface, without the names of networks.
+struct WifiReading
+{
+    bool isPresent = false; ///< the machine has Wi-Fi
+    std::optional<bool> powerOn;
+    std::optional<int> activePHYMode; ///< CoreWLAN's number: 4 for 802.11n, 5 ac, 6 ax, 7 be; 1 to 3 a, b, g
+    std::optional<int> channelBand;   ///< 1 for 2.4 GHz, 2 for 5, 3 for 6
+    std::optional<int> rssi;          ///< dBm; 0 when there is no signal
+    std::optional<double> transmitRate; ///< Mbit/s
+
+    bool operator==(const WifiReading &) const = default;
+};
+
+/// A wired interface that is linked.
+struct LinkReading
+{
+    std::string name;
+    std::optional<std::int64_t> speed; ///< Mbit/s
+    std::optional<std::string> duplex; ///< "full", "half"
+
+    bool operator==(const LinkReading &) const = default;
+};
+
+struct BluetoothReading
+{
+    bool isPresent = false;
+    bool isBlocked = false; ///< switched off by software or a key
+
+    bool operator==(const BluetoothReading &) const = default;
+};
+
+/// Watches the path for as long as it lives. After its destructor has returned, the handler is not called any
+/// more.
 class PathWatch
 {
 public:
@@ -67,8 +99,17 @@ public:
     /// The path at this moment; none when the system does not tell within a second.
     virtual std::optional<NetworkPath> currentPath() const = 0;
 
-    /// Reports the path once soon after the call, then each time it changes. Sends no packet. Null when the system offers
-    /// no such thing.
+    /// None when it cannot be told whether there is Wi-Fi.
+    virtual std::optional<WifiReading> wifi() const = 0;
+
+    /// Linux alone: the wired interfaces of real hardware.
+    virtual std::vector<LinkReading> ethernetLinks() const = 0;
+
+    /// Linux alone: on a Mac asking would prompt.
+    virtual std::optional<BluetoothReading> bluetooth() const = 0;
+
+    /// Reports the path once soon after the call, then each time it changes. Sends no packet. Null when the
+    /// system offers no such thing.
     virtual std::unique_ptr<PathWatch> watchPath(PathHandler handler) const = 0;
 };
 

@@ -5,9 +5,24 @@
 
 #include "platform/PropertyValue.h"
 
+#include <map>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace quillmark::platform {
+
+/// How the machine is powered and set to use it.
+struct PowerSettings
+{
+    std::optional<std::string> providingSource; ///< "AC Power", "Battery Power", "UPS Power"
+    std::optional<bool> lowPowerModeEnabled;
+    /// IOPSCopyExternalPowerAdapterDetails: "Watts", "Current" (mA), "AdapterVoltage" (mV), "Name", …
+    std::optional<PropertyMap> externalAdapter;
+    std::optional<std::string> platformProfile; ///< Linux: the firmware's word, "balanced"
+
+    bool operator==(const PowerSettings &) const = default;
+};
 
 /// Batteries and other power sources.
 class Power
@@ -15,10 +30,16 @@ class Power
 public:
     virtual ~Power() = default;
 
-    /// One dictionary a source, in the system's order, with the keys of IOKit/ps/IOPSKeys.h: "Type" ("InternalBattery",
-    /// "UPS"), "Current Capacity" and "Max Capacity" (percent), "Is Charging", "Power Source State" ("AC Power", "Battery
-    /// Power"), … Empty on a desktop computer.
+    /// One dictionary a source, in the system's order, with the keys of IOKit/ps/IOPSKeys.h: "Type"
+    /// ("InternalBattery", "UPS"), "Current Capacity" and "Max Capacity" (percent), "Is Charging", "Power
+    /// Source State" ("AC Power", "Battery Power"), … Empty on a desktop computer.
     virtual std::vector<PropertyMap> powerSources() const = 0;
+
+    virtual PowerSettings settings() const = 0;
+
+    /// Linux: the properties of each supply as the kernel lists them in its uevent file ("POWER_SUPPLY_TYPE":
+    /// "Battery", all of them texts), by the supply's name. Empty on a Mac.
+    virtual std::map<std::string, PropertyMap> powerSupplies() const = 0;
 };
 
 } // namespace quillmark::platform

@@ -20,18 +20,19 @@ struct PropertyValue;
 using PropertyList = std::vector<PropertyValue>;
 using PropertyMap = std::map<std::string, PropertyValue, std::less<>>;
 
-/// A value in a dictionary that the operating system fills: a power source, an entry of the I/O registry. The system
-/// promises no types, so a reader takes what it expects and treats anything else as missing.
+/// A value in a dictionary that the operating system fills: a power source, an entry of the I/O registry. The
+/// system promises no types, so a reader takes what it expects and treats anything else as missing.
 struct PropertyValue
 {
-    std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, Bytes, PropertyList, PropertyMap> value;
+    std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, Bytes, PropertyList, PropertyMap>
+        value;
 
     bool operator==(const PropertyValue &) const = default;
 };
 
-/// The value under `key` if there is one and it is a `T`, else null. A boolean is not a number, and the reverse; a
-/// number with a fraction is not an integer.
-template<typename T>
+/// The value under `key` if there is one and it is a `T`, else null. A boolean is not a number, and the
+/// reverse; a number with a fraction is not an integer.
+template <typename T>
 const T *find(const PropertyMap &properties, std::string_view key)
 {
     const auto entry = properties.find(key);
@@ -39,7 +40,7 @@ const T *find(const PropertyMap &properties, std::string_view key)
 }
 
 /// The same as a copy.
-template<typename T>
+template <typename T>
 std::optional<T> get(const PropertyMap &properties, std::string_view key)
 {
     const T *found = find<T>(properties, key);

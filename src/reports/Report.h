@@ -29,7 +29,8 @@ struct Report
 /// The version of this program, "1.0.0".
 QString applicationVersion();
 
-/// The sections of the report with the rows that the filter lets through; sections left without rows stand there too.
+/// The sections of the report with the rows that the filter lets through; sections left without rows stand
+/// there too.
 QList<inspection::CapabilitySection> filteredSections(const Report &report);
 
 /// What copying puts on the pasteboard: headline, then a line for each row.

@@ -70,7 +70,8 @@ private:
         m_writer.key("counts");
         m_writer.beginObject();
         for (const auto status : inspection::allStatuses)
-            m_writer.member(rawValue(status).toStdString(), std::int64_t{inspection::count(sections, status)});
+            m_writer.member(rawValue(status).toStdString(),
+                            std::int64_t{inspection::count(sections, status)});
         m_writer.endObject();
     }
 

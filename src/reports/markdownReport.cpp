@@ -43,18 +43,19 @@ QString markdown(const Report &report)
     const auto &summary = report.summary;
     QString text = u"# %1\n\n"_s.arg(escaped(summary.deviceName));
     text += escaped(Text::tr("%1 · %2 memory · %3 storage · %4")
-                        .arg(summary.chip, summary.memory, summary.storage, summary.osVersion))
-            + u"\n\n"_s;
-    text += u"**%1**\n"_s.arg(escaped(Text::tr("Capability score: %1% (%2 of %3 capabilities supported)")
-                                          .arg(inspection::scorePercent(report.sections))
-                                          .arg(inspection::count(report.sections,
-                                                                 inspection::CapabilityStatus::Supported))
-                                          .arg(inspection::ratedCount(report.sections))));
+                        .arg(summary.chip, summary.memory, summary.storage, summary.osVersion)) +
+            u"\n\n"_s;
+    text += u"**%1**\n"_s.arg(
+        escaped(Text::tr("Capability score: %1% (%2 of %3 capabilities supported)")
+                    .arg(inspection::scorePercent(report.sections))
+                    .arg(inspection::count(report.sections, inspection::CapabilityStatus::Supported))
+                    .arg(inspection::ratedCount(report.sections))));
     for (const auto &section : filteredSections(report)) {
         if (section.items.isEmpty())
             continue;
         text += u"\n## %1\n\n"_s.arg(escaped(section.title));
-        text += row(Text::tr("Capability"), Text::tr("Value"), Text::tr("Status")) + u"| --- | --- | --- |\n"_s;
+        text +=
+            row(Text::tr("Capability"), Text::tr("Value"), Text::tr("Status")) + u"| --- | --- | --- |\n"_s;
         for (const auto &item : section.items)
             text += row(escaped(item.label), escaped(item.value), escaped(inspection::title(item.status)));
     }

@@ -20,15 +20,15 @@ QString headline(const Report &report)
         const auto local = report.date->toLocalTime();
         text += Text::tr("Inspected on %1 at %2")
                     .arg(locale.toString(local.date(), QLocale::LongFormat),
-                         locale.toString(local.time(), QLocale::ShortFormat))
-                + u'\n';
+                         locale.toString(local.time(), QLocale::ShortFormat)) +
+                u'\n';
     }
     if (const auto rated = inspection::ratedCount(report.sections); rated > 0) {
         text += Text::tr("Capability score: %1% (%2 of %3 capabilities supported)")
                     .arg(inspection::scorePercent(report.sections))
                     .arg(inspection::count(report.sections, inspection::CapabilityStatus::Supported))
-                    .arg(rated)
-                + u'\n';
+                    .arg(rated) +
+                u'\n';
     }
     return text;
 }

@@ -47,15 +47,16 @@ public:
 
     bool operator()(const CapabilitySection &section, const CapabilityItem &item) const
     {
-        return (m_statuses.isEmpty() || m_statuses.contains(item.status))
-               && (m_sections.isEmpty() || m_sections.contains(section.key.value_or(QString()))) && matches(item);
+        return (m_statuses.isEmpty() || m_statuses.contains(item.status)) &&
+               (m_sections.isEmpty() || m_sections.contains(section.key.value_or(QString()))) &&
+               matches(item);
     }
 
 private:
     bool matches(const CapabilityItem &item) const
     {
-        return m_search.isEmpty() || language::folded(item.label).contains(m_search)
-               || language::folded(item.value).contains(m_search);
+        return m_search.isEmpty() || language::folded(item.label).contains(m_search) ||
+               language::folded(item.value).contains(m_search);
     }
 
     QList<CapabilityStatus> m_statuses;
@@ -86,7 +87,8 @@ std::expected<void, Failure> inspect(const Session &session, const InspectOption
     else if (options.text)
         output.write(reports::plainText(report));
     else
-        output.write(terminalReport(report, {.columns = output.isTerminal ? output.columns : 0, .color = session.usesColor()}));
+        output.write(terminalReport(
+            report, {.columns = output.isTerminal ? output.columns : 0, .color = session.usesColor()}));
     return {};
 }
 
@@ -101,7 +103,8 @@ std::vector<std::string> statusNames()
 std::vector<std::string> sectionNames()
 {
     std::vector<std::string> names;
-    std::ranges::transform(inspection::DeviceProbe::sectionKeys(), std::back_inserter(names), &QString::toStdString);
+    std::ranges::transform(inspection::DeviceProbe::sectionKeys(), std::back_inserter(names),
+                           &QString::toStdString);
     return names;
 }
 
@@ -110,7 +113,8 @@ std::vector<std::string> sectionNames()
 void addInspect(CLI::App &program, Command &chosen)
 {
     const auto options = std::make_shared<InspectOptions>();
-    auto *command = program.add_subcommand("inspect", "Inspect the machine and print every capability with its status");
+    auto *command =
+        program.add_subcommand("inspect", "Inspect the machine and print every capability with its status");
 
     auto *format = command->add_option_group("Format", "instead of the form for a terminal");
     format->add_flag("--json", options->json, "Print the report as JSON (report-v1)");

@@ -57,8 +57,10 @@ void addMachine(CLI::App &program, Command &chosen)
     const auto options = std::make_shared<RecordOptions>();
     auto *machine = program.add_subcommand("machine", "Work with recorded machines");
     machine->require_subcommand(1);
-    auto *command = machine->add_subcommand("record", "Write this machine's raw readings as a recorded machine");
-    command->add_option("--output", options->output, "The file to write; - is standard output")->option_text("FILE");
+    auto *command =
+        machine->add_subcommand("record", "Write this machine's raw readings as a recorded machine");
+    command->add_option("--output", options->output, "The file to write; - is standard output")
+        ->option_text("FILE");
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
     command->add_flag("--force", options->force, "Replace the file if it exists");

@@ -13,15 +13,13 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 constexpr std::size_t pageBytes = 4096;
-constexpr std::size_t tableLimit = 1024 * 1024;
-constexpr std::size_t beginningLimit = 64 * 1024;
+constexpr std::size_t tableLimit = std::size_t{1024} * 1024;
+constexpr std::size_t beginningLimit = std::size_t{64} * 1024;
 constexpr std::size_t beginningStep = 1024;
 
 ssize_t readSome(const FileDescriptor &file, char *buffer, std::size_t size)
@@ -143,8 +141,7 @@ HeldFile::HeldFile(Files files, std::string path)
     : m_files(std::move(files))
     , m_path(std::move(path))
     , m_buffer(pageBytes)
-{
-}
+{}
 
 std::optional<std::string_view> HeldFile::read()
 {

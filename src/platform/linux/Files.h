@@ -12,8 +12,7 @@
 #include <utility>
 #include <vector>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// Owns an open file descriptor; may hold none.
 class FileDescriptor
@@ -22,12 +21,10 @@ public:
     FileDescriptor() = default;
     explicit FileDescriptor(int number)
         : m_number(number)
-    {
-    }
+    {}
     FileDescriptor(FileDescriptor &&other) noexcept
         : m_number(std::exchange(other.m_number, -1))
-    {
-    }
+    {}
     FileDescriptor &operator=(FileDescriptor &&other) noexcept;
     ~FileDescriptor();
 

@@ -9,8 +9,7 @@
 #include <span>
 #include <string_view>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// Adds the number's bytes in this machine's order.
 template <typename Number>

@@ -3,18 +3,57 @@
 
 #pragma once
 
+#include "platform/Capture.h"
+#include "platform/Displays.h"
+#include "platform/Intelligence.h"
 #include "platform/Media.h"
 #include "platform/Registry.h"
+#include "platform/Security.h"
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// Linux keeps no list of encoders, and no permission of the kind that a Mac's user grants.
 class LinuxMedia final : public Media
 {
 public:
     std::optional<std::vector<VideoEncoder>> videoEncoders() const override { return std::nullopt; }
+    std::optional<std::vector<VideoDecoder>> videoDecoders() const override { return std::nullopt; }
+    std::optional<ImageTypes> imageTypes() const override { return std::nullopt; }
+    std::expected<CommandAnswer, NoAnswer> vainfo() const override
+    {
+        return std::unexpected(NoAnswer::NotAsked);
+    }
+};
+
+class LinuxCapture final : public Capture
+{
+public:
     std::optional<AuthorizationStatus> authorization(CaptureKind) const override { return std::nullopt; }
+    std::optional<std::vector<CameraReading>> cameras() const override { return std::nullopt; }
+    std::optional<std::vector<AudioDevice>> audioDevices() const override { return std::nullopt; }
+    std::optional<AudioDefaults> audioDefaults() const override { return std::nullopt; }
+    std::optional<std::vector<SoundCard>> soundCards() const override { return std::nullopt; }
+};
+
+class LinuxDisplays final : public Displays
+{
+public:
+    std::optional<std::vector<DisplayReading>> displays() const override { return std::nullopt; }
+};
+
+class LinuxIntelligence final : public Intelligence
+{
+public:
+    std::optional<std::int32_t> languageModelState() const override { return std::nullopt; }
+    std::optional<std::vector<ComputeDevice>> computeDevices() const override { return std::nullopt; }
+    std::optional<std::vector<Accelerator>> accelerators() const override { return std::nullopt; }
+    std::optional<std::vector<RenderNode>> renderNodes() const override { return std::nullopt; }
+};
+
+class LinuxSecurity final : public Security
+{
+public:
+    SecurityState read() const override { return {}; }
 };
 
 class LinuxRegistry final : public Registry

@@ -15,11 +15,9 @@
 
 #include <unistd.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// Hundredths of a second, cut to 32 bits, from ticks of which there are `perSecond`.
 std::uint32_t hundredths(std::uint64_t ticks, std::uint64_t perSecond)
@@ -105,8 +103,7 @@ private:
 
 LinuxCounters::LinuxCounters(const Files &files)
     : m_files(files)
-{
-}
+{}
 
 std::int64_t LinuxCounters::pageSize() const
 {

@@ -6,8 +6,7 @@
 #include "platform/Counters.h"
 #include "platform/linux/Files.h"
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 class LinuxCounters final : public Counters
 {

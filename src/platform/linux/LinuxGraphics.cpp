@@ -11,11 +11,9 @@
 #include <string_view>
 #include <utility>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view folder = "/sys/class/drm/";
 constexpr std::string_view prefix = "card";
@@ -63,8 +61,7 @@ std::string nameFrom(std::string_view uevent)
 
 LinuxGraphics::LinuxGraphics(const Files &files)
     : m_files(files)
-{
-}
+{}
 
 GraphicsReading LinuxGraphics::read() const
 {

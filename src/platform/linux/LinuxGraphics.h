@@ -6,8 +6,7 @@
 #include "platform/Graphics.h"
 #include "platform/linux/Files.h"
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// The graphics cards in /sys/class/drm, named by maker and driver. No device is opened, so that a sleeping
 /// one stays asleep. There is no default device, as there is no Metal.

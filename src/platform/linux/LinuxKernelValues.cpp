@@ -12,14 +12,13 @@
 #include <numeric>
 #include <string>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// A processor's feature: the name that macOS gives its flag, and the kernel's word in the list of features.
-struct Feature {
+struct Feature
+{
     std::string_view name;
     ProcessorFamily family;
     std::string_view word;
@@ -76,8 +75,7 @@ std::optional<Bytes> optionalRecord(const std::optional<Number> &number)
 LinuxKernelValues::LinuxKernelValues(const Files &files, const LinuxProcessor &processor)
     : m_files(files)
     , m_processor(processor)
-{
-}
+{}
 
 std::optional<Bytes> LinuxKernelValues::read(std::string_view name) const
 {

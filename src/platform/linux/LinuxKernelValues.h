@@ -7,8 +7,7 @@
 #include "platform/linux/Files.h"
 #include "platform/linux/LinuxProcessor.h"
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// The names of macOS's values whose facts Linux tells too. Those that mean "this is a Mac" stay unanswered.
 class LinuxKernelValues final : public KernelValues

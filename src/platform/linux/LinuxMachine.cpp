@@ -14,11 +14,9 @@
 #include "platform/linux/LinuxSystemInformation.h"
 #include "platform/linux/LinuxVolumes.h"
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 class LinuxMachine final : public Machine
 {
@@ -32,8 +30,7 @@ public:
         , m_graphics(files)
         , m_volumes(files)
         , m_network(files)
-    {
-    }
+    {}
 
     const KernelValues &kernelValues() const override { return m_kernelValues; }
     const SystemInformation &system() const override { return m_system; }
@@ -41,9 +38,13 @@ public:
     const Power &power() const override { return m_power; }
     const Registry &registry() const override { return m_registry; }
     const Graphics &graphics() const override { return m_graphics; }
+    const Intelligence &intelligence() const override { return m_intelligence; }
+    const Displays &displays() const override { return m_displays; }
     const Media &media() const override { return m_media; }
+    const Capture &capture() const override { return m_capture; }
     const Volumes &volumes() const override { return m_volumes; }
     const Network &network() const override { return m_network; }
+    const Security &security() const override { return m_security; }
 
 private:
     LinuxProcessor m_processor;
@@ -53,9 +54,13 @@ private:
     LinuxPower m_power;
     LinuxRegistry m_registry;
     LinuxGraphics m_graphics;
+    LinuxIntelligence m_intelligence;
+    LinuxDisplays m_displays;
     LinuxMedia m_media;
+    LinuxCapture m_capture;
     LinuxVolumes m_volumes;
     LinuxNetwork m_network;
+    LinuxSecurity m_security;
 };
 
 } // namespace

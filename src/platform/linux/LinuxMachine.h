@@ -8,8 +8,7 @@
 #include <filesystem>
 #include <memory>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// A Linux machine as its kernel's files under `root` describe it: /proc, /sys, /etc. With the default it is
 /// this machine; a recorded tree serves tests. What has no file (the clock, the network interfaces) is always

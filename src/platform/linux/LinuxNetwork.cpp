@@ -19,11 +19,9 @@
 #include <net/if_arp.h>
 #include <netinet/in.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 std::optional<std::string> numericAddress(const sockaddr &address)
 {
@@ -95,18 +93,19 @@ bool isConnected(const Files &files, const std::string &interfaceName)
 /// Takes the preferred route that leads out; whether there is one.
 bool addRoute(const Files &files, const std::vector<DefaultRoute> &routes, PathReading &reading)
 {
-    const auto route = std::ranges::find_if(routes, [&files](const DefaultRoute &candidate) {
-        return isConnected(files, candidate.interfaceName);
-    });
-    if (route == routes.end())
-        return false;
-    if (std::ranges::find(reading.interfaceNames, route->interfaceName) != reading.interfaceNames.end())
+    for (const DefaultRoute &route : routes) {
+        if (std::ranges::find(reading.interfaceNames, route.interfaceName) != reading.interfaceNames.end())
+            return true;
+        if (!isConnected(files, route.interfaceName))
+            continue;
+        reading.interfaceNames.push_back(route.interfaceName);
+        const InterfaceType type = typeOf(files, route.interfaceName);
+        auto &types = reading.path.interfaceTypes;
+        if (std::ranges::find(types, type) == types.end())
+            types.push_back(type);
         return true;
-    reading.interfaceNames.push_back(route->interfaceName);
-    const InterfaceType type = typeOf(files, route->interfaceName);
-    if (std::ranges::find(reading.path.interfaceTypes, type) == reading.path.interfaceTypes.end())
-        reading.path.interfaceTypes.push_back(type);
-    return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -144,8 +143,7 @@ std::optional<PathReading> readPath(const Files &files)
 
 LinuxNetwork::LinuxNetwork(const Files &files)
     : m_files(files)
-{
-}
+{}
 
 std::vector<InterfaceEntry> LinuxNetwork::interfaces() const
 {
@@ -161,6 +159,21 @@ std::optional<NetworkPath> LinuxNetwork::currentPath() const
 std::unique_ptr<PathWatch> LinuxNetwork::watchPath(PathHandler handler) const
 {
     return startPathWatch(m_files, std::move(handler));
+}
+
+std::optional<WifiReading> LinuxNetwork::wifi() const
+{
+    return std::nullopt;
+}
+
+std::vector<LinkReading> LinuxNetwork::ethernetLinks() const
+{
+    return {};
+}
+
+std::optional<BluetoothReading> LinuxNetwork::bluetooth() const
+{
+    return std::nullopt;
 }
 
 } // namespace quillmark::platform

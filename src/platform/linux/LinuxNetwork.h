@@ -9,15 +9,15 @@
 #include <string>
 #include <vector>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// The interfaces of this machine and their addresses; the Link entries alone when asked so.
 enum class InterfaceEntries { All, Links };
 std::vector<InterfaceEntry> readInterfaces(InterfaceEntries wanted);
 
 /// The path with what it goes over.
-struct PathReading {
+struct PathReading
+{
     NetworkPath path;
     std::vector<std::string> interfaceNames;
 
@@ -34,6 +34,9 @@ public:
 
     std::vector<InterfaceEntry> interfaces() const override;
     std::optional<NetworkPath> currentPath() const override;
+    std::optional<WifiReading> wifi() const override;
+    std::vector<LinkReading> ethernetLinks() const override;
+    std::optional<BluetoothReading> bluetooth() const override;
     std::unique_ptr<PathWatch> watchPath(PathHandler handler) const override;
 
 private:

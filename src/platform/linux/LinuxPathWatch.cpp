@@ -22,11 +22,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// One change of the network comes as a burst of notices; a router's table may change without a pause.
 constexpr int settlingMilliseconds = 50;
@@ -45,7 +43,8 @@ FileDescriptor noticeSocket()
 }
 
 /// Everything whose change is reported.
-struct Situation {
+struct Situation
+{
     std::optional<PathReading> path;
     std::vector<InterfaceEntry> interfaces; ///< without counters, which always change
 
@@ -72,8 +71,7 @@ public:
         , m_notices(std::move(notices))
         , m_stop(std::move(stop))
         , m_thread([this] { run(); })
-    {
-    }
+    {}
 
     ~LinuxPathWatch() override
     {

@@ -8,8 +8,7 @@
 
 #include <memory>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// Network::watchPath() by the kernel's notices of changed links, addresses and routes. Another list of
 /// interfaces or addresses is reported too, even where the path itself stays as it was. Null when the kernel

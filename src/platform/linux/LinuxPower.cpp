@@ -6,19 +6,19 @@
 #include "platform/linux/TextFields.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// The properties of a supply: the lines of its uevent file, which the kernel fills in one go.
-struct Supply {
+struct Supply
+{
     std::string name; ///< of its folder: "BAT0"
     std::string type;
     std::string lines;
@@ -71,7 +71,7 @@ std::optional<std::int64_t> capacityOf(const Supply &supply)
         const auto full = supply.number(unit + "_FULL");
         if (now && full && *now >= 0 && *full > 0) {
             const double share = static_cast<double>(*now) / static_cast<double>(*full);
-            return static_cast<std::int64_t>(std::min(share, 1.0) * 100 + 0.5);
+            return std::lround(std::min(share, 1.0) * 100);
         }
     }
     return std::nullopt;
@@ -119,8 +119,7 @@ PropertyMap describe(const Supply &supply, bool isLineOnline)
 
 LinuxPower::LinuxPower(const Files &files)
     : m_files(files)
-{
-}
+{}
 
 std::vector<PropertyMap> LinuxPower::powerSources() const
 {
@@ -134,6 +133,16 @@ std::vector<PropertyMap> LinuxPower::powerSources() const
         }
     }
     return sources;
+}
+
+PowerSettings LinuxPower::settings() const
+{
+    return {};
+}
+
+std::map<std::string, PropertyMap> LinuxPower::powerSupplies() const
+{
+    return {};
 }
 
 } // namespace quillmark::platform

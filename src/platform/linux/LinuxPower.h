@@ -6,8 +6,7 @@
 #include "platform/Power.h"
 #include "platform/linux/Files.h"
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// The supplies in /sys/class/power_supply that power the machine itself; a mouse's battery is none of them.
 /// In the order of their names, batteries before UPSs.
@@ -17,6 +16,8 @@ public:
     explicit LinuxPower(const Files &files);
 
     std::vector<PropertyMap> powerSources() const override;
+    PowerSettings settings() const override;
+    std::map<std::string, PropertyMap> powerSupplies() const override;
 
 private:
     Files m_files;

@@ -15,11 +15,9 @@
 
 #include <sys/utsname.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 std::string processorPath(std::int32_t processor, std::string_view name)
 {
@@ -48,8 +46,7 @@ std::string machineWord()
 
 LinuxProcessor::LinuxProcessor(const Files &files)
     : m_files(files)
-{
-}
+{}
 
 const CpuInfo &LinuxProcessor::info() const
 {

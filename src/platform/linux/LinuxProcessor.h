@@ -12,11 +12,11 @@
 #include <string>
 #include <vector>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// The processors that are switched on.
-struct ProcessorLayout {
+struct ProcessorLayout
+{
     std::int32_t logical = 0;
     /// Physical cores by performance, the fastest first; one entry when all are alike, empty when the kernel
     /// does not tell which processors share a core.

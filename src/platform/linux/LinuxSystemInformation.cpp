@@ -12,11 +12,9 @@
 #include <ctime>
 #include <limits>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// The maker of an x86 processor by the word that the processor gives; empty for others.
 std::string_view makerOf(std::string_view vendor)
@@ -53,8 +51,7 @@ std::int64_t memoryInBlocks(const Files &files)
 LinuxSystemInformation::LinuxSystemInformation(const Files &files, const LinuxProcessor &processor)
     : m_files(files)
     , m_processor(processor)
-{
-}
+{}
 
 OperatingSystem LinuxSystemInformation::operatingSystem() const
 {

@@ -10,8 +10,7 @@
 #include <map>
 #include <string>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 class LinuxSystemInformation final : public SystemInformation
 {

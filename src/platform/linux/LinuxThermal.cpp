@@ -6,11 +6,9 @@
 #include <algorithm>
 #include <utility>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// What no sensor of a running computer measures: a broken or absent one.
 constexpr std::int64_t lowestCredible = -40'000;

@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// The machine's thermal zones that have limits. The limits are read once, the temperatures at each question.
 class ThermalZones
@@ -24,11 +23,13 @@ public:
     std::int32_t state() const;
 
 private:
-    struct Limit {
+    struct Limit
+    {
         std::int64_t temperature; ///< thousandths of a degree Celsius
         std::int32_t state;       ///< from there on
     };
-    struct Zone {
+    struct Zone
+    {
         std::string folder;
         std::vector<Limit> limits;
     };

@@ -10,14 +10,13 @@
 
 #include <sys/statvfs.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// What /proc/self/mountinfo says of a mount.
-struct Mount {
+struct Mount
+{
     std::string_view device; ///< "8:2"
     std::string_view fileSystem;
     std::string_view source; ///< "/dev/sda2"
@@ -84,8 +83,7 @@ std::string labelOf(const Files &files, const std::string &device)
 
 LinuxVolumes::LinuxVolumes(const Files &files)
     : m_files(files)
-{
-}
+{}
 
 std::optional<StartupVolume> LinuxVolumes::startupVolume() const
 {
@@ -100,6 +98,16 @@ std::optional<StartupVolume> LinuxVolumes::startupVolume() const
     volume.available = static_cast<std::int64_t>(sizes.f_bavail * sizes.f_frsize);
     volume.fileSystem = mount.fileSystem;
     return volume;
+}
+
+std::optional<std::vector<DiskReading>> LinuxVolumes::disks() const
+{
+    return std::nullopt;
+}
+
+std::optional<std::vector<VolumeReading>> LinuxVolumes::otherVolumes() const
+{
+    return std::nullopt;
 }
 
 } // namespace quillmark::platform

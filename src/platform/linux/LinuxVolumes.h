@@ -6,8 +6,7 @@
 #include "platform/Volumes.h"
 #include "platform/linux/Files.h"
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 class LinuxVolumes final : public Volumes
 {
@@ -15,6 +14,8 @@ public:
     explicit LinuxVolumes(const Files &files);
 
     std::optional<StartupVolume> startupVolume() const override;
+    std::optional<std::vector<DiskReading>> disks() const override;
+    std::optional<std::vector<VolumeReading>> otherVolumes() const override;
 
 private:
     Files m_files;

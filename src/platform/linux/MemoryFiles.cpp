@@ -11,11 +11,9 @@
 
 #include <unistd.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// A share of the last ten seconds that is more than a passing stall, in percent: one second.
 constexpr int notableShare = 10;

@@ -9,11 +9,11 @@
 #include <optional>
 #include <string_view>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// Lines of /proc/meminfo, in bytes. Absent when this kernel does not tell.
-struct MemoryInfo {
+struct MemoryInfo
+{
     std::optional<std::uint64_t>
         total; ///< without what the kernel's image and the firmware keep for themselves
     std::optional<std::uint64_t> swapTotal;

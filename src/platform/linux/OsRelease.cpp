@@ -8,11 +8,9 @@
 #include <array>
 #include <cstdint>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// The value as the shell would take it. In double quotes a backslash escapes only what is special there.
 std::string unquoted(std::string_view text)

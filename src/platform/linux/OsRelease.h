@@ -9,8 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// The assignments of a file in os-release's form, a small part of the shell's: values may stand in quotes
 /// and hold escaped characters. Lines that assign nothing are skipped, and the last assignment of a name

@@ -9,11 +9,9 @@
 #include <array>
 #include <cstddef>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// More than the kernel can be built for (NR_CPUS); a longer range is a broken file.
 constexpr std::int32_t processorLimit = 65536;

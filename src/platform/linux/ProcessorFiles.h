@@ -9,14 +9,14 @@
 #include <string_view>
 #include <vector>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 enum class ProcessorFamily { Other, X86, Arm, RiscV };
 
 /// What /proc/cpuinfo says of its first processor. The labels differ by architecture, and so tell which one
 /// it is.
-struct CpuInfo {
+struct CpuInfo
+{
     ProcessorFamily family = ProcessorFamily::Other;
     bool is64Bit = false;
     std::optional<std::string> name; ///< of the product; none when the processor does not name itself
@@ -34,7 +34,8 @@ CpuInfo parseCpuInfo(std::string_view text);
 std::optional<std::vector<std::int32_t>> parseCpuList(std::string_view text);
 
 /// Time that a processor has spent in each state, in ticks of USER_HZ.
-struct ProcessorTimes {
+struct ProcessorTimes
+{
     std::int32_t number = 0;
     std::uint64_t user = 0; ///< with that of virtual machines
     std::uint64_t nice = 0;

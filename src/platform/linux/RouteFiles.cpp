@@ -11,11 +11,9 @@
 
 #include <net/route.h>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
-namespace
-{
+namespace {
 
 /// The words of a line, as many as there are places for.
 template <std::size_t count>

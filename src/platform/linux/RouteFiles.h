@@ -8,11 +8,11 @@
 #include <string_view>
 #include <vector>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// A route to everywhere that is not more precisely routed.
-struct DefaultRoute {
+struct DefaultRoute
+{
     std::string interfaceName;
     std::uint32_t metric = 0; ///< the lowest is taken
 };

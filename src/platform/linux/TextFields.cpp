@@ -5,8 +5,7 @@
 
 #include <algorithm>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 std::string_view trimmed(std::string_view text)
 {

@@ -8,8 +8,7 @@
 #include <optional>
 #include <string_view>
 
-namespace quillmark::platform
-{
+namespace quillmark::platform {
 
 /// Without white space and zero bytes at both ends; texts from a device tree end with a zero byte.
 std::string_view trimmed(std::string_view text);
@@ -27,7 +26,8 @@ bool hasWord(std::string_view words, std::string_view word);
 std::string_view lastComponent(std::string_view path);
 
 /// A line "label : value" in two, both trimmed. The value is empty when there is no separator.
-struct LabelledValue {
+struct LabelledValue
+{
     std::string_view label;
     std::string_view value;
 };

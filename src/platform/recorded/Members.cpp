@@ -13,7 +13,8 @@ namespace {
 std::string_view typeName(const PropertyValue &property)
 {
     constexpr std::array<std::string_view, 8> names = {
-        "null", "true or false", "a number", "a number with a fraction", "a text", "bytes", "an array", "an object"};
+        "null",   "true or false", "a number", "a number with a fraction",
+        "a text", "bytes",         "an array", "an object"};
     return names[property.value.index()];
 }
 
@@ -27,7 +28,7 @@ const PropertyValue *Members::value(std::string_view key) const
     return &member->second;
 }
 
-template<typename T>
+template <typename T>
 const T *Members::typed(std::string_view key, std::string_view expected) const
 {
     const PropertyValue *property = value(key);
@@ -59,7 +60,8 @@ std::optional<double> Members::number(std::string_view key) const
     return found ? std::optional(*found) : std::nullopt;
 }
 
-std::optional<std::int64_t> Members::integer(std::string_view key, std::int64_t least, std::int64_t most) const
+std::optional<std::int64_t> Members::integer(std::string_view key, std::int64_t least,
+                                             std::int64_t most) const
 {
     const auto *found = typed<std::int64_t>(key, "a whole number");
     if (!found)

@@ -16,7 +16,8 @@
 
 namespace quillmark::platform {
 
-/// The first thing that is wrong with a recording, as a sentence that names the member. Empty while nothing is.
+/// The first thing that is wrong with a recording, as a sentence that names the member. Empty while nothing
+/// is.
 struct Fault
 {
     std::string text;
@@ -24,8 +25,9 @@ struct Fault
 
 /// The members of one JSON object in a recording, read by type.
 ///
-/// A member that is missing or null is absent. One of the wrong type is absent too and becomes the recording's fault, so
-/// that a reader need not ask after each step: whoever began the reading asks once at its end.
+/// A member that is missing or null is absent. One of the wrong type is absent too and becomes the
+/// recording's fault, so that a reader need not ask after each step: whoever began the reading asks once at
+/// its end.
 class Members
 {
 public:
@@ -45,12 +47,13 @@ public:
     std::optional<std::int64_t> integer(std::string_view key, std::int64_t least, std::int64_t most) const;
     std::optional<std::uint32_t> fourCharacterCode(std::string_view key) const;
 
-    template<typename Integer>
+    template <typename Integer>
     std::optional<Integer> integer(std::string_view key) const
     {
         using Limits = std::numeric_limits<Integer>;
-        constexpr auto most = std::in_range<std::int64_t>(Limits::max()) ? static_cast<std::int64_t>(Limits::max())
-                                                                         : std::numeric_limits<std::int64_t>::max();
+        constexpr auto most = std::in_range<std::int64_t>(Limits::max())
+                                  ? static_cast<std::int64_t>(Limits::max())
+                                  : std::numeric_limits<std::int64_t>::max();
         const auto value = integer(key, static_cast<std::int64_t>(Limits::min()), most);
         return value ? std::optional(static_cast<Integer>(*value)) : std::nullopt;
     }
@@ -65,7 +68,7 @@ public:
     const PropertyList *elements(std::string_view key) const;
 
     /// A required member that is missing is a fault.
-    template<typename T>
+    template <typename T>
     T required(std::optional<T> value, std::string_view key) const
     {
         if (!value)
@@ -79,7 +82,7 @@ public:
 
 private:
     const PropertyValue *value(std::string_view key) const;
-    template<typename T>
+    template <typename T>
     const T *typed(std::string_view key, std::string_view expected) const;
     std::string pathOf(std::string_view key) const;
 

@@ -14,7 +14,8 @@
 
 namespace quillmark::platform {
 
-/// Reads a JSON object as a dictionary. Of members with one name the last one counts. `{"hex": "00ff"}` stands for bytes.
+/// Reads a JSON object as a dictionary. Of members with one name the last one counts. `{"hex": "00ff"}`
+/// stands for bytes.
 std::expected<PropertyMap, json::Error> parseProperties(std::string_view text);
 
 /// The reverse, for a value within a larger text.

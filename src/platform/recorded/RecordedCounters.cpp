@@ -26,8 +26,8 @@ std::optional<Date> parseDate(std::string_view text)
         return result.ec == std::errc() && result.ptr == end ? number : -1;
     };
     const bool hasFraction = text.size() == 24 && text[19] == '.';
-    if ((text.size() != 20 && !hasFraction) || text[4] != '-' || text[7] != '-' || text[10] != 'T' || text[13] != ':'
-        || text[16] != ':' || text.back() != 'Z')
+    if ((text.size() != 20 && !hasFraction) || text[4] != '-' || text[7] != '-' || text[10] != 'T' ||
+        text[13] != ':' || text[16] != ':' || text.back() != 'Z')
         return std::nullopt;
     const std::chrono::year_month_day day{std::chrono::year(field(0, 4)),
                                           std::chrono::month(static_cast<unsigned>(field(5, 2))),
@@ -36,11 +36,11 @@ std::optional<Date> parseDate(std::string_view text)
     const int minute = field(14, 2);
     const int second = field(17, 2);
     const int milliseconds = hasFraction ? field(20, 3) : 0;
-    if (field(0, 4) < 0 || !day.ok() || hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59
-        || milliseconds < 0)
+    if (field(0, 4) < 0 || !day.ok() || hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 ||
+        second > 59 || milliseconds < 0)
         return std::nullopt;
-    return Date(std::chrono::sys_days(day)) + std::chrono::hours(hour) + std::chrono::minutes(minute)
-           + std::chrono::seconds(second) + std::chrono::milliseconds(milliseconds);
+    return Date(std::chrono::sys_days(day)) + std::chrono::hours(hour) + std::chrono::minutes(minute) +
+           std::chrono::seconds(second) + std::chrono::milliseconds(milliseconds);
 }
 
 std::optional<std::vector<ProcessorTicks>> readTicks(const Members &entry)
@@ -75,7 +75,8 @@ std::optional<VirtualMemory> readVirtualMemory(const Members &entry)
         return std::nullopt;
     return VirtualMemory{.activeCount = counts->integer<std::uint64_t>("active_count").value_or(0),
                          .wireCount = counts->integer<std::uint64_t>("wire_count").value_or(0),
-                         .compressorPageCount = counts->integer<std::uint64_t>("compressor_page_count").value_or(0)};
+                         .compressorPageCount =
+                             counts->integer<std::uint64_t>("compressor_page_count").value_or(0)};
 }
 
 std::vector<InterfaceEntry> readLinks(const Members &entry)
@@ -165,11 +166,12 @@ std::unique_ptr<Counters> readCounters(const Members &recording)
     }
     if (readings.empty())
         readings.push_back(base);
-    return std::make_unique<RecordedCounters>(recording.integer("pageSize", 1, mostBytes).value_or(usualPageSize),
-                                              std::move(readings));
+    return std::make_unique<RecordedCounters>(
+        recording.integer("pageSize", 1, mostBytes).value_or(usualPageSize), std::move(readings));
 }
 
-/// One reading, as members of the recording itself; the links, kernel values, heat and power are there already.
+/// One reading, as members of the recording itself; the links, kernel values, heat and power are there
+/// already.
 void write(json::Writer &writer, const Counters &counters)
 {
     const auto reading = counters.reader()->read();

@@ -75,7 +75,8 @@ std::unique_ptr<Graphics> readGraphics(const Members &recording)
             if (*place >= 0 && std::cmp_less(*place, reading.devices.size()))
                 reading.defaultDevice = reading.devices[static_cast<std::size_t>(*place)];
             else
-                graphics->fail("defaultDevice", "must be the place of a device in \"devices\", counted from 0");
+                graphics->fail("defaultDevice",
+                               "must be the place of a device in \"devices\", counted from 0");
         }
     }
     return std::make_unique<RecordedGraphics>(std::move(reading));

@@ -13,7 +13,7 @@ namespace quillmark::platform::recorded {
 
 namespace {
 
-template<typename Integer>
+template <typename Integer>
 Bytes bytesOf(Integer number)
 {
     Bytes bytes(sizeof number);
@@ -21,7 +21,7 @@ Bytes bytesOf(Integer number)
     return bytes;
 }
 
-template<typename Integer>
+template <typename Integer>
 Integer integerOf(const Bytes &bytes)
 {
     Integer number = 0;
@@ -126,7 +126,7 @@ std::optional<Bytes> readKernelValue(const Members &values, std::string_view nam
     }
     if (const auto number = get<std::int64_t>(values.object(), name)) {
         return std::in_range<std::int32_t>(*number) ? bytesOf(static_cast<std::int32_t>(*number))
-                                                     : bytesOf(*number);
+                                                    : bytesOf(*number);
     }
     if (auto bytes = get<Bytes>(values.object(), name))
         return bytes;

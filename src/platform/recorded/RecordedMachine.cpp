@@ -24,9 +24,13 @@ public:
         , m_power(recorded::readPower(recording))
         , m_registry(recorded::readRegistry(recording))
         , m_graphics(recorded::readGraphics(recording))
+        , m_intelligence(recorded::readIntelligence(recording))
+        , m_displays(recorded::readDisplays(recording))
         , m_media(recorded::readMedia(recording))
+        , m_capture(recorded::readCapture(recording))
         , m_volumes(recorded::readVolumes(recording))
         , m_network(recorded::readNetwork(recording))
+        , m_security(recorded::readSecurity(recording))
     {}
 
     const KernelValues &kernelValues() const override { return *m_kernelValues; }
@@ -35,9 +39,13 @@ public:
     const Power &power() const override { return *m_power; }
     const Registry &registry() const override { return *m_registry; }
     const Graphics &graphics() const override { return *m_graphics; }
+    const Intelligence &intelligence() const override { return *m_intelligence; }
+    const Displays &displays() const override { return *m_displays; }
     const Media &media() const override { return *m_media; }
+    const Capture &capture() const override { return *m_capture; }
     const Volumes &volumes() const override { return *m_volumes; }
     const Network &network() const override { return *m_network; }
+    const Security &security() const override { return *m_security; }
 
 private:
     std::unique_ptr<KernelValues> m_kernelValues;
@@ -46,9 +54,13 @@ private:
     std::unique_ptr<Power> m_power;
     std::unique_ptr<Registry> m_registry;
     std::unique_ptr<Graphics> m_graphics;
+    std::unique_ptr<Intelligence> m_intelligence;
+    std::unique_ptr<Displays> m_displays;
     std::unique_ptr<Media> m_media;
+    std::unique_ptr<Capture> m_capture;
     std::unique_ptr<Volumes> m_volumes;
     std::unique_ptr<Network> m_network;
+    std::unique_ptr<Security> m_security;
 };
 
 std::unexpected<RecordingError> error(std::string_view name, std::string_view reason)
@@ -102,7 +114,8 @@ RecordedMachine parseRecording(std::string_view text, std::string_view name)
     const auto members = parseProperties(text);
     if (!members) {
         const auto &[reason, line, column] = members.error();
-        return error(name, "not JSON: line " + std::to_string(line) + ", column " + std::to_string(column) + ": " + reason);
+        return error(name, "not JSON: line " + std::to_string(line) + ", column " + std::to_string(column) +
+                               ": " + reason);
     }
     Fault fault;
     const Members recording(*members, {}, fault);

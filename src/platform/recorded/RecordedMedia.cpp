@@ -10,8 +10,6 @@ namespace {
 struct Facts
 {
     std::optional<std::vector<VideoEncoder>> videoEncoders;
-    std::optional<AuthorizationStatus> video;
-    std::optional<AuthorizationStatus> audio;
 };
 
 class RecordedMedia final : public Media
@@ -22,9 +20,11 @@ public:
     {}
 
     std::optional<std::vector<VideoEncoder>> videoEncoders() const override { return m_facts.videoEncoders; }
-    std::optional<AuthorizationStatus> authorization(CaptureKind kind) const override
+    std::optional<std::vector<VideoDecoder>> videoDecoders() const override { return std::nullopt; }
+    std::optional<ImageTypes> imageTypes() const override { return std::nullopt; }
+    std::expected<CommandAnswer, NoAnswer> vainfo() const override
     {
-        return kind == CaptureKind::Video ? m_facts.video : m_facts.audio;
+        return std::unexpected(NoAnswer::NotInstalled);
     }
 
 private:
@@ -52,14 +52,6 @@ std::unique_ptr<Media> readMedia(const Members &recording)
                  .isHardwareAccelerated = encoder.boolean("isHardwareAccelerated")});
         }
     }
-    if (const auto authorization = recording.members("authorization")) {
-        const auto status = [&authorization](std::string_view kind) -> std::optional<AuthorizationStatus> {
-            const auto number = authorization->integer<std::int32_t>(kind);
-            return number ? std::optional(AuthorizationStatus{*number}) : std::nullopt;
-        };
-        facts.video = status("video");
-        facts.audio = status("audio");
-    }
     return std::make_unique<RecordedMedia>(std::move(facts));
 }
 
@@ -77,17 +69,6 @@ void write(json::Writer &writer, const Media &media)
         }
         writer.endArray();
     }
-    const auto video = media.authorization(CaptureKind::Video);
-    const auto audio = media.authorization(CaptureKind::Audio);
-    if (!video && !audio)
-        return;
-    writer.key("authorization");
-    writer.beginObject();
-    if (video)
-        writer.member("video", std::to_underlying(*video));
-    if (audio)
-        writer.member("audio", std::to_underlying(*audio));
-    writer.endObject();
 }
 
 } // namespace quillmark::platform::recorded

@@ -30,6 +30,9 @@ public:
 
     std::vector<InterfaceEntry> interfaces() const override { return m_interfaces; }
     std::optional<NetworkPath> currentPath() const override { return m_path; }
+    std::optional<WifiReading> wifi() const override { return std::nullopt; }
+    std::vector<LinkReading> ethernetLinks() const override { return {}; }
+    std::optional<BluetoothReading> bluetooth() const override { return std::nullopt; }
 
     std::unique_ptr<PathWatch> watchPath(PathHandler handler) const override
     {
@@ -50,7 +53,8 @@ std::optional<NetworkPath> readPath(const Members &recording)
     if (!members)
         return std::nullopt;
     NetworkPath path;
-    path.status = static_cast<NetworkPath::Status>(members->required(members->word("status", statuses), "status"));
+    path.status =
+        static_cast<NetworkPath::Status>(members->required(members->word("status", statuses), "status"));
     path.isExpensive = members->boolean("isExpensive").value_or(false);
     path.isConstrained = members->boolean("isConstrained").value_or(false);
     path.supportsIPv4 = members->boolean("supportsIPv4").value_or(false);
@@ -61,7 +65,8 @@ std::optional<NetworkPath> readPath(const Members &recording)
             const auto *word = std::get_if<std::string>(&type.value);
             const auto place = word ? std::ranges::find(interfaceTypes, *word) : interfaceTypes.end();
             if (place == interfaceTypes.end())
-                members->fail("interfaceTypes", R"(may hold "other", "wifi", "cellular", "wired" and "loopback")");
+                members->fail("interfaceTypes",
+                              R"(may hold "other", "wifi", "cellular", "wired" and "loopback")");
             else
                 path.interfaceTypes.push_back(static_cast<InterfaceType>(place - interfaceTypes.begin()));
         }

@@ -16,6 +16,8 @@ public:
     {}
 
     std::vector<PropertyMap> powerSources() const override { return m_sources; }
+    PowerSettings settings() const override { return {}; }
+    std::map<std::string, PropertyMap> powerSupplies() const override { return {}; }
 
 private:
     std::vector<PropertyMap> m_sources;

@@ -17,6 +17,8 @@ public:
     {}
 
     std::optional<StartupVolume> startupVolume() const override { return m_startupVolume; }
+    std::optional<std::vector<DiskReading>> disks() const override { return std::nullopt; }
+    std::optional<std::vector<VolumeReading>> otherVolumes() const override { return std::nullopt; }
 
 private:
     std::optional<StartupVolume> m_startupVolume;

@@ -10,8 +10,8 @@
 
 #include <memory>
 
-// Each subject of a recorded machine, in a source file of its own: how its members are read, what it answers, and how
-// another machine's answers are written down as those members.
+// Each subject of a recorded machine, in a source file of its own: how its members are read, what it answers,
+// and how another machine's answers are written down as those members.
 
 namespace quillmark::platform::recorded {
 
@@ -21,9 +21,13 @@ std::unique_ptr<Counters> readCounters(const Members &recording);
 std::unique_ptr<Power> readPower(const Members &recording);
 std::unique_ptr<Registry> readRegistry(const Members &recording);
 std::unique_ptr<Graphics> readGraphics(const Members &recording);
+std::unique_ptr<Intelligence> readIntelligence(const Members &recording);
+std::unique_ptr<Displays> readDisplays(const Members &recording);
 std::unique_ptr<Media> readMedia(const Members &recording);
+std::unique_ptr<Capture> readCapture(const Members &recording);
 std::unique_ptr<Volumes> readVolumes(const Members &recording);
 std::unique_ptr<Network> readNetwork(const Members &recording);
+std::unique_ptr<Security> readSecurity(const Members &recording);
 
 void write(json::Writer &writer, const KernelValues &kernelValues);
 void write(json::Writer &writer, const SystemInformation &system, RecordedNames names);
@@ -31,9 +35,13 @@ void write(json::Writer &writer, const Counters &counters);
 void write(json::Writer &writer, const Power &power);
 void write(json::Writer &writer, const Registry &registry);
 void write(json::Writer &writer, const Graphics &graphics);
+void write(json::Writer &writer, const Intelligence &intelligence);
+void write(json::Writer &writer, const Displays &displays);
 void write(json::Writer &writer, const Media &media);
+void write(json::Writer &writer, const Capture &capture);
 void write(json::Writer &writer, const Volumes &volumes, RecordedNames names);
 void write(json::Writer &writer, const Network &network, RecordedNames names);
+void write(json::Writer &writer, const Security &security);
 
 /// The value of one member of a "sysctl" object; none when it is absent, null or at fault.
 std::optional<Bytes> readKernelValue(const Members &values, std::string_view name);

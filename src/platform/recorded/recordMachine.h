@@ -12,8 +12,8 @@ namespace quillmark::platform {
 /// Names that people gave, and what else tells one person's machine from another's.
 enum class RecordedNames { LeaveOut, Keep };
 
-/// The machine's raw answers as a recording. Serial numbers, hardware addresses and identifiers are never in it; the
-/// computer's name, volume names and IP addresses only when they are to be kept.
+/// The machine's raw answers as a recording. Serial numbers, hardware addresses and identifiers are never in
+/// it; the computer's name, volume names and IP addresses only when they are to be kept.
 std::string recordMachine(const Machine &machine, RecordedNames names);
 
 } // namespace quillmark::platform

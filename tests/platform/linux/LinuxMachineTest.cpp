@@ -21,8 +21,7 @@
 using namespace quillmark::platform;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 QString quoted(const std::string &text)
 {
@@ -825,7 +824,7 @@ void LinuxMachineTest::thisMachineAnswers()
     QVERIFY(volume && volume->available);
     QCOMPARE(volume->total, std::int64_t(sizes.f_blocks * sizes.f_frsize));
     QVERIFY(*volume->available <= volume->total && !volume->fileSystem.empty());
-    QVERIFY(!machine->media().videoEncoders() && !machine->media().authorization(CaptureKind::Video));
+    QVERIFY(!machine->media().videoEncoders() && !machine->capture().authorization(CaptureKind::Video));
     QVERIFY(machine->registry().services("AppleSmartBattery").empty());
 }
 
