@@ -4,6 +4,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/Session.h"
+#include "cli/TextWidth.h"
 #include "cli/commands/Command.h"
 #include "reports/Report.h"
 
@@ -17,17 +18,30 @@ namespace quillmark::cli {
 
 namespace {
 
-/// Says what was wrong in one line, and where help is in another.
-int rejectCommandLine(const CLI::App &program, const CLI::Error &error, const Output &output)
+/// What was wrong, in one line.
+std::string reasonFor(const CLI::App &program, const CLI::Error &error)
 {
+    if (error.get_name() == "RequiredError") { // of a command; no option is required
+        const auto words = program.remaining(true);
+        if (words.empty())
+            return "a command is missing";
+        return (words.front().starts_with('-') ? "there is no option '" : "there is no command '") +
+               words.front() + "'";
+    }
     std::string reason = error.what();
     std::ranges::replace(reason, '\n', ' ');
+    return reason;
+}
+
+/// Says what was wrong, and where help is.
+int rejectCommandLine(const CLI::App &program, const CLI::Error &error, const Output &output)
+{
     std::string command = program.get_name();
     for (const auto *app = &program; !app->get_subcommands().empty();) {
         app = app->get_subcommands().front();
         command += ' ' + app->get_name();
     }
-    output.err << "quillmark: " << reason << "\nTry '" << command << " --help'.\n";
+    output.err << "quillmark: " << reasonFor(program, error) << "\nTry '" << command << " --help'.\n";
     return WrongCommandLine;
 }
 
@@ -37,7 +51,7 @@ void addCommonOptions(CLI::App &program, CommonOptions &options)
         .add_option("--machine", options.machineFile,
                     "Inspect this recorded machine instead of the one at hand")
         ->envname("QUILLMARK_MACHINE")
-        ->option_text("FILE");
+        ->type_name("FILE");
     program.add_option("--language", options.language, "Interface language for this run")
         ->check([](const std::string &tag) {
             if (!language::LanguageManager::match(QString::fromStdString(tag)).isEmpty())
@@ -45,7 +59,7 @@ void addCommonOptions(CLI::App &program, CommonOptions &options)
             return "there is no '" + tag + "'; the languages are: " +
                    language::LanguageManager::available().join(QStringLiteral(", ")).toStdString();
         })
-        ->option_text("TAG");
+        ->type_name("TAG");
     program.add_flag("--no-color", options.noColor, "No colours, even on a terminal");
 }
 
@@ -53,7 +67,7 @@ int report(const Failure &failure, const Output &output)
 {
     auto line = failure.reason;
     line.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    output.err << "quillmark: " << line.toStdString() << '\n';
+    output.err << "quillmark: " << printable(line).toStdString() << '\n';
     return Failed;
 }
 

@@ -26,7 +26,7 @@ class Text
 
 constexpr int gap = 2;
 constexpr int markWidth = 4;       // two spaces, the mark, a space
-constexpr int narrowestValue = 16; // below this a narrow terminal has to scroll
+constexpr int narrowestValue = 16; // below this the value stands under its label
 constexpr int barLength = 24;
 
 // ANSI colours, which each terminal's own palette makes fit its ground.
@@ -67,7 +67,7 @@ const char *colorOf(CapabilityStatus status)
 struct Columns
 {
     int label = 0;
-    int value = 0;
+    int value = 0; ///< 0 when the terminal is too narrow for columns
 };
 
 int widestStatus()
@@ -89,7 +89,7 @@ Columns measure(const QList<CapabilitySection> &sections, int available)
     }
     if (available > 0) {
         const int room = available - markWidth - columns.label - gap - gap - widestStatus();
-        columns.value = std::min(columns.value, std::max(room, narrowestValue));
+        columns.value = room < narrowestValue ? 0 : std::min(columns.value, room);
     }
     return columns;
 }
@@ -124,8 +124,7 @@ private:
 
     void addWrapped(const QString &text, const char *codes = nullptr)
     {
-        const auto lines = m_style.columns > 0 ? wrapped(text, m_style.columns) : QStringList{text};
-        for (const auto &line : lines)
+        for (const auto &line : lined(text, m_style.columns))
             m_text += (codes ? styled(line, codes) : line) + u'\n';
     }
 
@@ -145,20 +144,40 @@ private:
         if (rated == 0)
             return;
         const auto supported = inspection::count(sections, CapabilityStatus::Supported);
-        const double score = inspection::capabilityScore(sections);
-        const int filled = static_cast<int>(score * barLength);
-        m_text += u'\n' + styled(Text::tr("Capability score"), bold) + u"  "_s +
-                  styled(QString(filled, u'█'), colorOf(CapabilityStatus::Supported)) +
-                  styled(QString(barLength - filled, u'░'), faint) + u"  "_s +
-                  styled(u"%1%"_s.arg(inspection::scorePercent(sections)), bold) + u'\n';
+        addBar();
         addWrapped(Text::tr("%1 of %2 rated capabilities supported").arg(supported).arg(rated));
+        addCounts();
+    }
 
+    /// "Capability score", a bar, the figure.
+    void addBar()
+    {
+        const auto heading = Text::tr("Capability score");
+        const auto percent = u"%1%"_s.arg(inspection::scorePercent(m_report.sections));
+        int length = barLength;
+        if (m_style.columns > 0)
+            length =
+                std::clamp(m_style.columns - textWidth(heading) - textWidth(percent) - 2 * gap, 0, barLength);
+        const int filled = static_cast<int>(inspection::capabilityScore(m_report.sections) * length);
+        const QString space(gap, u' ');
+        m_text += u'\n' + styled(heading, bold) + space +
+                  styled(QString(filled, u'█'), colorOf(CapabilityStatus::Supported)) +
+                  styled(QString(length - filled, u'░'), faint) + space + styled(percent, bold) + u'\n';
+    }
+
+    void addCounts()
+    {
+        QStringList plain;
         QStringList counts;
         for (const auto status : inspection::allStatuses) {
-            counts += styled(mark(status), colorOf(status)) +
-                      u" %1 %2"_s.arg(inspection::count(sections, status)).arg(title(status));
+            const auto words =
+                u" %1 %2"_s.arg(inspection::count(m_report.sections, status)).arg(title(status));
+            plain += mark(status) + words;
+            counts += styled(mark(status), colorOf(status)) + words;
         }
-        m_text += counts.join(u"   "_s) + u'\n';
+        const auto space = QString(gap + 1, u' ');
+        const bool fits = m_style.columns == 0 || textWidth(plain.join(space)) <= m_style.columns;
+        m_text += counts.join(fits ? space : u"\n"_s) + u'\n';
     }
 
     void addSection(const CapabilitySection &section)
@@ -170,14 +189,50 @@ private:
 
     void addRow(const CapabilityItem &item)
     {
-        const auto value = printable(item.value);
-        const auto lines = m_style.columns > 0 ? wrapped(value, m_columns.value) : QStringList{value};
-        const auto status = title(item.status);
-        m_text += u"  "_s + styled(mark(item.status), colorOf(item.status)) + u' ' +
-                  padded(printable(item.label), m_columns.label + gap) +
-                  padded(lines.first(), m_columns.value + gap) + styled(status, colorOf(item.status)) + u'\n';
+        m_text += u"  "_s + styled(mark(item.status), colorOf(item.status)) + u' ';
+        if (m_columns.value > 0)
+            addAligned(item);
+        else
+            addStacked(item);
+    }
+
+    void addAligned(const CapabilityItem &item)
+    {
+        const auto lines = lined(printable(item.value), m_columns.value);
+        const auto word = statusWord(item);
+        m_text += padded(printable(item.label), m_columns.label + gap);
+        m_text += word.isEmpty()
+                      ? padded(lines.first(), 0)
+                      : padded(lines.first(), m_columns.value + gap) + styled(word, colorOf(item.status));
+        m_text += u'\n';
         for (const auto &line : lines.mid(1))
             m_text += QString(markWidth + m_columns.label + gap, u' ') + line + u'\n';
+    }
+
+    /// On a terminal too narrow for columns: the value under its label.
+    void addStacked(const CapabilityItem &item)
+    {
+        const int width = m_style.columns - markWidth - gap;
+        const auto word = statusWord(item);
+        auto lines = lined(printable(item.label), width);
+        for (const auto &line : lined(printable(item.value), width))
+            lines += QString(gap, u' ') + line;
+        if (!word.isEmpty())
+            lines += QString(gap, u' ') + styled(word, colorOf(item.status));
+        m_text += lines.join(u'\n' + QString(markWidth, u' ')) + u'\n';
+    }
+
+    /// Empty where the value says it already.
+    static QString statusWord(const CapabilityItem &item)
+    {
+        const auto word = title(item.status);
+        return word == item.value ? QString() : word;
+    }
+
+    /// The text in lines of that many columns; in one where there is no limit.
+    QStringList lined(const QString &text, int columns) const
+    {
+        return m_style.columns > 0 ? wrapped(text, std::max(columns, 1)) : QStringList{text};
     }
 
     const reports::Report &m_report;

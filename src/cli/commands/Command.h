@@ -15,6 +15,11 @@ namespace quillmark::cli {
 /// Called once the whole command line has been understood.
 using Command = std::function<std::expected<void, Failure>(const Session &)>;
 
+/// Stands below each command's own options in its help.
+inline constexpr auto commonOptionsHint =
+    "Every command also takes --machine FILE, --language TAG and --no-color: see "
+    "'quillmark --help'.\n";
+
 // Each adds its sub-command to the program; when that one is typed, `chosen` becomes what to do.
 void addInspect(CLI::App &program, Command &chosen);
 void addMachine(CLI::App &program, Command &chosen);

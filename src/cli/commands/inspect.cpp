@@ -9,12 +9,13 @@
 
 #include <CLI/Validators.hpp>
 
-#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace quillmark::cli {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -92,20 +93,25 @@ std::expected<void, Failure> inspect(const Session &session, const InspectOption
     return {};
 }
 
-std::vector<std::string> statusNames()
+QStringList statusNames()
 {
-    std::vector<std::string> names;
-    std::ranges::transform(inspection::allStatuses, std::back_inserter(names),
-                           [](CapabilityStatus status) { return rawValue(status).toStdString(); });
+    QStringList names;
+    for (const auto status : inspection::allStatuses)
+        names += rawValue(status);
     return names;
 }
 
-std::vector<std::string> sectionNames()
+/// Lets one of the names through; otherwise says what there is.
+CLI::Validator isOneOf(const QStringList &names, const std::string &kind)
 {
-    std::vector<std::string> names;
-    std::ranges::transform(inspection::DeviceProbe::sectionKeys(), std::back_inserter(names),
-                           &QString::toStdString);
-    return names;
+    return CLI::Validator(
+        [names, kind](const std::string &given) {
+            if (names.contains(QString::fromStdString(given)))
+                return std::string();
+            return "there is no " + kind + " '" + given +
+                   "'; there are: " + names.join(u", "_s).toStdString();
+        },
+        "");
 }
 
 } // namespace
@@ -116,28 +122,31 @@ void addInspect(CLI::App &program, Command &chosen)
     auto *command =
         program.add_subcommand("inspect", "Inspect the machine and print every capability with its status");
 
-    auto *format = command->add_option_group("Format", "instead of the form for a terminal");
-    format->add_flag("--json", options->json, "Print the report as JSON (report-v1)");
-    format->add_flag("--markdown", options->markdown, "Print the report as Markdown");
-    format->add_flag("--text", options->text, "Print the report as plain text");
-    format->require_option(0, 1);
+    command->add_flag("--json", options->json, "Print the report as JSON (report-v1)");
+    command->add_flag("--markdown", options->markdown, "Print the report as Markdown");
+    command->add_flag("--text", options->text, "Print the report as plain text");
 
     command->add_option("--section", options->sections, "Only this section (repeatable)")
-        ->check(CLI::IsMember(sectionNames()))
+        ->check(isOneOf(inspection::DeviceProbe::sectionKeys(), "section"))
         ->allow_extra_args(false)
-        ->option_text("KEY");
+        ->type_name("KEY");
     command->add_option("--status", options->statuses, "Only rows with this status (repeatable)")
-        ->check(CLI::IsMember(statusNames()))
+        ->check(isOneOf(statusNames(), "status"))
         ->allow_extra_args(false)
-        ->option_text("supported|unsupported|warning|info");
+        ->type_name("STATUS");
     command->add_option("--search", options->search, "Only rows whose label or value contains this text")
-        ->option_text("TEXT");
-    command->footer("Examples:\n"
+        ->type_name("TEXT");
+    command->footer("Statuses: " + statusNames().join(u", "_s).toStdString() +
+                    "\nSections: " + inspection::DeviceProbe::sectionKeys().join(u", "_s).toStdString() +
+                    "\n\n" + commonOptionsHint +
+                    "\nExamples:\n"
                     "  quillmark inspect --status warning --status unsupported\n"
                     "  quillmark inspect --json | jq '.sections[].items[] | select(.status == \"warning\")'\n"
                     "  quillmark inspect --machine machines/macbook-pro-m3-max.json --section graphics");
 
     command->callback([options, &chosen] {
+        if (options->json + options->markdown + options->text > 1)
+            throw CLI::ValidationError("of --json, --markdown and --text only one can be had at a time");
         chosen = [options](const Session &session) { return inspect(session, *options); };
     });
 }

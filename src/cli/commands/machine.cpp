@@ -60,13 +60,13 @@ void addMachine(CLI::App &program, Command &chosen)
     auto *command =
         machine->add_subcommand("record", "Write this machine's raw readings as a recorded machine");
     command->add_option("--output", options->output, "The file to write; - is standard output")
-        ->option_text("FILE");
+        ->type_name("FILE");
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
     command->add_flag("--force", options->force, "Replace the file if it exists");
-    command->footer("Examples:\n"
-                    "  quillmark machine record --output my-machine.json\n"
-                    "  quillmark inspect --machine my-machine.json");
+    command->footer(std::string(commonOptionsHint) + "\nExamples:\n"
+                                                     "  quillmark machine record --output my-machine.json\n"
+                                                     "  quillmark inspect --machine my-machine.json");
     command->callback([options, &chosen] {
         chosen = [options](const Session &session) { return record(session, *options); };
     });
