@@ -13,7 +13,7 @@ namespace {
 
 QStringList languageOrder(const CommonOptions &options)
 {
-    return options.language.empty() ? language::preferredLanguages()
+    return options.language.empty() ? language::environmentLanguages()
                                     : QStringList{QString::fromStdString(options.language)};
 }
 

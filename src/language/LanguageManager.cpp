@@ -3,8 +3,6 @@
 
 #include "language/LanguageManager.h"
 
-#include <QLocale>
-
 namespace quillmark::language {
 
 namespace {
@@ -63,9 +61,16 @@ bool LanguageManager::setLanguage(const QString &tag)
     return true;
 }
 
-QStringList preferredLanguages()
+QStringList environmentLanguages()
 {
-    return QLocale::system().uiLanguages();
+    QString locale;
+    for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        if (locale.isEmpty())
+            locale = qEnvironmentVariable(variable);
+    }
+    if (locale.isEmpty() || locale == u"POSIX" || locale.section(QLatin1Char('.'), 0, 0) == u"C")
+        return {};
+    return qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'), Qt::SkipEmptyParts) << locale;
 }
 
 } // namespace quillmark::language

@@ -43,8 +43,8 @@ private:
     Formats m_formats;
 };
 
-/// The languages that the environment asks for, best first (LC_ALL, LC_MESSAGES, LANG, LANGUAGE; on a Mac the
-/// system's settings).
-QStringList preferredLanguages();
+/// The languages that the environment asks for, best first: the list in LANGUAGE, then the locale's own (the
+/// first of LC_ALL, LC_MESSAGES and LANG that is set). Empty in the locale "C".
+QStringList environmentLanguages();
 
 } // namespace quillmark::language

@@ -55,12 +55,12 @@ LinuxSystemInformation::LinuxSystemInformation(const Files &files, const LinuxPr
 
 OperatingSystem LinuxSystemInformation::operatingSystem() const
 {
-    return operatingSystemOf(osRelease());
+    return facts().operatingSystem;
 }
 
 SystemWords LinuxSystemInformation::words() const
 {
-    return {operatingSystemWords(), processorWord(), architectureWord()};
+    return facts().words;
 }
 
 std::optional<InstructionSet> LinuxSystemInformation::instructionSet() const
@@ -106,21 +106,25 @@ std::int32_t LinuxSystemInformation::thermalState() const
     return ThermalZones(m_files).state();
 }
 
+const LinuxSystemInformation::Facts &LinuxSystemInformation::facts() const
+{
+    std::call_once(m_factsRead, [this] {
+        const auto assignments = osRelease();
+        const std::string name = assigned(assignments, "PRETTY_NAME", assigned(assignments, "NAME"));
+        const auto release = m_files.value("/proc/sys/kernel/osrelease");
+        const std::string kernel = release ? "Linux " + *release : "Linux";
+        m_facts.operatingSystem = operatingSystemOf(assignments);
+        m_facts.words = {name.empty() ? kernel : name + ", " + kernel, processorWord(), architectureWord()};
+    });
+    return m_facts;
+}
+
 std::map<std::string, std::string, std::less<>> LinuxSystemInformation::osRelease() const
 {
     auto text = m_files.text("/etc/os-release");
     if (!text)
         text = m_files.text("/usr/lib/os-release");
     return text ? parseOsRelease(*text) : std::map<std::string, std::string, std::less<>>();
-}
-
-std::string LinuxSystemInformation::operatingSystemWords() const
-{
-    const auto assignments = osRelease();
-    const std::string name = assigned(assignments, "PRETTY_NAME", assigned(assignments, "NAME"));
-    const auto release = m_files.value("/proc/sys/kernel/osrelease");
-    const std::string kernel = release ? "Linux " + *release : "Linux";
-    return name.empty() ? kernel : name + ", " + kernel;
 }
 
 std::string LinuxSystemInformation::architectureWord() const

@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxProcessor.h"
 
 #include <map>
+#include <mutex>
 #include <string>
 
 namespace quillmark::platform {
@@ -27,13 +28,23 @@ public:
     std::int32_t thermalState() const override;
 
 private:
+    /// What every section asks about the system, read once: a system that has been upgraded is the new one
+    /// only after it was started anew.
+    struct Facts
+    {
+        OperatingSystem operatingSystem;
+        SystemWords words;
+    };
+
+    const Facts &facts() const;
     std::map<std::string, std::string, std::less<>> osRelease() const;
-    std::string operatingSystemWords() const;
     std::string architectureWord() const;
     std::string processorWord() const;
 
     Files m_files;
     const LinuxProcessor &m_processor;
+    mutable std::once_flag m_factsRead;
+    mutable Facts m_facts;
 };
 
 } // namespace quillmark::platform
