@@ -6,9 +6,11 @@
 #include "inspection/Text.h"
 
 #include <QHash>
+#include <QRandomGenerator>
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 
 namespace quillmark::inspection {
 
@@ -49,6 +51,25 @@ QString title(CapabilityStatus status)
         break;
     }
     return Text::tr("Info");
+}
+
+QUuid freshId()
+{
+    thread_local std::mt19937_64 generator(QRandomGenerator::system()->generate64());
+    const quint64 high = (generator() & ~Q_UINT64_C(0xF000)) | 0x4000;       // version 4
+    const quint64 low = (generator() >> 2) | Q_UINT64_C(0x8000000000000000); // variant
+    const auto byte = [low](int place) { return static_cast<uchar>(low >> 8 * place); };
+    return {static_cast<uint>(high >> 32),
+            static_cast<ushort>(high >> 16),
+            static_cast<ushort>(high),
+            byte(7),
+            byte(6),
+            byte(5),
+            byte(4),
+            byte(3),
+            byte(2),
+            byte(1),
+            byte(0)};
 }
 
 size_t qHash(const CapabilityItem &item, size_t seed)

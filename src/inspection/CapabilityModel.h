@@ -31,12 +31,17 @@ std::optional<CapabilityStatus> statusFromRawValue(QStringView text);
 /// The status as people read it, in the interface language: "Supported", "Not supported", …
 QString title(CapabilityStatus status);
 
+/// A random UUID (RFC 4122, version 4) to tell rows apart. The system's generator, asked for each of a
+/// hundred rows, would take as long as reading the machine: it only seeds this one, which is not fit for
+/// secrets.
+QUuid freshId();
+
 /// One row of an inspection.
 struct CapabilityItem
 {
-    QUuid id = QUuid::createUuid(); ///< tells rows of a list apart; means nothing across inspections
-    QString label;                  ///< in the interface language
-    QString value;                  ///< formatted, in the interface language
+    QUuid id = freshId(); ///< tells rows of a list apart; means nothing across inspections
+    QString label;        ///< in the interface language
+    QString value;        ///< formatted, in the interface language
     CapabilityStatus status = CapabilityStatus::Info;
     std::optional<QString> key; ///< names the row in every language and every scan; absent: the label does
     bool isVolatile = false;    ///< the value changes without any change of the machine
@@ -47,7 +52,7 @@ struct CapabilityItem
 /// A titled group of rows.
 struct CapabilitySection
 {
-    QUuid id = QUuid::createUuid();
+    QUuid id = freshId();
     QString title;
     QString symbol; ///< name of its icon
     QList<CapabilityItem> items;
