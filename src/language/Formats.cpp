@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -145,7 +144,9 @@ QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
     const auto magnitude =
         bytes < 0 ? 0 - static_cast<std::uint64_t>(bytes) : static_cast<std::uint64_t>(bytes);
     const Unit unit = bytes == 0 ? Kilobyte : unitFor(magnitude, style);
-    const double divisor = std::pow(style == ByteCountStyle::Memory ? 1024 : 1000, static_cast<int>(unit));
+    double divisor = 1;
+    for (int step = 0; step < unit; ++step)
+        divisor *= style == ByteCountStyle::Memory ? 1024 : 1000;
     return toQString(
         formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
 }
