@@ -28,16 +28,18 @@ unlock() { exec 9<&-; }
 # becomeOwner ARGUMENTS...: root starts the script again as the checkout's owner, whose build folder stays theirs.
 # Root stays root where the owner could not write anyway: an unpacked archive, say, with its packer's user number.
 becomeOwner() {
-    local owner group user="" home=/
+    local owner group entry user="" home=/ groups=--clear-groups
     owner="$(stat -c %u "$root" 2>/dev/null || stat -f %u "$root")"
     if [ "$EUID" -ne 0 ] || [ "$owner" -eq 0 ]; then return 0; fi
     local as=(sudo -H -u "#$owner")
     if command -v setpriv >/dev/null; then
         group="$(stat -c %g "$root")"
-        IFS=: read -r user _ _ group _ home _ < <(getent passwd "$owner") || true
-        as=(setpriv --reuid "$owner" --regid "$group" --clear-groups)
-        [ -z "$user" ] || as=(setpriv --reuid "$owner" --regid "$group" --init-groups)
-        as+=(env HOME="$home" USER="$user" LOGNAME="$user")
+        # A container's owner can be a number without an account.
+        if entry="$(getent passwd "$owner")"; then
+            IFS=: read -r user _ _ group _ home _ <<<"$entry"
+            groups=--init-groups
+        fi
+        as=(setpriv --reuid "$owner" --regid "$group" "$groups" env HOME="$home" USER="$user" LOGNAME="$user")
     fi
     "${as[@]}" test -w "$root" || return 0
     unlock
@@ -59,17 +61,18 @@ prepare() {
 
 # build PRESET OPTIONS...: configures when the options or the presets have changed, builds, and lets go of the lock.
 build() {
-    local folder="$root/build/$1" configure=(cmake -S "$root" --preset "$@")
+    local folder="$root/build/$1" wanted="$root $*" fresh=""
     local stamp="$folder/configured-with"
     if ! mkdir -p "$folder" || [ ! -w "$folder" ]; then fail "cannot write to $folder"; fi
     [ -w "${HOME:-/}" ] || export CCACHE_DIR="$root/build/ccache"
 
-    if [ "$(cat "$stamp" 2>/dev/null)" != "${configure[*]}" ] || [ "$root/CMakePresets.json" -nt "$stamp" ] ||
+    if [ "$(cat "$stamp" 2>/dev/null)" != "$wanted" ] || [ "$root/CMakePresets.json" -nt "$stamp" ] ||
         [ ! -f "$folder/build.ninja" ]; then
         # A cache that was made elsewhere, before the checkout was moved or copied, is of no use here.
-        grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$folder/CMakeCache.txt" || configure+=(--fresh)
-        "${configure[@]}" >&2 || fail "cmake could not configure the build (its own messages are above)"
-        printf '%s\n' "${configure[*]}" >"$stamp"
+        grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$folder/CMakeCache.txt" || fresh=--fresh
+        cmake -S "$root" ${fresh:+"$fresh"} --preset "$@" >&2 ||
+            fail "cmake could not configure the build (its own messages are above)"
+        printf '%s\n' "$wanted" >"$stamp"
     fi
     # Asked first, since a build with nothing to do would say so.
     if [[ "$(cmake --build "$folder" -- -n 2>&1)" != *"no work to do"* ]]; then

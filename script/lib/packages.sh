@@ -25,7 +25,7 @@ installDebianPackages() {
     say "installing with apt-get: ${missing[*]}"
     "${apt[@]}" update </dev/null >&2 || say "the package lists could not be updated, going on with those at hand"
     "${apt[@]}" install --no-install-recommends "${missing[@]}" </dev/null >&2 ||
-        fail "apt-get could not install these packages (its own messages are above): ${missing[*]}"
+        fail "these packages could not be installed (the messages above say why): ${missing[*]}"
 }
 
 installHomebrewPackages() {
@@ -41,5 +41,5 @@ installHomebrewPackages() {
     [ ${#missing[@]} -gt 0 ] || return 0
     say "installing with Homebrew: ${missing[*]}"
     brew install "${missing[@]}" </dev/null >&2 ||
-        fail "Homebrew could not install these formulae (its own messages are above): ${missing[*]}"
+        fail "these formulae could not be installed (the messages above say why): ${missing[*]}"
 }
