@@ -823,7 +823,7 @@ void LinuxMachineTest::thisMachineAnswers()
     const auto volume = machine->volumes().startupVolume();
     QVERIFY(volume && volume->available);
     QCOMPARE(volume->total, std::int64_t(sizes.f_blocks * sizes.f_frsize));
-    QVERIFY(*volume->available <= volume->total && !volume->fileSystem.empty());
+    QVERIFY(*volume->available <= volume->total);
     QVERIFY(!machine->media().videoEncoders() && !machine->capture().authorization(CaptureKind::Video));
     QVERIFY(machine->registry().services("AppleSmartBattery").empty());
 }
