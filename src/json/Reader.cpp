@@ -63,6 +63,8 @@ Reader::Reader(std::string_view text)
 
 Token Reader::next()
 {
+    if (m_state == State::Failed) // stays at the fault, be it a space
+        return Token::Error;
     skipSpace();
     const char c = m_position < m_input.size() ? m_input[m_position] : '\0';
     switch (m_state) {

@@ -41,6 +41,13 @@ void appendEscape(std::string &text, char c)
     }
 }
 
+/// Whether the sequence is one of the control characters beyond ASCII, which steer terminals as those below
+/// do.
+bool isControl(std::string_view sequence)
+{
+    return sequence.size() == 2 && sequence[0] == '\xC2' && static_cast<unsigned char>(sequence[1]) < 0xA0;
+}
+
 } // namespace
 
 void Writer::key(std::string_view name)
@@ -76,7 +83,10 @@ void Writer::number(double number)
     beforeValue();
     std::array<char, 32> digits{};
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-    m_text.append(digits.data(), result.ptr);
+    const std::string_view text(digits.data(), static_cast<std::size_t>(result.ptr - digits.data()));
+    m_text += text;
+    if (text.find_first_of(".e") == std::string_view::npos)
+        m_text += ".0"; // without it a reader would take it for an integer
 }
 
 void Writer::boolean(bool value)
@@ -142,6 +152,8 @@ void Writer::quoted(std::string_view text)
         const std::size_t length = utf8SequenceLength(text);
         if (length == 1)
             appendEscape(m_text, text.front());
+        else if (isControl(text.substr(0, length)))
+            appendEscape(m_text, text[1]); // U+0080 to U+009F: their second byte is their number
         else
             m_text += length == 0 ? replacement : text.substr(0, length);
         text.remove_prefix(length == 0 ? 1 : length);

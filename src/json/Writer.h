@@ -32,8 +32,8 @@ public:
     void string(std::string_view text);
     void integer(std::int64_t number);
     void integer(std::uint64_t number);
-    /// In the fewest digits that read back as the same double. What JSON cannot say (infinity, not a number)
-    /// is null.
+    /// In the fewest digits that read back as the same double, and never as an integer. What JSON cannot say
+    /// (infinity, not a number) is null.
     void number(double number);
     void boolean(bool value);
     void null();

@@ -3,11 +3,26 @@
 
 #include "reports/Report.h"
 
+#include "reports/Text.h"
+
 namespace quillmark::reports {
 
 QString applicationVersion()
 {
     return QStringLiteral(QUILLMARK_VERSION);
+}
+
+QString singleLine(const QString &text)
+{
+    QString result = text;
+    for (QChar &c : result) {
+        if (c == u'\n' || c == u'\r' || c == u'\t' || c == QChar::LineSeparator ||
+            c == QChar::ParagraphSeparator)
+            c = u' ';
+        else if (c.category() == QChar::Other_Control)
+            c = QChar::ReplacementCharacter;
+    }
+    return result;
 }
 
 QList<inspection::CapabilitySection> filteredSections(const Report &report)

@@ -13,4 +13,8 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Report)
 };
 
+/// The text for one line of a report: line breaks become spaces, other control characters, which would steer
+/// a terminal that the report is shown on or pasted into, U+FFFD.
+QString singleLine(const QString &text);
+
 } // namespace quillmark::reports

@@ -15,10 +15,8 @@ QString escaped(const QString &text)
 {
     QString result;
     result.reserve(text.size());
-    for (const QChar c : text) {
-        if (c == u'\n' || c == u'\r' || c == u'\t') {
-            result += u' ';
-        } else if (c == u'&') {
+    for (const QChar c : singleLine(text)) {
+        if (c == u'&') {
             result += u"&amp;"_s;
         } else if (c == u'<') {
             result += u"&lt;"_s;

@@ -52,7 +52,7 @@ QString plainText(const Report &report)
             continue;
         text += u'\n' + section.title + u'\n';
         for (const auto &item : section.items)
-            text += u"  "_s + line(item) + u'\n';
+            text += u"  "_s + singleLine(line(item)) + u'\n';
     }
     return text;
 }

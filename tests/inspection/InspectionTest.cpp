@@ -12,6 +12,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <atomic>
 #include <condition_variable>
 #include <cstring>
 #include <mutex>
@@ -45,7 +46,8 @@ QStringList lines(const DeviceSummary &summary)
             u"hasBattery | %1"_s.arg(summary.hasBattery)};
 }
 
-/// Every row that has the key, in a line without its label. A text in which the key stands but no row has it: "key | absent".
+/// Every row that has the key, in a line without its label. A text in which the key stands but no row has it:
+/// "key | absent".
 QString rowsOf(const platform::Machine &machine, const QString &key)
 {
     QStringList found;
@@ -64,7 +66,8 @@ CapabilitySection sectionWith(QStringView letters)
     CapabilitySection section;
     for (const QChar letter : letters) {
         const auto place = u"suwi"_s.indexOf(letter);
-        section.items += CapabilityItem{.label = u"label"_s, .status = allStatuses[static_cast<std::size_t>(place)]};
+        section.items +=
+            CapabilityItem{.label = u"label"_s, .status = allStatuses[static_cast<std::size_t>(place)]};
     }
     return section;
 }
@@ -131,7 +134,8 @@ public:
     bool report(bool isExpensive)
     {
         std::unique_lock lock(m_mutex);
-        m_pending = platform::NetworkPath{.status = platform::NetworkPath::Status::Satisfied, .isExpensive = isExpensive};
+        m_pending = platform::NetworkPath{.status = platform::NetworkPath::Status::Satisfied,
+                                          .isExpensive = isExpensive};
         m_changed.notify_all();
         m_changed.wait(lock, [this] { return !m_pending || watches == 0; });
         return !m_pending;
@@ -163,7 +167,8 @@ private:
         {
             std::unique_lock lock(m_network.m_mutex);
             for (;;) {
-                m_network.m_changed.wait(lock, [this] { return m_network.m_pending || m_network.watches == 0; });
+                m_network.m_changed.wait(lock,
+                                         [this] { return m_network.m_pending || m_network.watches == 0; });
                 if (m_network.watches == 0)
                     return;
                 handler(*m_network.m_pending);
@@ -251,7 +256,8 @@ void InspectionTest::recordedMachines_data()
         QTest::newRow(qPrintable(name)) << name;
 }
 
-/// The headline and the rows of the sections whose wording is fixed. QUILLMARK_UPDATE_EXPECTED=1 writes the files anew.
+/// The headline and the rows of the sections whose wording is fixed. QUILLMARK_UPDATE_EXPECTED=1 writes the
+/// files anew.
 void InspectionTest::recordedMachines()
 {
     QFETCH(const QString, name);
@@ -295,69 +301,90 @@ void InspectionTest::oddMachines_data()
     row("colder than known", R"({"thermalState": -1})", u"thermalState | Unknown | info"_s);
 
     row("no host name", R"({"hostName": null})", u"deviceName | — | info"_s);
-    row("host name of another script", R"({"hostName": "アダの Mac 💻"})", u"deviceName | アダの Mac 💻 | info"_s);
+    row("host name of another script", R"({"hostName": "アダの Mac 💻"})",
+        u"deviceName | アダの Mac 💻 | info"_s);
     kernel("no model", R"("hw.model": null)", u"modelIdentifier | — | info"_s);
-    kernel("model ends at the first zero", R"("hw.model": {"hex": "4d6163310041"})", u"modelIdentifier | Mac1 | info"_s);
+    kernel("model ends at the first zero", R"("hw.model": {"hex": "4d6163310041"})",
+           u"modelIdentifier | Mac1 | info"_s);
     kernel("empty model", R"("hw.model": {"hex": ""})", u"modelIdentifier |  | info"_s);
 
     row("version with zeros", "{}", u"os | macOS 15.0 Sequoia (24A335) | info"_s);
-    row("version without a name", R"({"operatingSystem": {"major": 12, "minor": 7, "patch": 1}, "sysctl": {"kern.osversion": "21G920"}})",
+    row("version without a name",
+        R"({"operatingSystem": {"major": 12, "minor": 7, "patch": 1}, "sysctl": {"kern.osversion": "21G920"}})",
         u"os | macOS 12.7.1 (21G920) | info"_s);
-    row("version between the names", R"({"operatingSystem": {"major": 16, "minor": 2}})", u"os | macOS 16.2 (24A335) | info"_s);
+    row("version between the names", R"({"operatingSystem": {"major": 16, "minor": 2}})",
+        u"os | macOS 16.2 (24A335) | info"_s);
     row("newest name", R"({"operatingSystem": {"major": 26}})", u"os | macOS 26.0 Tahoe (24A335) | info"_s);
-    row("no build", R"({"operatingSystem": {"major": 13, "minor": 6, "patch": 7}, "sysctl": {"kern.osversion": null}})",
+    row("no build",
+        R"({"operatingSystem": {"major": 13, "minor": 6, "patch": 7}, "sysctl": {"kern.osversion": null}})",
         u"os | macOS 13.6.7 Ventura | info"_s);
 
     kernel("native", R"("sysctl.proc_translated": 0)", u"architecture | Apple Silicon (arm64) | info"_s);
-    kernel("translated", R"("sysctl.proc_translated": 1)", u"architecture | Apple Silicon (arm64) — via Rosetta | warning"_s);
+    kernel("translated", R"("sysctl.proc_translated": 1)",
+           u"architecture | Apple Silicon (arm64) — via Rosetta | warning"_s);
     kernel("translated as far as 8 bytes tell", R"("sysctl.proc_translated": {"int64": 1})",
            u"architecture | Apple Silicon (arm64) — via Rosetta | warning"_s);
-    kernel("translated, 2", R"("sysctl.proc_translated": 2)", u"architecture | Apple Silicon (arm64) | info"_s);
+    kernel("translated, 2", R"("sysctl.proc_translated": 2)",
+           u"architecture | Apple Silicon (arm64) | info"_s);
     kernel("translated, not readable as a number", R"("sysctl.proc_translated": {"hex": "01"})",
            u"architecture | Apple Silicon (arm64) | info"_s);
     kernel("translated Intel", R"("sysctl.proc_translated": 1, "hw.optional.arm64": null)",
            u"architecture | Intel (x86_64) — via Rosetta | warning"_s);
-    kernel("arm64 is 0", R"("hw.optional.arm64": 0, "hw.optional.avx2_0": 1)",
-           u"architecture | Intel (x86_64) | info\nneuralEngine | Not available | unsupported\n"
-           "avx2 | Supported | supported\navx512 | Not supported | unsupported\nsme | absent\nbf16 | absent"_s);
-    kernel("arm64 is 2", R"("hw.optional.arm64": 2)", u"architecture | Intel (x86_64) | info\nsme | absent"_s);
-    kernel("arm64 has one byte", R"("hw.optional.arm64": {"hex": "01"})", u"neuralEngine | Not available | unsupported"_s);
+    kernel(
+        "arm64 is 0", R"("hw.optional.arm64": 0, "hw.optional.avx2_0": 1)",
+        u"architecture | Intel (x86_64) | info\nneuralEngine | Not available | unsupported\n"
+        "avx2 | Supported | supported\navx512 | Not supported | unsupported\nsme | absent\nbf16 | absent"_s);
+    kernel("arm64 is 2", R"("hw.optional.arm64": 2)",
+           u"architecture | Intel (x86_64) | info\nsme | absent"_s);
+    kernel("arm64 has one byte", R"("hw.optional.arm64": {"hex": "01"})",
+           u"neuralEngine | Not available | unsupported"_s);
 
     row("uptime unknown", R"({"systemUptime": null})", u"uptime | — | info"_s);
     row("uptime without seconds", R"({"systemUptime": 59.99})", u"uptime | 0m | info"_s);
     row("uptime of days and minutes", R"({"systemUptime": 86460})", u"uptime | 1d 1m | info"_s);
 
     kernel("no brand", R"("machdep.cpu.brand_string": null)", u"processor | Apple Silicon | info"_s);
-    kernel("no brand on Intel", R"("machdep.cpu.brand_string": null, "hw.optional.arm64": null)", u"processor | Intel | info"_s);
+    kernel("no brand on Intel", R"("machdep.cpu.brand_string": null, "hw.optional.arm64": null)",
+           u"processor | Intel | info"_s);
     kernel("no cores", R"("hw.physicalcpu": null, "hw.logicalcpu": {"hex": "0800"})",
            u"physicalCores | 0 | info\nlogicalCores | 0 | info"_s);
-    kernel("one kind of core", R"("hw.nperflevels": 1)", u"performanceCores | absent\nefficiencyCores | absent"_s);
-    kernel("kinds of cores not told", R"("hw.nperflevels": null)", u"performanceCores | absent\nefficiencyCores | absent"_s);
+    kernel("one kind of core", R"("hw.nperflevels": 1)",
+           u"performanceCores | absent\nefficiencyCores | absent"_s);
+    kernel("kinds of cores not told", R"("hw.nperflevels": null)",
+           u"performanceCores | absent\nefficiencyCores | absent"_s);
     kernel("three kinds of cores", R"("hw.nperflevels": 3, "hw.perflevel2.physicalcpu": 2)",
            u"performanceCores | 4 | info\nefficiencyCores | 4 | info"_s);
-    kernel("kinds without counts", R"("hw.perflevel0.physicalcpu": null, "hw.perflevel1.physicalcpu": {"hex": "040000"})",
+    kernel("kinds without counts",
+           R"("hw.perflevel0.physicalcpu": null, "hw.perflevel1.physicalcpu": {"hex": "040000"})",
            u"performanceCores | 0 | info\nefficiencyCores | 0 | info"_s);
     kernel("many cores are not grouped", R"("hw.logicalcpu": 1024)", u"logicalCores | 1024 | info"_s);
-    kernel("frequency of 8 bytes", R"("hw.cpufrequency_max": 3200000000)", u"maxFrequency | 3.20 GHz | info"_s);
-    kernel("frequency of 4 bytes", R"("hw.cpufrequency_max": 800000000)", u"maxFrequency | 0.80 GHz | info"_s);
+    kernel("frequency of 8 bytes", R"("hw.cpufrequency_max": 3200000000)",
+           u"maxFrequency | 3.20 GHz | info"_s);
+    kernel("frequency of 4 bytes", R"("hw.cpufrequency_max": 800000000)",
+           u"maxFrequency | 0.80 GHz | info"_s);
     kernel("least frequency", R"("hw.cpufrequency_max": 1)", u"maxFrequency | 0.00 GHz | info"_s);
     kernel("frequency 0", R"("hw.cpufrequency_max": {"int64": 0})", u"maxFrequency | absent"_s);
     kernel("frequency below 0", R"("hw.cpufrequency_max": -1)", u"maxFrequency | absent"_s);
     kernel("frequency absent", R"("hw.cpufrequency_max": null)", u"maxFrequency | absent"_s);
     row("no memory", R"({"physicalMemory": null})", u"memory | Zero kB | info"_s);
-    kernel("features", R"("hw.optional.arm.FEAT_SME": 1, "hw.optional.arm.FEAT_BF16": null)",
-           u"sme | Supported | supported\nbf16 | Not supported | unsupported\navx2 | absent\navx512 | absent"_s);
+    kernel(
+        "features", R"("hw.optional.arm.FEAT_SME": 1, "hw.optional.arm.FEAT_BF16": null)",
+        u"sme | Supported | supported\nbf16 | Not supported | unsupported\navx2 | absent\navx512 | absent"_s);
 
     row("words of another system",
         R"~({"words": {"operatingSystem": "Debian GNU/Linux 12", "processor": "Arm processor", "architecture": "Arm (arm64)"},
              "instructionSet": "arm64", "sysctl": {"machdep.cpu.brand_string": null, "hw.optional.arm64": null}})~",
-        u"os | Debian GNU/Linux 12 | info\narchitecture | Arm (arm64) | info\nprocessor | Arm processor | info\n"
+        u"os | Debian GNU/Linux 12 | info\narchitecture | Arm (arm64) | info\nprocessor | Arm processor | "
+        u"info\n"
         "neuralEngine | Not available | unsupported\nbf16 | Supported | supported\navx2 | absent"_s);
-    row("an instruction set of its own", R"({"instructionSet": "other"})", u"sme | absent\nbf16 | absent\navx2 | absent\navx512 | absent"_s);
-    row("a system number that is no macOS name", R"({"operatingSystem": {"name": "Fedora Linux", "major": 26}})",
+    row("an instruction set of its own", R"({"instructionSet": "other"})",
+        u"sme | absent\nbf16 | absent\navx2 | absent\navx512 | absent"_s);
+    row("a system number that is no macOS name",
+        R"({"operatingSystem": {"name": "Fedora Linux", "major": 26}})",
         u"os | Fedora Linux 26.0 (24A335) | info"_s);
 
-    row("no graphics", R"({"graphics": null})", u"metal | Not supported | unsupported\ngpu.1 | absent\nmetal3 | absent"_s);
+    row("no graphics", R"({"graphics": null})",
+        u"metal | Not supported | unsupported\ngpu.1 | absent\nmetal3 | absent"_s);
     row("devices without a default", R"({"graphics": {"defaultDevice": null}})",
         u"metal | Not supported | unsupported\ngpu.1 | absent\nhardwareRayTracing | absent"_s);
     device("no tags", R"("hasUnifiedMemory": false)", u"gpu.1 | X | info\nmetal | absent"_s);
@@ -365,11 +392,14 @@ void InspectionTest::oddMachines_data()
     device("three tags", R"("isRemovable": true, "isLowPower": true, "hasUnifiedMemory": true)",
            u"gpu.1 | X (unified memory, low power, and external eGPU) | info"_s);
     for (const int family : {1, 7, 8}) {
-        device(qPrintable(u"family %1"_s.arg(family)), "\"families\": [" + QByteArray::number(1000 + family) + "]",
-               u"appleGPUFamily | Apple %1 | info\nhardwareRayTracing | Not supported | unsupported"_s.arg(family));
+        device(qPrintable(u"family %1"_s.arg(family)),
+               "\"families\": [" + QByteArray::number(1000 + family) + "]",
+               u"appleGPUFamily | Apple %1 | info\nhardwareRayTracing | Not supported | unsupported"_s.arg(
+                   family));
     }
     for (const int family : {9, 10, 12}) {
-        device(qPrintable(u"family %1"_s.arg(family)), "\"families\": [1001, " + QByteArray::number(1000 + family) + ", 1002]",
+        device(qPrintable(u"family %1"_s.arg(family)),
+               "\"families\": [1001, " + QByteArray::number(1000 + family) + ", 1002]",
                u"appleGPUFamily | Apple %1 | info\nhardwareRayTracing | Supported | supported"_s.arg(family));
     }
     device("a family not asked for", R"("families": [1013, 1000, 2002, 3003])",
@@ -380,16 +410,22 @@ void InspectionTest::oddMachines_data()
            u"rayTracing | Not supported | unsupported\nhardwareRayTracing | Supported | supported"_s);
     device("Metal 4 on an older system", R"("families": [5001, 5002])",
            u"metal3 | Supported | supported\nmetal4 | Requires macOS 26 | unsupported"_s);
-    const QByteArray metal4 = R"({"operatingSystem": {"major": %}, "graphics": {"devices": [{"name": "X", "families": [5002]}]}})";
-    row("Metal 4 on 25", QByteArray(metal4).replace('%', "25"), u"metal4 | Requires macOS 26 | unsupported"_s);
-    row("Metal 4 on 26", QByteArray(metal4).replace('%', "26"), u"metal3 | Not supported | unsupported\nmetal4 | Supported | supported"_s);
-    row("Metal 4 on 26 without the family", R"({"operatingSystem": {"major": 26}})", u"metal4 | Not supported | unsupported"_s);
-    device("no working set", R"("recommendedMaxWorkingSetSize": 0)", u"recommendedGPUMemory | Zero kB | info"_s);
+    const QByteArray metal4 =
+        R"({"operatingSystem": {"major": %}, "graphics": {"devices": [{"name": "X", "families": [5002]}]}})";
+    row("Metal 4 on 25", QByteArray(metal4).replace('%', "25"),
+        u"metal4 | Requires macOS 26 | unsupported"_s);
+    row("Metal 4 on 26", QByteArray(metal4).replace('%', "26"),
+        u"metal3 | Not supported | unsupported\nmetal4 | Supported | supported"_s);
+    row("Metal 4 on 26 without the family", R"({"operatingSystem": {"major": 26}})",
+        u"metal4 | Not supported | unsupported"_s);
+    device("no working set", R"("recommendedMaxWorkingSetSize": 0)",
+           u"recommendedGPUMemory | Zero kB | info"_s);
     row("the second device is the default",
         R"({"graphics": {"defaultDevice": 1, "devices": [
             {"name": "A", "families": [1009, 5001], "supportsRaytracing": true},
             {"name": "B", "isLowPower": true, "recommendedMaxWorkingSetSize": 1073741824}]}})",
-        u"gpu.1 | A | info\ngpu.2 | B (low power) | info\nrecommendedGPUMemory | 1 GB | info\nappleGPUFamily | absent\n"
+        u"gpu.1 | A | info\ngpu.2 | B (low power) | info\nrecommendedGPUMemory | 1 GB | info\nappleGPUFamily "
+        u"| absent\n"
         "metal3 | Not supported | unsupported\nrayTracing | Not supported | unsupported"_s);
 }
 
@@ -409,14 +445,19 @@ void InspectionTest::headline_data()
 {
     QTest::addColumn<QByteArray>("changes");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("complete") << QByteArray("{}") << u"Test Mac|Mac15,3|Apple M3|16 GB|494.38 GB|macOS 15.0 Sequoia (24A335)|1|0"_s;
-    QTest::newRow("bare") << QByteArray(R"({"hostName": null, "physicalMemory": null, "volume": null, "sysctl": {"hw.model": null,
+    QTest::newRow("complete")
+        << QByteArray("{}") << u"Test Mac|Mac15,3|Apple M3|16 GB|494.38 GB|macOS 15.0 Sequoia (24A335)|1|0"_s;
+    QTest::newRow("bare")
+        << QByteArray(
+               R"({"hostName": null, "physicalMemory": null, "volume": null, "sysctl": {"hw.model": null,
         "machdep.cpu.brand_string": null, "hw.optional.arm64": null, "kern.osversion": null}})")
-                          << u"Mac|—|Intel|Zero kB|—|macOS 15.0 Sequoia|0|0"_s;
-    QTest::newRow("UPS alone") << QByteArray(R"({"powerSources": [{"Type": "UPS"}], "volume": {"total": 1000}})")
+        << u"Mac|—|Intel|Zero kB|—|macOS 15.0 Sequoia|0|0"_s;
+    QTest::newRow("UPS alone") << QByteArray(
+                                      R"({"powerSources": [{"Type": "UPS"}], "volume": {"total": 1000}})")
                                << u"Test Mac|Mac15,3|Apple M3|16 GB|1 kB|macOS 15.0 Sequoia (24A335)|1|0"_s;
-    QTest::newRow("battery") << QByteArray(R"({"powerSources": [{"Type": "InternalBattery"}], "volume": {"total": 0}})")
-                             << u"Test Mac|Mac15,3|Apple M3|16 GB|Zero kB|macOS 15.0 Sequoia (24A335)|1|1"_s;
+    QTest::newRow("battery")
+        << QByteArray(R"({"powerSources": [{"Type": "InternalBattery"}], "volume": {"total": 0}})")
+        << u"Test Mac|Mac15,3|Apple M3|16 GB|Zero kB|macOS 15.0 Sequoia (24A335)|1|1"_s;
 }
 
 void InspectionTest::headline()
@@ -458,27 +499,37 @@ void InspectionTest::batteries_data()
 {
     QTest::addColumn<QByteArray>("changes");
     QTest::addColumn<QString>("expected"); // level charging onAC health cycles
-    const auto row = [](const char *name, const QByteArray &sources, const QString &expected, const QByteArray &registry = "{}") {
-        QTest::newRow(name) << QByteArray("{\"powerSources\": " + sources + ", \"registry\": " + registry + "}") << expected;
+    const auto row = [](const char *name, const QByteArray &sources, const QString &expected,
+                        const QByteArray &registry = "{}") {
+        QTest::newRow(name) << QByteArray("{\"powerSources\": " + sources + ", \"registry\": " + registry +
+                                          "}")
+                            << expected;
     };
     row("none", "[]", u"no battery"_s, R"({"AppleSmartBattery": {"CycleCount": 3}})");
     row("UPS", R"([{"Type": "UPS", "Current Capacity": 5}])", u"no battery"_s);
-    row("types that are none", R"([{"Type": 5}, {}, {"Type": "internalbattery"}, {"Type": null}])", u"no battery"_s);
+    row("types that are none", R"([{"Type": 5}, {}, {"Type": "internalbattery"}, {"Type": null}])",
+        u"no battery"_s);
     row("no keys", R"([{"Type": "InternalBattery"}])", u"0 0 0 - -"_s);
     row("complete",
         R"([{"Type": "InternalBattery", "Current Capacity": 80, "Max Capacity": 100, "Is Charging": true,
              "Power Source State": "AC Power", "BatteryHealth": "Good"}])",
         u"0.8 1 1 Good 112"_s, R"({"AppleSmartBattery": {"CycleCount": 112}})");
-    row("after a UPS", R"([{"Type": "UPS", "Current Capacity": 9}, {"Type": "InternalBattery", "Current Capacity": 41}])",
+    row("after a UPS",
+        R"([{"Type": "UPS", "Current Capacity": 9}, {"Type": "InternalBattery", "Current Capacity": 41}])",
         u"0.41 0 0 - -"_s);
-    row("the first of two", R"([{"Type": "InternalBattery", "Current Capacity": 1}, {"Type": "InternalBattery", "Current Capacity": 2}])",
+    row("the first of two",
+        R"([{"Type": "InternalBattery", "Current Capacity": 1}, {"Type": "InternalBattery", "Current Capacity": 2}])",
         u"0.01 0 0 - -"_s);
     row("no maximum", R"([{"Type": "InternalBattery", "Current Capacity": 50}])", u"0.5 0 0 - -"_s);
-    row("maximum 0", R"([{"Type": "InternalBattery", "Current Capacity": 50, "Max Capacity": 0}])", u"0 0 0 - -"_s);
-    row("maximum below 0", R"([{"Type": "InternalBattery", "Current Capacity": 50, "Max Capacity": -5}])", u"0 0 0 - -"_s);
+    row("maximum 0", R"([{"Type": "InternalBattery", "Current Capacity": 50, "Max Capacity": 0}])",
+        u"0 0 0 - -"_s);
+    row("maximum below 0", R"([{"Type": "InternalBattery", "Current Capacity": 50, "Max Capacity": -5}])",
+        u"0 0 0 - -"_s);
     row("no current", R"([{"Type": "InternalBattery", "Max Capacity": 100}])", u"0 0 0 - -"_s);
-    row("in mAh", R"([{"Type": "InternalBattery", "Current Capacity": 3000, "Max Capacity": 6000}])", u"0.5 0 0 - -"_s);
-    row("on battery", R"([{"Type": "InternalBattery", "Power Source State": "Battery Power"}])", u"0 0 0 - -"_s);
+    row("in mAh", R"([{"Type": "InternalBattery", "Current Capacity": 3000, "Max Capacity": 6000}])",
+        u"0.5 0 0 - -"_s);
+    row("on battery", R"([{"Type": "InternalBattery", "Power Source State": "Battery Power"}])",
+        u"0 0 0 - -"_s);
     row("values of other types",
         R"([{"Type": "InternalBattery", "Current Capacity": "80", "Max Capacity": true, "Is Charging": 1,
              "Power Source State": {}, "BatteryHealth": 5}])",
@@ -496,7 +547,8 @@ void InspectionTest::batteries()
     const QString actual = info ? u"%1 %2 %3 %4 %5"_s.arg(info->level)
                                       .arg(info->isCharging)
                                       .arg(info->onAC)
-                                      .arg(info->health.value_or(u"-"_s), info->cycleCount ? QString::number(*info->cycleCount) : u"-"_s)
+                                      .arg(info->health.value_or(u"-"_s),
+                                           info->cycleCount ? QString::number(*info->cycleCount) : u"-"_s)
                                 : u"no battery"_s;
     QCOMPARE(actual, expected);
     QCOMPARE(DeviceProbe::summary(*machine, english).hasBattery, info.has_value());
@@ -542,19 +594,23 @@ void InspectionTest::freeSpace_data()
 {
     QTest::addColumn<QByteArray>("volume");
     QTest::addColumn<qint64>("available");
-    QTest::newRow("what counts for people") << QByteArray(R"("available": 100, "availableForImportantUsage": 150)") << qint64(150);
+    QTest::newRow("what counts for people")
+        << QByteArray(R"("available": 100, "availableForImportantUsage": 150)") << qint64(150);
     QTest::newRow("not told") << QByteArray(R"("available": 100)") << qint64(100);
-    QTest::newRow("told as 0") << QByteArray(R"("available": 100, "availableForImportantUsage": 0)") << qint64(100);
-    QTest::newRow("the whole volume") << QByteArray(R"("available": 100, "availableForImportantUsage": 1000)") << qint64(1000);
-    QTest::newRow("more than the volume") << QByteArray(R"("available": 100, "availableForImportantUsage": 1001)") << qint64(100);
+    QTest::newRow("told as 0") << QByteArray(R"("available": 100, "availableForImportantUsage": 0)")
+                               << qint64(100);
+    QTest::newRow("the whole volume")
+        << QByteArray(R"("available": 100, "availableForImportantUsage": 1000)") << qint64(1000);
+    QTest::newRow("more than the volume")
+        << QByteArray(R"("available": 100, "availableForImportantUsage": 1001)") << qint64(100);
     QTest::newRow("nothing told") << QByteArray(R"("available": null)") << qint64(0);
 }
 
 void InspectionTest::freeSpace()
 {
     QFETCH(const QByteArray, volume);
-    const auto capacity =
-        DeviceProbe::volumeCapacity(*changedMachine("{\"volume\": {\"name\": \"V\", \"total\": 1000, " + volume + "}}"));
+    const auto capacity = DeviceProbe::volumeCapacity(
+        *changedMachine("{\"volume\": {\"name\": \"V\", \"total\": 1000, " + volume + "}}"));
     QVERIFY(capacity);
     QCOMPARE(capacity->name, u"V"_s);
     QCOMPARE(capacity->total, 1000);
@@ -604,7 +660,8 @@ void InspectionTest::countsAndScore_data()
     QTest::newRow("nothing") << QStringList{u"uw"_s} << u"0 1 1 0, 0, 0"_s;
     QTest::newRow("two thirds") << QStringList{u"ssu"_s} << u"2 1 0 0, 0.6666666666666666, 67"_s;
     QTest::newRow("one of eight is rounded up") << QStringList{u"suuuuuuu"_s} << u"1 7 0 0, 0.125, 13"_s;
-    QTest::newRow("almost everything is not 100") << QStringList{QString(300, u's'), u"w"_s} << u"300 0 1 0, 0.9966777408637874, 99"_s;
+    QTest::newRow("almost everything is not 100")
+        << QStringList{QString(300, u's'), u"w"_s} << u"300 0 1 0, 0.9966777408637874, 99"_s;
 }
 
 void InspectionTest::countsAndScore()
@@ -642,8 +699,9 @@ void InspectionTest::equality()
     auto copy = item;
     QVERIFY(copy == item && qHash(copy) == qHash(item));
     for (const auto &change : std::initializer_list<std::function<void(CapabilityItem &)>>{
-             [](CapabilityItem &c) { c.id = QUuid::createUuid(); }, [](CapabilityItem &c) { c.label += u'x'; },
-             [](CapabilityItem &c) { c.value += u'x'; }, [](CapabilityItem &c) { c.status = CapabilityStatus::Warning; },
+             [](CapabilityItem &c) { c.id = QUuid::createUuid(); },
+             [](CapabilityItem &c) { c.label += u'x'; }, [](CapabilityItem &c) { c.value += u'x'; },
+             [](CapabilityItem &c) { c.status = CapabilityStatus::Warning; },
              [](CapabilityItem &c) { c.key.reset(); }, [](CapabilityItem &c) { c.isVolatile = true; }}) {
         copy = item;
         change(copy);
@@ -663,18 +721,21 @@ void InspectionTest::whatIsAskedIsRecorded_data()
     for (const bool arm64 : {true, false}) {
         QTest::newRow(arm64 ? "Apple silicon" : "Intel") << arm64 << QByteArray("{}");
         QTest::newRow(arm64 ? "Arm Linux" : "x86 Linux")
-            << arm64 << QByteArray(arm64 ? R"({"instructionSet": "arm64", "words": {}})" : R"({"instructionSet": "x86_64"})");
+            << arm64
+            << QByteArray(arm64 ? R"({"instructionSet": "arm64", "words": {}})"
+                                : R"({"instructionSet": "x86_64"})");
     }
 }
 
-/// A kernel value or registry class that an inspection asks for and a recording leaves out would make the recording
-/// answer otherwise than its machine.
+/// A kernel value or registry class that an inspection asks for and a recording leaves out would make the
+/// recording answer otherwise than its machine.
 void InspectionTest::whatIsAskedIsRecorded()
 {
     QFETCH(const bool, arm64);
     QFETCH(const QByteArray, changes);
-    const auto battery = merged(QJsonDocument::fromJson(changes).object(),
-                                QJsonDocument::fromJson(R"({"powerSources": [{"Type": "InternalBattery"}]})").object());
+    const auto battery =
+        merged(QJsonDocument::fromJson(changes).object(),
+               QJsonDocument::fromJson(R"({"powerSources": [{"Type": "InternalBattery"}]})").object());
     const auto recording = changedMachine(QJsonDocument(battery).toJson());
     const TalkativeKernel kernel(arm64);
     const TalkativeRegistry registry;
@@ -687,7 +748,8 @@ void InspectionTest::whatIsAskedIsRecorded()
     const auto askedClasses = registry.asked;
     QVERIFY(askedValues.contains("hw.model") && askedClasses.contains("AppleSmartBattery"));
 
-    const auto again = machineFrom(QByteArray::fromStdString(recordMachine(machine, platform::RecordedNames::Keep)));
+    const auto again =
+        machineFrom(QByteArray::fromStdString(recordMachine(machine, platform::RecordedNames::Keep)));
     for (const auto &name : askedValues)
         QVERIFY2(again->kernelValues().read(name) == kernel.read(name), name.c_str());
     for (const auto &name : askedClasses)
@@ -734,7 +796,8 @@ void InspectionTest::modelFollowsThePath()
 
     watched.pasteboard.notes.clear();
     model.copyReport();
-    QCOMPARE(watched.pasteboard.notes, (QStringList{u"clear"_s, u"%1 sections, dated"_s.arg(model.sections().size())}));
+    QCOMPARE(watched.pasteboard.notes,
+             (QStringList{u"clear"_s, u"%1 sections, dated"_s.arg(model.sections().size())}));
 }
 
 void InspectionTest::modelWithoutPath()

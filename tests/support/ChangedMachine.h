@@ -24,17 +24,26 @@ public:
     {
         return otherKernelValues ? *otherKernelValues : m_machine.kernelValues();
     }
-    const platform::SystemInformation &system() const override { return otherSystem ? *otherSystem : m_machine.system(); }
+    const platform::SystemInformation &system() const override
+    {
+        return otherSystem ? *otherSystem : m_machine.system();
+    }
     const platform::Counters &counters() const override { return m_machine.counters(); }
     const platform::Power &power() const override { return m_machine.power(); }
-    const platform::Registry &registry() const override { return otherRegistry ? *otherRegistry : m_machine.registry(); }
+    const platform::Registry &registry() const override
+    {
+        return otherRegistry ? *otherRegistry : m_machine.registry();
+    }
     const platform::Graphics &graphics() const override { return m_machine.graphics(); }
     const platform::Intelligence &intelligence() const override { return m_machine.intelligence(); }
     const platform::Displays &displays() const override { return m_machine.displays(); }
     const platform::Media &media() const override { return m_machine.media(); }
     const platform::Capture &capture() const override { return m_machine.capture(); }
     const platform::Volumes &volumes() const override { return m_machine.volumes(); }
-    const platform::Network &network() const override { return otherNetwork ? *otherNetwork : m_machine.network(); }
+    const platform::Network &network() const override
+    {
+        return otherNetwork ? *otherNetwork : m_machine.network();
+    }
     const platform::Security &security() const override { return m_machine.security(); }
 
 private:

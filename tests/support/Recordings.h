@@ -34,7 +34,8 @@ inline QByteArray contents(const QString &path)
 /// The names of the recordings in machines/, without ".json".
 inline QStringList recordingNames()
 {
-    auto names = QDir(sourcePath(QStringLiteral("machines"))).entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    auto names = QDir(sourcePath(QStringLiteral("machines")))
+                     .entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
     for (auto &name : names)
         name.chop(5);
     return names;

@@ -4,7 +4,6 @@
 #include "platform/recorded/Subjects.h"
 
 #include <algorithm>
-#include <charconv>
 #include <ctime>
 #include <limits>
 
@@ -18,12 +17,15 @@ using Date = std::chrono::sys_time<std::chrono::milliseconds>;
 std::optional<Date> parseDate(std::string_view text)
 {
     const auto field = [text](std::size_t at, std::size_t length) -> int {
-        int number = -1;
         if (text.size() < at + length)
             return -1;
-        const char *end = text.data() + at + length;
-        const auto result = std::from_chars(text.data() + at, end, number);
-        return result.ec == std::errc() && result.ptr == end ? number : -1;
+        int number = 0;
+        for (const char c : text.substr(at, length)) {
+            if (c < '0' || c > '9')
+                return -1;
+            number = 10 * number + (c - '0');
+        }
+        return number;
     };
     const bool hasFraction = text.size() == 24 && text[19] == '.';
     if ((text.size() != 20 && !hasFraction) || text[4] != '-' || text[7] != '-' || text[10] != 'T' ||
@@ -86,16 +88,19 @@ std::vector<InterfaceEntry> readLinks(const Members &entry)
     return entries;
 }
 
+std::optional<Date> readDate(const Members &sample)
+{
+    const auto text = sample.text("date");
+    const auto date = text ? parseDate(*text) : std::nullopt;
+    if (text && !date)
+        sample.fail("date", R"(must be a date of the form "2026-03-01T09:00:00.000Z")");
+    return date;
+}
+
 /// One entry of "samples". What it does not mention is as in `base`; what it says to be null has failed.
 CounterReading readSample(const Members &entry, const CounterReading &base)
 {
     CounterReading reading = base;
-    reading.date.reset();
-    if (const auto date = entry.text("date")) {
-        reading.date = parseDate(*date);
-        if (!reading.date)
-            entry.fail("date", R"(must be a date of the form "2026-03-01T09:00:00.000Z")");
-    }
     if (entry.has("processorTicks"))
         reading.processorTicks = readTicks(entry);
     if (entry.has("virtualMemory"))
@@ -161,8 +166,10 @@ std::unique_ptr<Counters> readCounters(const Members &recording)
     const auto base = readSample(recording, {});
     std::vector<CounterReading> readings;
     if (const auto samples = recording.list("samples")) {
-        for (const auto &sample : *samples)
+        for (const auto &sample : *samples) {
             readings.push_back(readSample(sample, base));
+            readings.back().date = readDate(sample);
+        }
     }
     if (readings.empty())
         readings.push_back(base);

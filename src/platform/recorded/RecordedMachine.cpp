@@ -114,8 +114,8 @@ RecordedMachine parseRecording(std::string_view text, std::string_view name)
     const auto members = parseProperties(text);
     if (!members) {
         const auto &[reason, line, column] = members.error();
-        return error(name, "not JSON: line " + std::to_string(line) + ", column " + std::to_string(column) +
-                               ": " + reason);
+        return error(name, "not a JSON object: line " + std::to_string(line) + ", column " +
+                               std::to_string(column) + ": " + reason);
     }
     Fault fault;
     const Members recording(*members, {}, fault);
