@@ -3,14 +3,40 @@
 
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
+#include "inspection/securityRows.h"
 
-namespace quillmark::inspection::DeviceProbe {
+namespace quillmark::inspection {
 
 using namespace Qt::StringLiterals;
 
-CapabilitySection securitySection(const platform::Machine &, const language::Formats &)
+bool isVirtualMachine(const platform::Machine &machine)
 {
-    return {.title = Text::tr("Security"), .symbol = u"lock.shield"_s, .key = u"security"_s};
+    // kern.hv_vmm_present; Linux: the flag "hypervisor" of the processor
+    return DeviceProbe::sysctlFlag(machine, "kern.hv_vmm_present");
 }
 
-} // namespace quillmark::inspection::DeviceProbe
+Verdict virtualMachineVerdict()
+{
+    return {Text::tr("Virtual machine"), CapabilityStatus::Info};
+}
+
+QList<CapabilityItem> virtualMachineItems(const platform::Machine &machine)
+{
+    if (!isVirtualMachine(machine))
+        return {};
+    return {fact(u"virtualMachine"_s, Text::tr("Virtual machine"), Text::tr("Yes"))};
+}
+
+namespace DeviceProbe {
+
+CapabilitySection securitySection(const platform::Machine &machine, const language::Formats &)
+{
+    return {.title = Text::tr("Security"),
+            .symbol = u"lock.shield"_s,
+            .items = isMac(machine) ? macSecurityItems(machine) : linuxSecurityItems(machine),
+            .key = u"security"_s};
+}
+
+} // namespace DeviceProbe
+
+} // namespace quillmark::inspection

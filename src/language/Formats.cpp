@@ -151,6 +151,17 @@ QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
         formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
 }
 
+QString Formats::number(double value, int fractionDigits) const
+{
+    using namespace icu::number;
+    UErrorCode status = U_ZERO_ERROR;
+    return toQString(NumberFormatter::withLocale(localeOf(m_language))
+                         .precision(Precision::fixedFraction(fractionDigits))
+                         .roundingMode(UNUM_ROUND_HALFEVEN)
+                         .formatDouble(value, status)
+                         .toString(status));
+}
+
 std::optional<QString> Formats::uptime(std::optional<double> seconds) const
 {
     constexpr double longest = 1e12; // thirty thousand years: beyond it the clock is broken

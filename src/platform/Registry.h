@@ -19,6 +19,10 @@ public:
     /// The properties of every service of the class ("AppleSmartBattery"), or of the one entry at a path
     /// ("IODeviceTree:/options"). A service without properties is an empty dictionary.
     virtual std::vector<PropertyMap> services(std::string_view classOrPath) const = 0;
+
+    /// False where there is no registry to read, so that an empty list does not mean that a service is
+    /// missing.
+    virtual bool isReadable() const { return true; }
 };
 
 } // namespace quillmark::platform

@@ -38,7 +38,9 @@ struct SecurityState
     std::optional<std::uint8_t> efiSecureBoot; ///< value of the firmware's variable SecureBoot: 1 on, 0 off
     bool hasEfi = false;                       ///< started by EFI, so that the variable may be expected
     bool rootIsBlockDevice = false; ///< the root file system lies on one, so that it could be encrypted
-    std::optional<std::string> rootDeviceMapperUuidPrefix; ///< "CRYPT-LUKS2", the part before the identifier
+    /// "CRYPT-LUKS2-", what stands before the identifier. Absent: nothing below the root is encrypted.
+    std::optional<std::string> rootDeviceMapperUuidPrefix;
+    bool tpmIsKnown = false; ///< the kernel tells of a TPM, so that no version means no TPM
     std::optional<int> tpmVersionMajor;
     std::optional<std::string> lsm; ///< /sys/kernel/security/lsm: "lockdown,capability,apparmor"
     std::optional<bool> selinuxEnforcing;

@@ -8,7 +8,6 @@
 #include "platform/Intelligence.h"
 #include "platform/Media.h"
 #include "platform/Registry.h"
-#include "platform/Security.h"
 
 namespace quillmark::platform {
 
@@ -50,16 +49,11 @@ public:
     std::optional<std::vector<RenderNode>> renderNodes() const override { return std::nullopt; }
 };
 
-class LinuxSecurity final : public Security
-{
-public:
-    SecurityState read() const override { return {}; }
-};
-
 class LinuxRegistry final : public Registry
 {
 public:
     std::vector<PropertyMap> services(std::string_view) const override { return {}; }
+    bool isReadable() const override { return false; }
 };
 
 } // namespace quillmark::platform

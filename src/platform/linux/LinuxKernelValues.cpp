@@ -16,7 +16,8 @@ namespace quillmark::platform {
 
 namespace {
 
-/// A processor's feature: the name that macOS gives its flag, and the kernel's word in the list of features.
+/// A processor's feature, or one that a hypervisor adds: the name that macOS gives its flag, and the kernel's
+/// word in the list of features.
 struct Feature
 {
     std::string_view name;
@@ -30,6 +31,7 @@ constexpr std::array features = {
     Feature{"hw.optional.arm.FEAT_SME", ProcessorFamily::Arm, "sme"},
     Feature{"hw.optional.arm.FEAT_BF16", ProcessorFamily::Arm, "bf16"},
     Feature{"hw.optional.arm.FEAT_I8MM", ProcessorFamily::Arm, "i8mm"},
+    Feature{"kern.hv_vmm_present", ProcessorFamily::X86, "hypervisor"},
 };
 
 bool equalsIgnoringCase(std::string_view left, std::string_view right)
@@ -91,7 +93,7 @@ std::optional<Bytes> LinuxKernelValues::read(std::string_view name) const
         return swap();
     if (name == "kern.memorystatus_vm_pressure_level")
         return pressure();
-    if (name.starts_with("hw.optional."))
+    if (name.starts_with("hw.optional.") || name == "kern.hv_vmm_present")
         return feature(name);
     return cores(name);
 }

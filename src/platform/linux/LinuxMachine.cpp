@@ -11,6 +11,7 @@
 #include "platform/linux/LinuxNetwork.h"
 #include "platform/linux/LinuxPower.h"
 #include "platform/linux/LinuxProcessor.h"
+#include "platform/linux/LinuxSecurity.h"
 #include "platform/linux/LinuxSystemInformation.h"
 #include "platform/linux/LinuxVolumes.h"
 
@@ -30,6 +31,7 @@ public:
         , m_graphics(files)
         , m_volumes(files)
         , m_network(files)
+        , m_security(files)
     {}
 
     const KernelValues &kernelValues() const override { return m_kernelValues; }

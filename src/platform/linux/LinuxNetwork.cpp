@@ -3,6 +3,7 @@
 
 #include "platform/linux/LinuxNetwork.h"
 
+#include "platform/linux/LinkFiles.h"
 #include "platform/linux/LinuxPathWatch.h"
 #include "platform/linux/RouteFiles.h"
 #include "platform/linux/TextFields.h"
@@ -16,7 +17,6 @@
 #include <ifaddrs.h>
 #include <linux/if_link.h>
 #include <net/if.h>
-#include <net/if_arp.h>
 #include <netinet/in.h>
 
 namespace quillmark::platform {
@@ -58,28 +58,11 @@ std::optional<InterfaceEntry> entryOf(const ifaddrs &found, InterfaceEntries wan
     } else {
         return std::nullopt;
     }
-    entry.name = found.ifa_name;
+    // Counters are told apart by the whole name, which goes nowhere from there.
+    entry.name = wanted == InterfaceEntries::All ? interfaceLabel(found.ifa_name) : found.ifa_name;
     entry.up = (found.ifa_flags & IFF_UP) != 0;
     entry.loopback = (found.ifa_flags & IFF_LOOPBACK) != 0;
     return entry;
-}
-
-InterfaceType typeOf(const Files &files, const std::string &interfaceName)
-{
-    const std::string folder = "/sys/class/net/" + interfaceName + "/";
-    const std::string uevent = files.value(folder + "uevent").value_or(std::string());
-    const auto deviceType = assignedValue(uevent, "DEVTYPE");
-    if (deviceType == "wlan" || files.exists(folder + "phy80211"))
-        return InterfaceType::Wifi;
-    if (deviceType == "wwan")
-        return InterfaceType::Cellular;
-    const auto hardware = files.number(folder + "type");
-    if (hardware == ARPHRD_LOOPBACK)
-        return InterfaceType::Loopback;
-    // A tunnel of whole frames and a bridge call themselves Ethernet too.
-    if (hardware == ARPHRD_ETHER && !files.exists(folder + "tun_flags") && !files.exists(folder + "bridge"))
-        return InterfaceType::Wired;
-    return InterfaceType::Other;
 }
 
 /// A route stays in the table when the cable is pulled. An interface that does not know its state counts as
@@ -99,7 +82,7 @@ bool addRoute(const Files &files, const std::vector<DefaultRoute> &routes, PathR
         if (!isConnected(files, route.interfaceName))
             continue;
         reading.interfaceNames.push_back(route.interfaceName);
-        const InterfaceType type = typeOf(files, route.interfaceName);
+        const InterfaceType type = interfaceType(files, route.interfaceName);
         auto &types = reading.path.interfaceTypes;
         if (std::ranges::find(types, type) == types.end())
             types.push_back(type);
@@ -163,17 +146,17 @@ std::unique_ptr<PathWatch> LinuxNetwork::watchPath(PathHandler handler) const
 
 std::optional<WifiReading> LinuxNetwork::wifi() const
 {
-    return std::nullopt;
+    return readWifi(m_files);
 }
 
 std::vector<LinkReading> LinuxNetwork::ethernetLinks() const
 {
-    return {};
+    return readEthernetLinks(m_files);
 }
 
 std::optional<BluetoothReading> LinuxNetwork::bluetooth() const
 {
-    return std::nullopt;
+    return readBluetooth(m_files);
 }
 
 } // namespace quillmark::platform

@@ -20,31 +20,38 @@ class RecordedPathWatch final : public PathWatch
 {
 };
 
+struct Facts
+{
+    std::vector<InterfaceEntry> interfaces;
+    std::optional<NetworkPath> path;
+    std::optional<WifiReading> wifi;
+    std::vector<LinkReading> ethernetLinks;
+    std::optional<BluetoothReading> bluetooth;
+};
+
 class RecordedNetwork final : public Network
 {
 public:
-    RecordedNetwork(std::vector<InterfaceEntry> interfaces, std::optional<NetworkPath> path)
-        : m_interfaces(std::move(interfaces))
-        , m_path(std::move(path))
+    explicit RecordedNetwork(Facts facts)
+        : m_facts(std::move(facts))
     {}
 
-    std::vector<InterfaceEntry> interfaces() const override { return m_interfaces; }
-    std::optional<NetworkPath> currentPath() const override { return m_path; }
-    std::optional<WifiReading> wifi() const override { return std::nullopt; }
-    std::vector<LinkReading> ethernetLinks() const override { return {}; }
-    std::optional<BluetoothReading> bluetooth() const override { return std::nullopt; }
+    std::vector<InterfaceEntry> interfaces() const override { return m_facts.interfaces; }
+    std::optional<NetworkPath> currentPath() const override { return m_facts.path; }
+    std::optional<WifiReading> wifi() const override { return m_facts.wifi; }
+    std::vector<LinkReading> ethernetLinks() const override { return m_facts.ethernetLinks; }
+    std::optional<BluetoothReading> bluetooth() const override { return m_facts.bluetooth; }
 
     std::unique_ptr<PathWatch> watchPath(PathHandler handler) const override
     {
-        if (!m_path)
+        if (!m_facts.path)
             return nullptr;
-        handler(*m_path);
+        handler(*m_facts.path);
         return std::make_unique<RecordedPathWatch>();
     }
 
 private:
-    std::vector<InterfaceEntry> m_interfaces;
-    std::optional<NetworkPath> m_path;
+    Facts m_facts;
 };
 
 std::optional<NetworkPath> readPath(const Members &recording)
@@ -74,6 +81,58 @@ std::optional<NetworkPath> readPath(const Members &recording)
     return path;
 }
 
+/// The one member whose null is an answer: there is no Wi-Fi.
+std::optional<WifiReading> readWifi(const Members &recording)
+{
+    if (!recording.has("wifi"))
+        return std::nullopt;
+    const auto members = recording.members("wifi");
+    if (!members)
+        return WifiReading{};
+    return WifiReading{.isPresent = true,
+                       .powerOn = members->boolean("powerOn"),
+                       .activePHYMode = members->integer<int>("activePHYMode"),
+                       .channelBand = members->integer<int>("channelBand"),
+                       .rssi = members->integer<int>("rssiValue"),
+                       .transmitRate = members->number("transmitRate")};
+}
+
+std::vector<LinkReading> readEthernetLinks(const Members &recording)
+{
+    std::vector<LinkReading> links;
+    for (const auto &link : recording.list("ethernetLinks").value_or(std::vector<Members>())) {
+        links.push_back({.name = link.required(link.text("name"), "name"),
+                         .speed = link.integer<std::int64_t>("speed"),
+                         .duplex = link.text("duplex")});
+    }
+    return links;
+}
+
+std::optional<BluetoothReading> readBluetooth(const Members &recording)
+{
+    const auto members = recording.members("bluetooth");
+    if (!members)
+        return std::nullopt;
+    return BluetoothReading{.isPresent = members->required(members->boolean("present"), "present"),
+                            .isBlocked = members->boolean("blocked").value_or(false)};
+}
+
+void writeInterface(json::Writer &writer, const InterfaceEntry &entry, RecordedNames names)
+{
+    writer.beginObject();
+    writer.member("name", std::string_view(entry.name));
+    writer.member("family", families[static_cast<std::size_t>(entry.family)]);
+    writer.member("up", entry.up);
+    writer.member("loopback", entry.loopback);
+    if (entry.address && (names == RecordedNames::Keep || entry.loopback))
+        writer.member("address", std::string_view(*entry.address));
+    if (entry.receivedBytes)
+        writer.member("receivedBytes", std::int64_t{*entry.receivedBytes});
+    if (entry.sentBytes)
+        writer.member("sentBytes", std::int64_t{*entry.sentBytes});
+    writer.endObject();
+}
+
 void writePath(json::Writer &writer, const NetworkPath &path)
 {
     writer.key("networkPath");
@@ -90,6 +149,43 @@ void writePath(json::Writer &writer, const NetworkPath &path)
     writer.member("supportsIPv6", path.supportsIPv6);
     writer.member("supportsDNS", path.supportsDNS);
     writer.endObject();
+}
+
+void writeWifi(json::Writer &writer, const WifiReading &wifi)
+{
+    writer.key("wifi");
+    if (!wifi.isPresent) {
+        writer.null();
+        return;
+    }
+    writer.beginObject();
+    if (wifi.powerOn)
+        writer.member("powerOn", *wifi.powerOn);
+    if (wifi.activePHYMode)
+        writer.member("activePHYMode", *wifi.activePHYMode);
+    if (wifi.channelBand)
+        writer.member("channelBand", *wifi.channelBand);
+    if (wifi.rssi)
+        writer.member("rssiValue", *wifi.rssi);
+    if (wifi.transmitRate)
+        writer.member("transmitRate", *wifi.transmitRate);
+    writer.endObject();
+}
+
+void writeEthernetLinks(json::Writer &writer, const std::vector<LinkReading> &links)
+{
+    writer.key("ethernetLinks");
+    writer.beginArray();
+    for (const auto &link : links) {
+        writer.beginObject();
+        writer.member("name", std::string_view(link.name));
+        if (link.speed)
+            writer.member("speed", *link.speed);
+        if (link.duplex)
+            writer.member("duplex", std::string_view(*link.duplex));
+        writer.endObject();
+    }
+    writer.endArray();
 }
 
 } // namespace
@@ -112,30 +208,33 @@ std::vector<InterfaceEntry> readInterfaces(const Members &object)
 
 std::unique_ptr<Network> readNetwork(const Members &recording)
 {
-    return std::make_unique<RecordedNetwork>(readInterfaces(recording), readPath(recording));
+    return std::make_unique<RecordedNetwork>(Facts{.interfaces = readInterfaces(recording),
+                                                   .path = readPath(recording),
+                                                   .wifi = readWifi(recording),
+                                                   .ethernetLinks = readEthernetLinks(recording),
+                                                   .bluetooth = readBluetooth(recording)});
 }
 
 void write(json::Writer &writer, const Network &network, RecordedNames names)
 {
     writer.key("interfaces");
     writer.beginArray();
-    for (const auto &entry : network.interfaces()) {
-        writer.beginObject();
-        writer.member("name", std::string_view(entry.name));
-        writer.member("family", families[static_cast<std::size_t>(entry.family)]);
-        writer.member("up", entry.up);
-        writer.member("loopback", entry.loopback);
-        if (entry.address && (names == RecordedNames::Keep || entry.loopback))
-            writer.member("address", std::string_view(*entry.address));
-        if (entry.receivedBytes)
-            writer.member("receivedBytes", std::int64_t{*entry.receivedBytes});
-        if (entry.sentBytes)
-            writer.member("sentBytes", std::int64_t{*entry.sentBytes});
-        writer.endObject();
-    }
+    for (const auto &entry : network.interfaces())
+        writeInterface(writer, entry, names);
     writer.endArray();
     if (const auto path = network.currentPath())
         writePath(writer, *path);
+    if (const auto wifi = network.wifi())
+        writeWifi(writer, *wifi);
+    if (const auto links = network.ethernetLinks(); !links.empty())
+        writeEthernetLinks(writer, links);
+    if (const auto bluetooth = network.bluetooth()) {
+        writer.key("bluetooth");
+        writer.beginObject();
+        writer.member("present", bluetooth->isPresent);
+        writer.member("blocked", bluetooth->isBlocked);
+        writer.endObject();
+    }
 }
 
 } // namespace quillmark::platform::recorded
