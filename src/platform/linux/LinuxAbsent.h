@@ -5,7 +5,6 @@
 
 #include "platform/Capture.h"
 #include "platform/Displays.h"
-#include "platform/Intelligence.h"
 #include "platform/Media.h"
 #include "platform/Registry.h"
 #include "platform/Security.h"
@@ -39,15 +38,6 @@ class LinuxDisplays final : public Displays
 {
 public:
     std::optional<std::vector<DisplayReading>> displays() const override { return std::nullopt; }
-};
-
-class LinuxIntelligence final : public Intelligence
-{
-public:
-    std::optional<std::int32_t> languageModelState() const override { return std::nullopt; }
-    std::optional<std::vector<ComputeDevice>> computeDevices() const override { return std::nullopt; }
-    std::optional<std::vector<Accelerator>> accelerators() const override { return std::nullopt; }
-    std::optional<std::vector<RenderNode>> renderNodes() const override { return std::nullopt; }
 };
 
 class LinuxSecurity final : public Security

@@ -7,6 +7,7 @@
 #include "platform/linux/LinuxAbsent.h"
 #include "platform/linux/LinuxCounters.h"
 #include "platform/linux/LinuxGraphics.h"
+#include "platform/linux/LinuxIntelligence.h"
 #include "platform/linux/LinuxKernelValues.h"
 #include "platform/linux/LinuxNetwork.h"
 #include "platform/linux/LinuxPower.h"
@@ -28,6 +29,7 @@ public:
         , m_counters(files)
         , m_power(files)
         , m_graphics(files)
+        , m_intelligence(files)
         , m_volumes(files)
         , m_network(files)
     {}

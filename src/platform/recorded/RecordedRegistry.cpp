@@ -32,7 +32,7 @@ private:
 };
 
 /// Every class and path that this program asks for.
-constexpr std::string_view registryNames[] = {"AppleSmartBattery"};
+constexpr std::string_view registryNames[] = {"AGXAccelerator", "AppleSmartBattery"};
 
 bool namesIdentifier(std::string_view key)
 {
