@@ -4,7 +4,6 @@
 #pragma once
 
 #include "platform/Capture.h"
-#include "platform/Displays.h"
 #include "platform/Media.h"
 #include "platform/Registry.h"
 #include "platform/Security.h"
@@ -32,12 +31,6 @@ public:
     std::optional<std::vector<AudioDevice>> audioDevices() const override { return std::nullopt; }
     std::optional<AudioDefaults> audioDefaults() const override { return std::nullopt; }
     std::optional<std::vector<SoundCard>> soundCards() const override { return std::nullopt; }
-};
-
-class LinuxDisplays final : public Displays
-{
-public:
-    std::optional<std::vector<DisplayReading>> displays() const override { return std::nullopt; }
 };
 
 class LinuxSecurity final : public Security

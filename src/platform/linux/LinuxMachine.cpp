@@ -6,6 +6,7 @@
 #include "platform/linux/Files.h"
 #include "platform/linux/LinuxAbsent.h"
 #include "platform/linux/LinuxCounters.h"
+#include "platform/linux/LinuxDisplays.h"
 #include "platform/linux/LinuxGraphics.h"
 #include "platform/linux/LinuxIntelligence.h"
 #include "platform/linux/LinuxKernelValues.h"
@@ -30,6 +31,7 @@ public:
         , m_power(files)
         , m_graphics(files)
         , m_intelligence(files)
+        , m_displays(files)
         , m_volumes(files)
         , m_network(files)
     {}
