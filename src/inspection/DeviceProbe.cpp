@@ -95,6 +95,14 @@ bool isAppleSilicon(const platform::Machine &machine)
     return sysctlFlag(machine, "hw.optional.arm64");
 }
 
+platform::InstructionSet instructionSet(const platform::Machine &machine)
+{
+    using platform::InstructionSet;
+    if (const auto own = machine.system().instructionSet())
+        return *own;
+    return isAppleSilicon(machine) ? InstructionSet::Arm64 : InstructionSet::X86_64;
+}
+
 QString chipName(const platform::Machine &machine)
 {
     if (const auto brand = sysctlString(machine, "machdep.cpu.brand_string"))

@@ -11,15 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the instruction rows go by. A Mac's kernel value decides it; another system says it itself.
-platform::InstructionSet instructionSet(const platform::Machine &machine)
-{
-    using platform::InstructionSet;
-    if (const auto own = machine.system().instructionSet())
-        return *own;
-    return isAppleSilicon(machine) ? InstructionSet::Arm64 : InstructionSet::X86_64;
-}
-
 QList<CapabilityItem> instructionItems(const platform::Machine &machine)
 {
     const auto item = [&machine](const QString &key, const QString &label, std::string_view kernelValue) {

@@ -41,7 +41,7 @@ icu::UnicodeString toUnicodeString(const QString &text)
 
 enum Unit { Byte, Kilobyte, Megabyte, Gigabyte, Terabyte, Petabyte, UnitCount };
 
-constexpr std::array<int, UnitCount> fractionDigits = {0, 0, 1, 2, 2, 2};
+constexpr std::array<int, UnitCount> unitFractionDigits = {0, 0, 1, 2, 2, 2};
 
 icu::MeasureUnit measureUnit(Unit unit)
 {
@@ -91,7 +91,7 @@ icu::number::FormattedNumber formatBytes(double amount, Unit unit, const icu::Lo
                                          UErrorCode &status)
 {
     const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
-    return formatMeasure(amount, measureUnit(unit), width, fractionDigits[unit], locale, status);
+    return formatMeasure(amount, measureUnit(unit), width, unitFractionDigits[unit], locale, status);
 }
 
 icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFormatterType type,

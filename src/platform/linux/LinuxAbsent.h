@@ -4,8 +4,6 @@
 #pragma once
 
 #include "platform/Capture.h"
-#include "platform/Displays.h"
-#include "platform/Intelligence.h"
 #include "platform/Media.h"
 #include "platform/Registry.h"
 
@@ -32,21 +30,6 @@ public:
     std::optional<std::vector<AudioDevice>> audioDevices() const override { return std::nullopt; }
     std::optional<AudioDefaults> audioDefaults() const override { return std::nullopt; }
     std::optional<std::vector<SoundCard>> soundCards() const override { return std::nullopt; }
-};
-
-class LinuxDisplays final : public Displays
-{
-public:
-    std::optional<std::vector<DisplayReading>> displays() const override { return std::nullopt; }
-};
-
-class LinuxIntelligence final : public Intelligence
-{
-public:
-    std::optional<std::int32_t> languageModelState() const override { return std::nullopt; }
-    std::optional<std::vector<ComputeDevice>> computeDevices() const override { return std::nullopt; }
-    std::optional<std::vector<Accelerator>> accelerators() const override { return std::nullopt; }
-    std::optional<std::vector<RenderNode>> renderNodes() const override { return std::nullopt; }
 };
 
 class LinuxRegistry final : public Registry

@@ -6,7 +6,9 @@
 #include "platform/linux/Files.h"
 #include "platform/linux/LinuxAbsent.h"
 #include "platform/linux/LinuxCounters.h"
+#include "platform/linux/LinuxDisplays.h"
 #include "platform/linux/LinuxGraphics.h"
+#include "platform/linux/LinuxIntelligence.h"
 #include "platform/linux/LinuxKernelValues.h"
 #include "platform/linux/LinuxNetwork.h"
 #include "platform/linux/LinuxPower.h"
@@ -29,6 +31,8 @@ public:
         , m_counters(files)
         , m_power(files)
         , m_graphics(files)
+        , m_intelligence(files)
+        , m_displays(files)
         , m_volumes(files)
         , m_network(files)
         , m_security(files)

@@ -86,6 +86,7 @@ constexpr KernelValueName kernelValueNames[] = {
     {"hw.model", Kind::Text},
     {"hw.nperflevels", Kind::Integer},
     {"hw.optional.arm.FEAT_BF16", Kind::Integer},
+    {"hw.optional.arm.FEAT_I8MM", Kind::Integer},
     {"hw.optional.arm.FEAT_SME", Kind::Integer},
     {"hw.optional.arm64", Kind::Integer},
     {"hw.optional.avx2_0", Kind::Integer},

@@ -38,7 +38,11 @@ private:
 
 /// Every class and path that this program asks for.
 constexpr std::string_view registryNames[] = {
-    "AppleAPFSVolume",       "AppleSEPManager", "AppleSmartBattery", "IODeviceTree:/efi/platform",
+    "AGXAccelerator",
+    "AppleAPFSVolume",
+    "AppleSEPManager",
+    "AppleSmartBattery",
+    "IODeviceTree:/efi/platform",
     "IODeviceTree:/options",
 };
 

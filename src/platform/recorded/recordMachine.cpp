@@ -19,7 +19,7 @@ std::string recordMachine(const Machine &machine, RecordedNames names)
     recorded::write(writer, machine.registry());
     recorded::write(writer, machine.graphics());
     recorded::write(writer, machine.intelligence());
-    recorded::write(writer, machine.displays());
+    recorded::write(writer, machine.displays(), names);
     recorded::write(writer, machine.media());
     recorded::write(writer, machine.capture());
     recorded::write(writer, machine.volumes(), names);

@@ -13,7 +13,8 @@ namespace quillmark::platform {
 enum class RecordedNames { LeaveOut, Keep };
 
 /// The machine's raw answers as a recording. Serial numbers, hardware addresses and identifiers are never in
-/// it; the computer's name, volume names and IP addresses only when they are to be kept.
+/// it; the computer's name, the names of volumes and of displays that have no size, and IP addresses only
+/// when they are to be kept.
 std::string recordMachine(const Machine &machine, RecordedNames names);
 
 } // namespace quillmark::platform
