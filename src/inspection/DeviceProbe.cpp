@@ -188,8 +188,13 @@ QString describe(platform::AuthorizationStatus status)
 
 QList<std::pair<QString, QString>> ipv4Addresses(const platform::Machine &machine)
 {
+    return ipv4Addresses(machine.network().interfaces());
+}
+
+QList<std::pair<QString, QString>> ipv4Addresses(const std::vector<platform::InterfaceEntry> &interfaces)
+{
     QList<std::pair<QString, QString>> addresses;
-    for (const auto &entry : machine.network().interfaces()) {
+    for (const auto &entry : interfaces) {
         if (entry.family == platform::AddressFamily::IPv4 && entry.address && entry.up && !entry.loopback)
             addresses.emplace_back(QString::fromStdString(entry.name),
                                    QString::fromStdString(*entry.address));

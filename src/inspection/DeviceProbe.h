@@ -100,6 +100,8 @@ QString describe(platform::AuthorizationStatus status);
 
 /// Interface name and dotted address of every interface that is up, loopback left out, in the system's order.
 QList<std::pair<QString, QString>> ipv4Addresses(const platform::Machine &machine);
+/// The same of a list that has been read.
+QList<std::pair<QString, QString>> ipv4Addresses(const std::vector<platform::InterfaceEntry> &interfaces);
 
 /// The bytes of the text as one number, the first highest: 'hvc1' for "hvc1".
 std::uint32_t fourCC(std::string_view text);

@@ -71,11 +71,11 @@ QList<CapabilityItem> pathItems(const platform::Machine &machine, const NetworkP
     return items;
 }
 
-QList<CapabilityItem> addressItems(const platform::Machine &machine)
+QList<CapabilityItem> addressItems(const std::vector<platform::InterfaceEntry> &interfaces)
 {
     QList<CapabilityItem> items;
     // getifaddrs
-    for (const auto &[interfaceName, address] : ipv4Addresses(machine)) {
+    for (const auto &[interfaceName, address] : ipv4Addresses(interfaces)) {
         if (items.size() == mostOfAKind)
             break;
         // An address of this range is one that nobody gave.
@@ -104,15 +104,13 @@ bool isTunnelAddress(const platform::InterfaceEntry &entry, bool onMac)
     return isNamed({"tun"sv, "wg"sv, "ppp"sv});
 }
 
-CapabilityItem vpnItem(const platform::Machine &machine)
+CapabilityItem vpnItem(const std::vector<platform::InterfaceEntry> &interfaces, bool onMac)
 {
     // getifaddrs
-    const auto entries = machine.network().interfaces();
-    if (entries.empty())
+    if (interfaces.empty())
         return volatileItem(u"vpn"_s, u"VPN"_s, notReadable());
-    const bool onMac = isMac(machine);
     const bool isActive = std::ranges::any_of(
-        entries, [onMac](const platform::InterfaceEntry &entry) { return isTunnelAddress(entry, onMac); });
+        interfaces, [onMac](const platform::InterfaceEntry &entry) { return isTunnelAddress(entry, onMac); });
     return volatileItem(u"vpn"_s, u"VPN"_s, isActive ? Text::tr("Active") : Text::tr("None detected"));
 }
 
@@ -167,9 +165,10 @@ CapabilitySection networkSection(const platform::Machine &machine, const languag
     QList<CapabilityItem> items = {connectionItem(networkPath)};
     if (networkPath && networkPath->status == NetworkPath::Status::Satisfied)
         items += pathItems(machine, *networkPath);
-    items += addressItems(machine);
+    const auto interfaces = machine.network().interfaces();
+    items += addressItems(interfaces);
     items += wifiItems(machine, formats);
-    items += vpnItem(machine);
+    items += vpnItem(interfaces, isMac(machine));
     if (!isMac(machine)) {
         items += ethernetItems(machine, formats);
         items += bluetoothItem(machine);

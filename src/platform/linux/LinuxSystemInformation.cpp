@@ -46,6 +46,15 @@ std::int64_t memoryInBlocks(const Files &files)
     return count <= std::numeric_limits<std::int64_t>::max() / size ? count * size : 0;
 }
 
+/// The blocks, unless the kernel tells of more memory than they hold.
+std::int64_t installedMemory(const Files &files)
+{
+    const auto text = files.text("/proc/meminfo");
+    const std::uint64_t total = text ? parseMemInfo(*text).total.value_or(0) : 0;
+    constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+    return std::max(memoryInBlocks(files), static_cast<std::int64_t>(std::min(total, most)));
+}
+
 } // namespace
 
 LinuxSystemInformation::LinuxSystemInformation(const Files &files, const LinuxProcessor &processor)
@@ -86,10 +95,7 @@ std::optional<std::string> LinuxSystemInformation::hostName() const
 
 std::int64_t LinuxSystemInformation::physicalMemory() const
 {
-    const auto text = m_files.text("/proc/meminfo");
-    const std::uint64_t total = text ? parseMemInfo(*text).total.value_or(0) : 0;
-    constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    return std::max(memoryInBlocks(m_files), static_cast<std::int64_t>(std::min(total, most)));
+    return facts().physicalMemory;
 }
 
 std::optional<double> LinuxSystemInformation::uptime() const
@@ -115,6 +121,7 @@ const LinuxSystemInformation::Facts &LinuxSystemInformation::facts() const
         const std::string kernel = release ? "Linux " + *release : "Linux";
         m_facts.operatingSystem = operatingSystemOf(assignments);
         m_facts.words = {name.empty() ? kernel : name + ", " + kernel, processorWord(), architectureWord()};
+        m_facts.physicalMemory = installedMemory(m_files);
     });
     return m_facts;
 }

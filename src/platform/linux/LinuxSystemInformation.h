@@ -34,6 +34,7 @@ private:
     {
         OperatingSystem operatingSystem;
         SystemWords words;
+        std::int64_t physicalMemory = 0;
     };
 
     const Facts &facts() const;
