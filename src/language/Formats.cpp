@@ -42,7 +42,7 @@ icu::UnicodeString toUnicodeString(const QString &text)
 
 enum Unit { Byte, Kilobyte, Megabyte, Gigabyte, Terabyte, Petabyte, UnitCount };
 
-constexpr std::array<int, UnitCount> fractionDigits = {0, 0, 1, 2, 2, 2};
+constexpr std::array<int, UnitCount> unitFractionDigits = {0, 0, 1, 2, 2, 2};
 
 icu::MeasureUnit measureUnit(Unit unit)
 {
@@ -92,7 +92,7 @@ icu::number::FormattedNumber formatBytes(double amount, Unit unit, const icu::Lo
                                          UErrorCode &status)
 {
     const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
-    return formatMeasure(amount, measureUnit(unit), width, fractionDigits[unit], locale, status);
+    return formatMeasure(amount, measureUnit(unit), width, unitFractionDigits[unit], locale, status);
 }
 
 icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFormatterType type,
@@ -181,6 +181,18 @@ QString Formats::list(const QStringList &items) const
     std::ranges::transform(items, texts.begin(), toUnicodeString);
     const auto text = joined(texts, ULISTFMT_TYPE_AND, ULISTFMT_WIDTH_WIDE, localeOf(m_language), status);
     return U_SUCCESS(status) ? toQString(text) : items.join(QStringLiteral(", "));
+}
+
+QString Formats::number(double value, int fractionDigits) const
+{
+    using namespace icu::number;
+    UErrorCode status = U_ZERO_ERROR;
+    const auto text = NumberFormatter::withLocale(localeOf(m_language))
+                          .precision(Precision::fixedFraction(fractionDigits))
+                          .roundingMode(UNUM_ROUND_HALFUP)
+                          .formatDouble(value, status)
+                          .toString(status);
+    return U_SUCCESS(status) ? toQString(text) : QString::number(value, 'f', fractionDigits);
 }
 
 } // namespace quillmark::language

@@ -37,6 +37,9 @@ public:
     /// "low power and external eGPU"
     QString list(const QStringList &items) const;
 
+    /// "1,200", "14.2": grouped as the language groups, always with that many digits after the point.
+    QString number(double value, int fractionDigits = 0) const;
+
 private:
     QString m_language;
 };

@@ -6,24 +6,10 @@
 #include "platform/Capture.h"
 #include "platform/Displays.h"
 #include "platform/Intelligence.h"
-#include "platform/Media.h"
 #include "platform/Registry.h"
 #include "platform/Security.h"
 
 namespace quillmark::platform {
-
-/// Linux keeps no list of encoders, and no permission of the kind that a Mac's user grants.
-class LinuxMedia final : public Media
-{
-public:
-    std::optional<std::vector<VideoEncoder>> videoEncoders() const override { return std::nullopt; }
-    std::optional<std::vector<VideoDecoder>> videoDecoders() const override { return std::nullopt; }
-    std::optional<ImageTypes> imageTypes() const override { return std::nullopt; }
-    std::expected<CommandAnswer, NoAnswer> vainfo() const override
-    {
-        return std::unexpected(NoAnswer::NotAsked);
-    }
-};
 
 class LinuxCapture final : public Capture
 {

@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxCounters.h"
 #include "platform/linux/LinuxGraphics.h"
 #include "platform/linux/LinuxKernelValues.h"
+#include "platform/linux/LinuxMedia.h"
 #include "platform/linux/LinuxNetwork.h"
 #include "platform/linux/LinuxPower.h"
 #include "platform/linux/LinuxProcessor.h"
@@ -28,6 +29,7 @@ public:
         , m_counters(files)
         , m_power(files)
         , m_graphics(files)
+        , m_media(files)
         , m_volumes(files)
         , m_network(files)
     {}
