@@ -3,23 +3,12 @@
 
 #pragma once
 
-#include "platform/Capture.h"
 #include "platform/Displays.h"
 #include "platform/Intelligence.h"
 #include "platform/Registry.h"
 #include "platform/Security.h"
 
 namespace quillmark::platform {
-
-class LinuxCapture final : public Capture
-{
-public:
-    std::optional<AuthorizationStatus> authorization(CaptureKind) const override { return std::nullopt; }
-    std::optional<std::vector<CameraReading>> cameras() const override { return std::nullopt; }
-    std::optional<std::vector<AudioDevice>> audioDevices() const override { return std::nullopt; }
-    std::optional<AudioDefaults> audioDefaults() const override { return std::nullopt; }
-    std::optional<std::vector<SoundCard>> soundCards() const override { return std::nullopt; }
-};
 
 class LinuxDisplays final : public Displays
 {

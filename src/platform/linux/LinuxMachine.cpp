@@ -5,6 +5,7 @@
 
 #include "platform/linux/Files.h"
 #include "platform/linux/LinuxAbsent.h"
+#include "platform/linux/LinuxCapture.h"
 #include "platform/linux/LinuxCounters.h"
 #include "platform/linux/LinuxGraphics.h"
 #include "platform/linux/LinuxKernelValues.h"
@@ -30,6 +31,7 @@ public:
         , m_power(files)
         , m_graphics(files)
         , m_media(files)
+        , m_capture(files)
         , m_volumes(files)
         , m_network(files)
     {}

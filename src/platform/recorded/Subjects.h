@@ -38,7 +38,7 @@ void write(json::Writer &writer, const Graphics &graphics);
 void write(json::Writer &writer, const Intelligence &intelligence);
 void write(json::Writer &writer, const Displays &displays);
 void write(json::Writer &writer, const Media &media);
-void write(json::Writer &writer, const Capture &capture);
+void write(json::Writer &writer, const Capture &capture, RecordedNames names);
 void write(json::Writer &writer, const Volumes &volumes, RecordedNames names);
 void write(json::Writer &writer, const Network &network, RecordedNames names);
 void write(json::Writer &writer, const Security &security);
