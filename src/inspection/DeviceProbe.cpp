@@ -162,9 +162,13 @@ std::optional<int> highestAppleFamily(const platform::GraphicsDevice &device)
 
 QSet<std::uint32_t> hardwareEncoders(const platform::Machine &machine)
 {
+    return hardwareEncoders(machine.media().videoEncoders().value_or(std::vector<platform::VideoEncoder>()));
+}
+
+QSet<std::uint32_t> hardwareEncoders(const std::vector<platform::VideoEncoder> &list)
+{
     QSet<std::uint32_t> codecs;
-    for (const auto &encoder :
-         machine.media().videoEncoders().value_or(std::vector<platform::VideoEncoder>())) {
+    for (const auto &encoder : list) {
         if (encoder.isHardwareAccelerated.value_or(false))
             codecs.insert(encoder.codecType);
     }

@@ -15,6 +15,7 @@
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 /// The probes of an inspection: each takes a machine and returns values, changes nothing and keeps nothing.
 /// What cannot be read is absent, or shown by a fallback text; no probe fails.
@@ -93,6 +94,7 @@ std::optional<int> highestAppleFamily(const platform::GraphicsDevice &device);
 
 /// The codes of the codecs that are encoded in hardware. Empty when there is no list.
 QSet<std::uint32_t> hardwareEncoders(const platform::Machine &machine);
+QSet<std::uint32_t> hardwareEncoders(const std::vector<platform::VideoEncoder> &list);
 
 /// The permission in the interface language: "Not requested yet", "Restricted", "Denied", "Allowed",
 /// "Unknown".

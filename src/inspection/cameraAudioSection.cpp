@@ -3,14 +3,194 @@
 
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
+#include "inspection/audioItems.h"
+#include "inspection/rows.h"
+#include "inspection/values.h"
+
+#include <algorithm>
+#include <string>
+#include <tuple>
 
 namespace quillmark::inspection::DeviceProbe {
 
 using namespace Qt::StringLiterals;
 
-CapabilitySection cameraAudioSection(const platform::Machine &, const language::Formats &)
+namespace {
+
+using platform::CameraFormat;
+using platform::CameraPlace;
+using platform::CameraReading;
+
+constexpr std::size_t mostOfAKind = 16;
+
+/// The label of a numbered thing, or of what belongs to one: without the number where there is only one.
+struct Labels
 {
-    return {.title = Text::tr("Camera & Audio"), .symbol = u"camera"_s, .key = u"cameraAudio"_s};
+    int number = 1;
+    bool isOnly = true;
+
+    QString of(const QString &single, const QString &numbered) const
+    {
+        return isOnly ? single : numbered.arg(number);
+    }
+};
+
+/// Without those that are borrowed, and no more than are shown.
+std::vector<CameraReading> ownCameras(std::vector<CameraReading> cameras)
+{
+    std::erase_if(cameras,
+                  [](const CameraReading &camera) { return placeOf(camera) == CameraPlace::Borrowed; });
+    if (cameras.size() > mostOfAKind)
+        cameras.resize(mostOfAKind);
+    return cameras;
+}
+
+/// A thing that is there: supported, once its name is known.
+CapabilityItem namedItem(const QString &key, const QString &label, const std::string &name,
+                         const QStringList &tags, const language::Formats &formats)
+{
+    if (name.empty())
+        return fact(key, label, notReadable());
+    return {.label = label,
+            .value = withTags(QString::fromStdString(name), tags, formats),
+            .status = CapabilityStatus::Supported,
+            .key = key};
+}
+
+CapabilityItem cameraItem(const CameraReading &camera, const Labels &labels, const language::Formats &formats)
+{
+    QStringList tags;
+    if (placeOf(camera) == CameraPlace::BuiltIn)
+        tags += Text::tr("built in");
+    if (placeOf(camera) == CameraPlace::External)
+        tags += Text::tr("external");
+    return namedItem(u"camera.%1"_s.arg(labels.number), labels.of(Text::tr("Camera"), Text::tr("Camera %1")),
+                     camera.localizedName, tags, formats);
+}
+
+/// None when no format has a size.
+const CameraFormat *bestFormat(const CameraReading &camera)
+{
+    const auto rank = [](const CameraFormat &format) {
+        return std::tuple(std::int64_t{format.width} * format.height, format.maxFrameRate);
+    };
+    const CameraFormat *best = nullptr;
+    for (const auto &format : camera.formats) {
+        if (format.width > 0 && format.height > 0 && (!best || rank(format) > rank(*best)))
+            best = &format;
+    }
+    return best;
+}
+
+CapabilityItem bestPictureItem(const CameraFormat &format, const Labels &labels,
+                               const language::Formats &formats)
+{
+    const auto width = QString::number(format.width);
+    const auto height = QString::number(format.height);
+    return fact(u"camera.%1.bestPicture"_s.arg(labels.number),
+                labels.of(Text::tr("Best picture"), Text::tr("Best picture (camera %1)")),
+                format.maxFrameRate > 0
+                    ? Text::tr("%1 × %2, up to %3 frames per second")
+                          .arg(width, height, shortNumber(format.maxFrameRate, 2, formats))
+                    : u"%1 × %2"_s.arg(width, height));
+}
+
+/// Center Stage came with macOS 12.3.
+bool asksForCenterStage(const platform::OperatingSystem &system)
+{
+    return system.name == "macOS" && std::tuple(system.major, system.minor) >= std::tuple(12, 3);
+}
+
+CapabilityItem centerStageItem(const CameraReading &camera, const Labels &labels)
+{
+    const auto key = u"camera.%1.centerStage"_s.arg(labels.number);
+    const auto label = labels.of(Text::tr("Center Stage"), Text::tr("Center Stage (camera %1)"));
+    const auto tells = [](const CameraFormat &format) { return format.isCenterStageSupported.has_value(); };
+    const auto has = [](const CameraFormat &format) { return format.isCenterStageSupported == true; };
+    if (std::ranges::none_of(camera.formats, tells))
+        return fact(key, label, notReadable());
+    auto item = capability(key, label, std::ranges::any_of(camera.formats, has));
+    // What an accessory lacks is no fault of the machine.
+    if (placeOf(camera) != CameraPlace::BuiltIn && item.status == CapabilityStatus::Unsupported)
+        item.status = CapabilityStatus::Info;
+    return item;
+}
+
+QList<CapabilityItem> cameraItems(const platform::Machine &machine, const language::Formats &formats)
+{
+    // AVCaptureDeviceDiscoverySession; /sys/class/video4linux
+    const auto found = machine.capture().cameras();
+    if (!found)
+        return {fact(u"camera"_s, Text::tr("Camera"), notReadable())};
+    const auto cameras = ownCameras(*found);
+    if (cameras.empty())
+        return {fact(u"camera"_s, Text::tr("Camera"), Text::tr("None"))};
+    QList<CapabilityItem> items;
+    Labels labels{.isOnly = cameras.size() == 1};
+    for (const auto &camera : cameras) {
+        items += cameraItem(camera, labels, formats);
+        // AVCaptureDevice.formats
+        if (const auto *format = bestFormat(camera))
+            items += bestPictureItem(*format, labels, formats);
+        // AVCaptureDeviceFormat.isCenterStageSupported
+        if (asksForCenterStage(machine.system().operatingSystem()))
+            items += centerStageItem(camera, labels);
+        ++labels.number;
+    }
+    return items;
+}
+
+/// What this program may do. It needs neither, so that a refusal is no fault.
+CapabilityItem accessItem(const QString &key, const QString &label,
+                          std::optional<platform::AuthorizationStatus> status)
+{
+    return fact(key, label, status ? describe(*status) : notReadable());
+}
+
+QList<CapabilityItem> soundCardItems(const platform::Machine &machine, const language::Formats &formats)
+{
+    // /proc/asound
+    const auto cards = machine.capture().soundCards();
+    if (!cards || cards->empty())
+        return {fact(u"soundCard"_s, Text::tr("Sound card"), cards ? Text::tr("None") : notReadable())};
+    QList<CapabilityItem> items;
+    Labels labels{.isOnly = cards->size() == 1};
+    for (std::size_t i = 0; i < std::min(cards->size(), mostOfAKind); ++i) {
+        const auto &card = cards->at(i);
+        QStringList tags;
+        if (card.playback)
+            tags += Text::tr("output");
+        if (card.capture)
+            tags += Text::tr("input");
+        items +=
+            namedItem(u"soundCard.%1"_s.arg(labels.number),
+                      labels.of(Text::tr("Sound card"), Text::tr("Sound card %1")), card.name, tags, formats);
+        ++labels.number;
+    }
+    return items;
+}
+
+} // namespace
+
+CapabilitySection cameraAudioSection(const platform::Machine &machine, const language::Formats &formats)
+{
+    using platform::CaptureKind;
+    const auto &capture = machine.capture();
+    auto items = cameraItems(machine, formats);
+    if (isMac(machine)) {
+        // [AVCaptureDevice authorizationStatusForMediaType:]
+        items += accessItem(u"cameraAccess"_s, Text::tr("Camera access"),
+                            capture.authorization(CaptureKind::Video));
+        items += accessItem(u"microphoneAccess"_s, Text::tr("Microphone access"),
+                            capture.authorization(CaptureKind::Audio));
+        items += audioItems(machine, formats);
+    } else {
+        items += soundCardItems(machine, formats);
+    }
+    return {.title = Text::tr("Camera & Audio"),
+            .symbol = u"camera"_s,
+            .items = std::move(items),
+            .key = u"cameraAudio"_s};
 }
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -4,6 +4,7 @@
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
 #include "inspection/rows.h"
+#include "inspection/values.h"
 
 namespace quillmark::inspection::DeviceProbe {
 
@@ -27,8 +28,7 @@ QString nameWithTags(const platform::GraphicsDevice &device, const language::For
         tags += Text::tr("low power");
     if (device.isRemovable)
         tags += Text::tr("external eGPU");
-    const auto name = QString::fromStdString(device.name);
-    return tags.isEmpty() ? name : u"%1 (%2)"_s.arg(name, formats.list(tags));
+    return withTags(QString::fromStdString(device.name), tags, formats);
 }
 
 QList<CapabilityItem> deviceItems(const std::vector<platform::GraphicsDevice> &devices,

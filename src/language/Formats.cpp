@@ -151,17 +151,6 @@ QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
         formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
 }
 
-QString Formats::number(double value, int fractionDigits) const
-{
-    using namespace icu::number;
-    UErrorCode status = U_ZERO_ERROR;
-    return toQString(NumberFormatter::withLocale(localeOf(m_language))
-                         .precision(Precision::fixedFraction(fractionDigits))
-                         .roundingMode(UNUM_ROUND_HALFEVEN)
-                         .formatDouble(value, status)
-                         .toString(status));
-}
-
 std::optional<QString> Formats::uptime(std::optional<double> seconds) const
 {
     constexpr double longest = 1e12; // thirty thousand years: beyond it the clock is broken
@@ -193,6 +182,18 @@ QString Formats::list(const QStringList &items) const
     std::ranges::transform(items, texts.begin(), toUnicodeString);
     const auto text = joined(texts, ULISTFMT_TYPE_AND, ULISTFMT_WIDTH_WIDE, localeOf(m_language), status);
     return U_SUCCESS(status) ? toQString(text) : items.join(QStringLiteral(", "));
+}
+
+QString Formats::number(double value, int fractionDigits) const
+{
+    using namespace icu::number;
+    UErrorCode status = U_ZERO_ERROR;
+    const auto text = NumberFormatter::withLocale(localeOf(m_language))
+                          .precision(Precision::fixedFraction(fractionDigits))
+                          .roundingMode(UNUM_ROUND_HALFUP)
+                          .formatDouble(value, status)
+                          .toString(status);
+    return U_SUCCESS(status) ? toQString(text) : QString::number(value, 'f', fractionDigits);
 }
 
 } // namespace quillmark::language

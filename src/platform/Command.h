@@ -11,7 +11,7 @@ namespace quillmark::platform {
 struct CommandAnswer
 {
     int exitStatus = 0;
-    std::string output; ///< of both streams; bytes as they came
+    std::string output; ///< standard output, then standard error; bytes as they came
 
     bool operator==(const CommandAnswer &) const = default;
 };

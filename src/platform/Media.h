@@ -41,7 +41,12 @@ struct ImageTypes
 };
 
 /// Why there is no answer about video acceleration.
-enum class NoAnswer { NotInstalled, NotAsked, Failed };
+enum class NoAnswer {
+    NoDevice,     ///< no render node
+    NotInstalled, ///< a render node, but no program that asks it
+    Asleep,       ///< asking would wake the graphics processor
+    Failed        ///< no permission, a crash, an answer that came late
+};
 
 class Media
 {
@@ -54,8 +59,8 @@ public:
     virtual std::optional<std::vector<VideoDecoder>> videoDecoders() const = 0;
     virtual std::optional<ImageTypes> imageTypes() const = 0;
 
-    /// What `vainfo` says of the first render node that is awake and may be used: Linux alone. Not asked when
-    /// there is no such node. A child process, because video drivers crash; it has two seconds.
+    /// What `vainfo` says of the first render node that is awake and that this user may use: Linux alone. A
+    /// child process, because video drivers crash; it has two seconds.
     virtual std::expected<CommandAnswer, NoAnswer> vainfo() const = 0;
 };
 

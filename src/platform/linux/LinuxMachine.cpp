@@ -5,11 +5,13 @@
 
 #include "platform/linux/Files.h"
 #include "platform/linux/LinuxAbsent.h"
+#include "platform/linux/LinuxCapture.h"
 #include "platform/linux/LinuxCounters.h"
 #include "platform/linux/LinuxDisplays.h"
 #include "platform/linux/LinuxGraphics.h"
 #include "platform/linux/LinuxIntelligence.h"
 #include "platform/linux/LinuxKernelValues.h"
+#include "platform/linux/LinuxMedia.h"
 #include "platform/linux/LinuxNetwork.h"
 #include "platform/linux/LinuxPower.h"
 #include "platform/linux/LinuxProcessor.h"
@@ -33,6 +35,8 @@ public:
         , m_graphics(files)
         , m_intelligence(files)
         , m_displays(files)
+        , m_media(files)
+        , m_capture(files)
         , m_volumes(files)
         , m_network(files)
         , m_security(files)

@@ -38,10 +38,13 @@ void write(json::Writer &writer, const Graphics &graphics);
 void write(json::Writer &writer, const Intelligence &intelligence);
 void write(json::Writer &writer, const Displays &displays, RecordedNames names);
 void write(json::Writer &writer, const Media &media);
-void write(json::Writer &writer, const Capture &capture);
+void write(json::Writer &writer, const Capture &capture, RecordedNames names);
 void write(json::Writer &writer, const Volumes &volumes, RecordedNames names);
 void write(json::Writer &writer, const Network &network, RecordedNames names);
 void write(json::Writer &writer, const Security &security);
+
+/// A four-character code as text: "hvc1". None when it has characters that no recording can hold.
+std::optional<std::string> textFromCode(std::uint32_t code);
 
 /// The value of one member of a "sysctl" object; none when it is absent, null or at fault.
 std::optional<Bytes> readKernelValue(const Members &values, std::string_view name);

@@ -21,7 +21,7 @@ std::string recordMachine(const Machine &machine, RecordedNames names)
     recorded::write(writer, machine.intelligence());
     recorded::write(writer, machine.displays(), names);
     recorded::write(writer, machine.media());
-    recorded::write(writer, machine.capture());
+    recorded::write(writer, machine.capture(), names);
     recorded::write(writer, machine.volumes(), names);
     recorded::write(writer, machine.network(), names);
     recorded::write(writer, machine.security());
