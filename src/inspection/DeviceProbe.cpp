@@ -200,14 +200,17 @@ std::uint32_t fourCC(std::string_view text)
 std::optional<VolumeCapacity> volumeCapacity(const platform::Machine &machine)
 {
     const auto volume = machine.volumes().startupVolume();
-    if (!volume)
-        return std::nullopt;
+    return volume ? std::optional(volumeCapacity(*volume)) : std::nullopt;
+}
+
+VolumeCapacity volumeCapacity(const platform::StartupVolume &volume)
+{
     // Purgeable space counts as free, as the system shows it, unless the figure is missing or cannot be true.
-    const auto important = volume->availableForImportantUsage.value_or(0);
-    const bool plausible = important > 0 && important <= volume->total;
-    return VolumeCapacity{.name = QString::fromStdString(volume->name),
-                          .total = volume->total,
-                          .available = plausible ? important : volume->available.value_or(0)};
+    const auto important = volume.availableForImportantUsage.value_or(0);
+    const bool plausible = important > 0 && important <= volume.total;
+    return {.name = QString::fromStdString(volume.name),
+            .total = volume.total,
+            .available = plausible ? important : volume.available.value_or(0)};
 }
 
 DeviceSummary summary(const platform::Machine &machine, const language::Formats &formats)

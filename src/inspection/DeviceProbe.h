@@ -104,5 +104,7 @@ std::uint32_t fourCC(std::string_view text);
 
 /// None when the volume cannot be read.
 std::optional<VolumeCapacity> volumeCapacity(const platform::Machine &machine);
+/// Of a start-up volume that has been read.
+VolumeCapacity volumeCapacity(const platform::StartupVolume &volume);
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -12,6 +12,11 @@ QString missing()
     return QStringLiteral("—");
 }
 
+QString notReadable()
+{
+    return Text::tr("Not readable");
+}
+
 CapabilityItem fact(const QString &key, const QString &label, const QString &value)
 {
     return {.label = label, .value = value, .status = CapabilityStatus::Info, .key = key};

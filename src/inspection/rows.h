@@ -12,6 +12,9 @@ namespace quillmark::inspection {
 /// Stands for a fact that the system does not give.
 QString missing();
 
+/// Stands for a fact that the system has but did not tell.
+QString notReadable();
+
 /// A plain fact.
 CapabilityItem fact(const QString &key, const QString &label, const QString &value);
 

@@ -42,7 +42,7 @@ icu::UnicodeString toUnicodeString(const QString &text)
 
 enum Unit { Byte, Kilobyte, Megabyte, Gigabyte, Terabyte, Petabyte, UnitCount };
 
-constexpr std::array<int, UnitCount> fractionDigits = {0, 0, 1, 2, 2, 2};
+constexpr std::array<int, UnitCount> unitFractionDigits = {0, 0, 1, 2, 2, 2};
 
 icu::MeasureUnit measureUnit(Unit unit)
 {
@@ -92,7 +92,7 @@ icu::number::FormattedNumber formatBytes(double amount, Unit unit, const icu::Lo
                                          UErrorCode &status)
 {
     const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
-    return formatMeasure(amount, measureUnit(unit), width, fractionDigits[unit], locale, status);
+    return formatMeasure(amount, measureUnit(unit), width, unitFractionDigits[unit], locale, status);
 }
 
 icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFormatterType type,
@@ -148,6 +148,17 @@ QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
     const double divisor = std::pow(style == ByteCountStyle::Memory ? 1024 : 1000, static_cast<int>(unit));
     return toQString(
         formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
+}
+
+QString Formats::number(double value, int fractionDigits) const
+{
+    using namespace icu::number;
+    UErrorCode status = U_ZERO_ERROR;
+    return toQString(NumberFormatter::withLocale(localeOf(m_language))
+                         .precision(Precision::fixedFraction(fractionDigits))
+                         .roundingMode(UNUM_ROUND_HALFEVEN)
+                         .formatDouble(value, status)
+                         .toString(status));
 }
 
 std::optional<QString> Formats::uptime(std::optional<double> seconds) const

@@ -31,6 +31,9 @@ public:
     /// "16 GB", "494.38 GB", "Zero kB". Both styles name their units kB, MB, GB, …
     QString byteCount(std::int64_t bytes, ByteCountStyle style) const;
 
+    /// "1,200", with this many digits after the decimal separator.
+    QString number(double value, int fractionDigits = 0) const;
+
     /// Days, hours and minutes with short names: "3d 4h", "0m". None when there is no such time.
     std::optional<QString> uptime(std::optional<double> seconds) const;
 

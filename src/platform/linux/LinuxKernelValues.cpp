@@ -30,6 +30,7 @@ constexpr std::array features = {
     Feature{"hw.optional.arm.FEAT_SME", ProcessorFamily::Arm, "sme"},
     Feature{"hw.optional.arm.FEAT_BF16", ProcessorFamily::Arm, "bf16"},
     Feature{"hw.optional.arm.FEAT_I8MM", ProcessorFamily::Arm, "i8mm"},
+    Feature{"kern.hv_vmm_present", ProcessorFamily::X86, "hypervisor"},
 };
 
 bool equalsIgnoringCase(std::string_view left, std::string_view right)
@@ -91,7 +92,7 @@ std::optional<Bytes> LinuxKernelValues::read(std::string_view name) const
         return swap();
     if (name == "kern.memorystatus_vm_pressure_level")
         return pressure();
-    if (name.starts_with("hw.optional."))
+    if (name == "kern.hv_vmm_present" || name.starts_with("hw.optional."))
         return feature(name);
     return cores(name);
 }

@@ -93,6 +93,7 @@ constexpr KernelValueName kernelValueNames[] = {
     {"hw.perflevel0.physicalcpu", Kind::Integer},
     {"hw.perflevel1.physicalcpu", Kind::Integer},
     {"hw.physicalcpu", Kind::Integer},
+    {"kern.hv_vmm_present", Kind::Integer},
     {"kern.memorystatus_vm_pressure_level", Kind::Integer},
     {"kern.osversion", Kind::Text},
     {"machdep.cpu.brand_string", Kind::Text},
