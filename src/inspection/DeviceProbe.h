@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "battery/BatteryReading.h"
 #include "inspection/CapabilityModel.h"
 #include "language/Formats.h"
 #include "platform/Machine.h"
@@ -85,6 +86,8 @@ bool isAppleSilicon(const platform::Machine &machine);
 /// None on a machine without an internal battery.
 std::optional<BatteryInfo> batteryInfo(const platform::Machine &machine);
 std::optional<std::int64_t> batteryCycleCount(const platform::Machine &machine);
+/// All that the machine tells of it.
+std::optional<battery::BatteryReading> batteryReading(const platform::Machine &machine);
 
 /// The n of the highest "Apple n" family that the device supports, from 1 to 12.
 std::optional<int> highestAppleFamily(const platform::GraphicsDevice &device);

@@ -41,8 +41,8 @@ bool namesIdentifier(std::string_view key)
         if (c >= 'A' && c <= 'Z')
             c = static_cast<char>(c - 'A' + 'a');
     }
-    constexpr std::string_view traits[] = {"serial",     "uuid",        "guid",
-                                           "macaddress", "mac address", "mac-address"};
+    constexpr std::string_view traits[] = {"serial",      "uuid",        "guid",         "macaddress",
+                                           "mac address", "mac-address", "manufacturer", "mfgdata"};
     return std::ranges::any_of(
         traits, [&](std::string_view trait) { return lowered.find(trait) != std::string::npos; });
 }
