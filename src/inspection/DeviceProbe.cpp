@@ -15,10 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using platform::find;
-using platform::get;
-using platform::PropertyMap;
-
 template <typename Integer>
 std::int64_t widened(const platform::Bytes &bytes)
 {
@@ -44,19 +40,6 @@ QString versionName(const platform::OperatingSystem &system)
     default:
         return {};
     }
-}
-
-double batteryLevel(const PropertyMap &source)
-{
-    const auto current = get<std::int64_t>(source, "Current Capacity").value_or(0);
-    const auto maximum = get<std::int64_t>(source, "Max Capacity").value_or(100);
-    return maximum > 0 ? static_cast<double>(current) / static_cast<double>(maximum) : 0;
-}
-
-bool isInternalBattery(const PropertyMap &source)
-{
-    const auto *type = find<std::string>(source, "Type");
-    return type && *type == "InternalBattery";
 }
 
 } // namespace
@@ -131,22 +114,26 @@ QString osVersionDescription(const platform::Machine &machine)
 std::optional<std::int64_t> batteryCycleCount(const platform::Machine &machine)
 {
     const auto services = machine.registry().services("AppleSmartBattery");
-    return services.empty() ? std::nullopt : get<std::int64_t>(services.front(), "CycleCount");
+    return services.empty() ? std::nullopt : platform::get<std::int64_t>(services.front(), "CycleCount");
 }
 
 std::optional<BatteryInfo> batteryInfo(const platform::Machine &machine)
 {
-    const auto sources = machine.power().powerSources();
-    const auto battery = std::ranges::find_if(sources, isInternalBattery);
-    if (battery == sources.end())
+    const auto reading = batteryReading(machine);
+    if (!reading)
         return std::nullopt;
-    BatteryInfo info{.level = batteryLevel(*battery),
-                     .isCharging = get<bool>(*battery, "Is Charging").value_or(false),
-                     .onAC = get<std::string>(*battery, "Power Source State") == "AC Power",
+    BatteryInfo info{.level = reading->level.value_or(0),
+                     .isCharging = reading->isCharging.value_or(false),
+                     .onAC = reading->onAC.value_or(false),
                      .cycleCount = batteryCycleCount(machine)};
-    if (const auto *health = find<std::string>(*battery, "BatteryHealth"))
-        info.health = QString::fromStdString(*health);
+    if (reading->health)
+        info.health = QString::fromStdString(*reading->health);
     return info;
+}
+
+std::optional<battery::BatteryReading> batteryReading(const platform::Machine &machine)
+{
+    return battery::readBattery(machine, isAppleSilicon(machine));
 }
 
 std::optional<int> highestAppleFamily(const platform::GraphicsDevice &device)
@@ -217,14 +204,17 @@ std::uint32_t fourCC(std::string_view text)
 std::optional<VolumeCapacity> volumeCapacity(const platform::Machine &machine)
 {
     const auto volume = machine.volumes().startupVolume();
-    if (!volume)
-        return std::nullopt;
+    return volume ? std::optional(volumeCapacity(*volume)) : std::nullopt;
+}
+
+VolumeCapacity volumeCapacity(const platform::StartupVolume &volume)
+{
     // Purgeable space counts as free, as the system shows it, unless the figure is missing or cannot be true.
-    const auto important = volume->availableForImportantUsage.value_or(0);
-    const bool plausible = important > 0 && important <= volume->total;
-    return VolumeCapacity{.name = QString::fromStdString(volume->name),
-                          .total = volume->total,
-                          .available = plausible ? important : volume->available.value_or(0)};
+    const auto important = volume.availableForImportantUsage.value_or(0);
+    const bool plausible = important > 0 && important <= volume.total;
+    return {.name = QString::fromStdString(volume.name),
+            .total = volume.total,
+            .available = plausible ? important : volume.available.value_or(0)};
 }
 
 DeviceSummary summary(const platform::Machine &machine, const language::Formats &formats)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "battery/BatteryReading.h"
 #include "inspection/CapabilityModel.h"
 #include "language/Formats.h"
 #include "platform/Machine.h"
@@ -88,6 +89,8 @@ platform::InstructionSet instructionSet(const platform::Machine &machine);
 /// None on a machine without an internal battery.
 std::optional<BatteryInfo> batteryInfo(const platform::Machine &machine);
 std::optional<std::int64_t> batteryCycleCount(const platform::Machine &machine);
+/// All that the machine tells of it.
+std::optional<battery::BatteryReading> batteryReading(const platform::Machine &machine);
 
 /// The n of the highest "Apple n" family that the device supports, from 1 to 12.
 std::optional<int> highestAppleFamily(const platform::GraphicsDevice &device);
@@ -110,5 +113,7 @@ std::uint32_t fourCC(std::string_view text);
 
 /// None when the volume cannot be read.
 std::optional<VolumeCapacity> volumeCapacity(const platform::Machine &machine);
+/// Of a start-up volume that has been read.
+VolumeCapacity volumeCapacity(const platform::StartupVolume &volume);
 
 } // namespace quillmark::inspection::DeviceProbe

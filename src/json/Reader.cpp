@@ -203,12 +203,12 @@ Token Reader::readNumber()
             return fail("a number lacks digits in its exponent");
     }
 
-    const std::string_view text = m_input.substr(start, at - start);
-    m_double = toDouble(std::string(text));
+    m_text = m_input.substr(start, at - start);
+    m_double = toDouble(std::string(m_text));
     if (!std::isfinite(m_double))
         return fail("a number is too large");
     if (integral)
-        integral = std::from_chars(text.data(), text.data() + text.size(), m_integer).ec == std::errc();
+        integral = std::from_chars(m_text.data(), m_text.data() + m_text.size(), m_integer).ec == std::errc();
     m_position = at;
     return finishValue(integral ? Token::Integer : Token::Double);
 }

@@ -51,7 +51,7 @@ public:
 
     Token next();
 
-    /// Of the last Key or String; valid until the next call of next().
+    /// Of the last Key or String, or the digits of the last number; valid until the next call of next().
     std::string_view text() const { return m_text; }
     /// Of the last Integer: a number without fraction or exponent that fits 64 bits.
     std::int64_t integer() const { return m_integer; }

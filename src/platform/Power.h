@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillmark::platform {
@@ -38,8 +39,16 @@ public:
     virtual PowerSettings settings() const = 0;
 
     /// Linux: the properties of each supply as the kernel lists them in its uevent file ("POWER_SUPPLY_TYPE":
-    /// "Battery", all of them texts), by the supply's name. Empty on a Mac.
-    virtual std::map<std::string, PropertyMap> powerSupplies() const = 0;
+    /// "Battery", all of them texts), by the supply's name, without those that identify it. None on a Mac,
+    /// and where they cannot be read.
+    virtual std::optional<std::map<std::string, PropertyMap>> powerSupplies() const = 0;
 };
+
+/// Whether a property of a supply tells it from others of its kind: its serial number, maker and model.
+inline bool identifiesSupply(std::string_view property)
+{
+    return property == "POWER_SUPPLY_SERIAL_NUMBER" || property == "POWER_SUPPLY_MANUFACTURER" ||
+           property == "POWER_SUPPLY_MODEL_NAME";
+}
 
 } // namespace quillmark::platform

@@ -24,7 +24,9 @@ using PropertyMap = std::map<std::string, PropertyValue, std::less<>>;
 /// system promises no types, so a reader takes what it expects and treats anything else as missing.
 struct PropertyValue
 {
-    std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, Bytes, PropertyList, PropertyMap>
+    /// std::uint64_t only for a whole number that std::int64_t cannot hold.
+    std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, Bytes, PropertyList, PropertyMap,
+                 std::uint64_t>
         value;
 
     bool operator==(const PropertyValue &) const = default;

@@ -32,7 +32,7 @@ struct DiskReading
     std::optional<std::int64_t> size;                ///< bytes
     std::optional<std::string> mediumType;           ///< "Solid State", "Rotational"
     std::optional<std::string> interconnect;         ///< "Apple Fabric", "PCI-Express", "SATA", "USB"
-    std::optional<std::string> interconnectLocation; ///< "Internal", "External"
+    std::optional<std::string> interconnectLocation; ///< "Internal", "External"; "File" of a disk image
     bool removable = false;
     std::optional<bool> unmap; ///< takes notice of what was deleted (TRIM)
 
@@ -42,7 +42,7 @@ struct DiskReading
 /// A local volume beside the start-up one.
 struct VolumeReading
 {
-    std::string name;
+    std::string name; ///< its label, or the place it always has ("/home"); empty where it has neither
     std::string fileSystem;
     std::optional<std::int64_t> total;     ///< bytes
     std::optional<std::int64_t> available; ///< bytes, for ordinary users
@@ -60,7 +60,7 @@ public:
     /// None when it cannot be read.
     virtual std::optional<StartupVolume> startupVolume() const = 0;
 
-    /// Physical disks, in the system's order. None when the list cannot be had. No disk is woken.
+    /// Whole disks, in the system's order. None when the list cannot be had. No disk is woken.
     virtual std::optional<std::vector<DiskReading>> disks() const = 0;
 
     /// Local volumes beside the start-up one, each once; disk images and volumes in a network are left out.

@@ -311,18 +311,18 @@ void SecuritySectionTest::recordings()
 {
     auto recordings = QByteArrayList{
         changedRecording(R"({"securityState": {
-            "fdesetup": {"exitStatus": 3, "output": "FileVault is Off.\nDeferred enablement appears to be active for user 'ada'.\n"},
-            "csrutil": {"output": "ada: hello\nSystem Integrity Protection status: disabled.\n\tada: enabled\n"},
-            "spctl": {"exitStatus": 1, "output": "/Users/ada: no\nassessments disabled"}},
-            "registry": {"AppleAPFSVolume": [{"FullName": "ada", "Role": ["System"], "Sealed": "No", "VolGroupMntFromName": {"hex": "616461"}},
-                    {"FullName": "ada", "Statistics": {"ada": 1}}],
-                "AppleSEPManager": {"ada": "ada", "IOPlatformUUID": "ada"},
+            "fdesetup": {"exitStatus": 3, "output": "FileVault is Off.\nDeferred enablement appears to be active for user 'lovelace'.\n"},
+            "csrutil": {"output": "lovelace: hello\nSystem Integrity Protection status: disabled.\n\tada: enabled\n"},
+            "spctl": {"exitStatus": 1, "output": "/Users/lovelace: no\nassessments disabled"}},
+            "registry": {"AppleAPFSVolume": [{"FullName": "lovelace", "Role": ["System"], "Sealed": "No", "VolGroupMntFromName": {"hex": "616461"}},
+                    {"FullName": "lovelace", "Statistics": {"lovelace": 1}}],
+                "AppleSEPManager": {"lovelace": "lovelace", "IOPlatformUUID": "lovelace"},
                 "IODeviceTree:/efi/platform": {"system-id": {"hex": "616461"}, "apple-coprocessor-version": {"hex": "00000200"}},
-                "IODeviceTree:/options": {"fmm-computer-name": "ada", "current-network": {"hex": "616461"}, "preferred-networks": ["ada"],
+                "IODeviceTree:/options": {"fmm-computer-name": "lovelace", "current-network": {"hex": "616461"}, "preferred-networks": ["lovelace"],
                     "94b73556-2197-4702-82a8-3e1337dafbfb:AppleSecureBootPolicy": {"hex": "01"}}}})"),
         changedRecording(
             QByteArray("{") + linuxMembers +
-            R"(, "securityState": {"rootDeviceMapperUuidPrefix": "CRYPT-LUKS2-616461-ada", "tpmIsKnown": false, "lsm": "selinux",
+            R"(, "securityState": {"rootDeviceMapperUuidPrefix": "CRYPT-LUKS2-616461-lovelace", "tpmIsKnown": false, "lsm": "selinux",
                 "selinuxEnforcing": false, "hasEfi": true}})"),
         changedRecording(QByteArray("{") + linuxMembers + "}"), changedRecording()};
     for (const auto &name : recordingNames())
@@ -331,7 +331,7 @@ void SecuritySectionTest::recordings()
         const auto machine = machineFrom(recording);
         const auto text = QByteArray::fromStdString(recordMachine(*machine, platform::RecordedNames::Keep));
         QVERIFY(sameLines(rowsOf(*machineFrom(text)), rowsOf(*machine)));
-        for (const char *secret : {"ada", "616461", "FullName", "Configuration:"})
+        for (const char *secret : {"lovelace", "616461", "FullName", "Configuration:"})
             QVERIFY2(!text.contains(secret), secret);
     }
 }

@@ -113,13 +113,19 @@ bool Files::exists(std::string_view path) const
     return ::access(pathOf(path).c_str(), F_OK) == 0;
 }
 
-std::optional<std::string> Files::linkName(std::string_view path) const
+std::optional<std::string> Files::linkTarget(std::string_view path) const
 {
     std::array<char, pageBytes> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): readlink() fills it
     const ssize_t count = ::readlink(pathOf(path).c_str(), buffer.data(), buffer.size());
     if (count <= 0)
         return std::nullopt;
-    return std::string(lastComponent({buffer.data(), static_cast<std::size_t>(count)}));
+    return std::string(buffer.data(), static_cast<std::size_t>(count));
+}
+
+std::optional<std::string> Files::linkName(std::string_view path) const
+{
+    const auto target = linkTarget(path);
+    return target ? std::optional<std::string>(lastComponent(*target)) : std::nullopt;
 }
 
 std::vector<std::string> Files::names(std::string_view folder, std::string_view prefix) const

@@ -63,6 +63,9 @@ public:
 
     bool exists(std::string_view path) const;
 
+    /// What a symbolic link points to, as it stands there.
+    std::optional<std::string> linkTarget(std::string_view path) const;
+
     /// The last component of what a symbolic link points to.
     std::optional<std::string> linkName(std::string_view path) const;
 

@@ -16,6 +16,8 @@ namespace quillmark::platform {
 
 namespace {
 
+constexpr const char *suppliesFolder = "/sys/class/power_supply/";
+
 /// The properties of a supply: the lines of its uevent file, which the kernel fills in one go.
 struct Supply
 {
@@ -35,23 +37,35 @@ struct Supply
 
 std::vector<Supply> suppliesOf(const Files &files)
 {
-    const std::string folder = "/sys/class/power_supply/";
-    std::vector<std::string> names = files.names(folder);
+    std::vector<std::string> names = files.names(suppliesFolder);
     std::ranges::sort(names);
     std::vector<Supply> supplies;
     for (std::string &name : names) {
-        auto lines = files.value(folder + name + "/uevent");
+        auto lines = files.value(suppliesFolder + name + "/uevent");
         if (!lines)
             continue;
         Supply supply = {std::move(name), {}, std::move(*lines)};
         supply.type = supply.text("TYPE");
         // Kernels before 5.8 leave it out.
         if (supply.type.empty())
-            supply.type = files.value(folder + supply.name + "/type").value_or(std::string());
+            supply.type = files.value(suppliesFolder + supply.name + "/type").value_or(std::string());
         if (supply.text("SCOPE") != "Device")
             supplies.push_back(std::move(supply));
     }
     return supplies;
+}
+
+PropertyMap propertiesOf(const Supply &supply)
+{
+    PropertyMap properties;
+    for (std::string_view rest = supply.lines; !rest.empty();) {
+        const LabelledValue line = splitLabel(takeUntil(rest, '\n'), '=');
+        if (line.label.starts_with("POWER_SUPPLY_") && !identifiesSupply(line.label))
+            properties[std::string(line.label)].value = std::string(line.value);
+    }
+    if (!supply.type.empty())
+        properties["POWER_SUPPLY_TYPE"].value = supply.type;
+    return properties;
 }
 
 bool bringsPower(const Supply &supply)
@@ -137,12 +151,27 @@ std::vector<PropertyMap> LinuxPower::powerSources() const
 
 PowerSettings LinuxPower::settings() const
 {
-    return {};
+    return {.platformProfile = m_files.value("/sys/firmware/acpi/platform_profile")};
 }
 
-std::map<std::string, PropertyMap> LinuxPower::powerSupplies() const
+std::optional<std::map<std::string, PropertyMap>> LinuxPower::powerSupplies() const
 {
-    return {};
+    const std::vector<Supply> supplies = suppliesOf(m_files);
+    if (supplies.empty() && !m_files.exists(suppliesFolder))
+        return std::nullopt;
+    std::map<std::string, PropertyMap> all;
+    for (const Supply &supply : supplies) {
+        PropertyMap properties = propertiesOf(supply);
+        // Drivers of laptops add this limit beside the properties, out of the uevent file's sight.
+        constexpr std::string_view limit = "POWER_SUPPLY_CHARGE_CONTROL_END_THRESHOLD";
+        if (supply.type == "Battery" && !properties.contains(limit)) {
+            const std::string folder = suppliesFolder + supply.name;
+            if (auto percent = m_files.value(folder + "/charge_control_end_threshold"))
+                properties[std::string(limit)].value = std::move(*percent);
+        }
+        all.emplace(supply.name, std::move(properties));
+    }
+    return all;
 }
 
 } // namespace quillmark::platform

@@ -9,7 +9,7 @@
 namespace quillmark::platform {
 
 /// The supplies in /sys/class/power_supply that power the machine itself; a mouse's battery is none of them.
-/// In the order of their names, batteries before UPSs.
+/// Power sources come in the order of their names, batteries before UPSs.
 class LinuxPower final : public Power
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     std::vector<PropertyMap> powerSources() const override;
     PowerSettings settings() const override;
-    std::map<std::string, PropertyMap> powerSupplies() const override;
+    std::optional<std::map<std::string, PropertyMap>> powerSupplies() const override;
 
 private:
     Files m_files;

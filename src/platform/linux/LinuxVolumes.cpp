@@ -3,10 +3,17 @@
 
 #include "platform/linux/LinuxVolumes.h"
 
+#include "platform/linux/BlockDevices.h"
+#include "platform/linux/MountTable.h"
 #include "platform/linux/TextFields.h"
 
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include <sys/statvfs.h>
 
@@ -14,41 +21,11 @@ namespace quillmark::platform {
 
 namespace {
 
-/// What /proc/self/mountinfo says of a mount.
-struct Mount
-{
-    std::string_view device; ///< "8:2"
-    std::string_view fileSystem;
-    std::string_view source; ///< "/dev/sda2"
-};
-
-/// The mount that is seen at "/": a later one covers those before it.
-Mount parseMountInfo(std::string_view text)
-{
-    Mount root;
-    while (!text.empty()) {
-        std::string_view line = takeUntil(text, '\n');
-        takeWord(line); // its number
-        takeWord(line); // its parent's
-        const std::string_view device = takeWord(line);
-        takeWord(line); // the folder within the file system
-        const std::string_view place = takeWord(line);
-        // Optional fields come before the dash, as many as there are.
-        const std::size_t dash = line.find(" - ");
-        if (place != "/" || dash == std::string_view::npos)
-            continue;
-        line.remove_prefix(dash + 3);
-        root.device = device;
-        root.fileSystem = takeWord(line);
-        root.source = takeWord(line);
-    }
-    return root;
-}
-
-/// The kernel's name of the device ("sda2", "dm-0"); of a btrfs only the source tells it.
+/// The kernel's name of the device ("sda2", "dm-0"); of a btrfs only the source tells it. Empty when there is
+/// none.
 std::string deviceName(const Files &files, const Mount &mount)
 {
-    if (const auto name = files.linkName("/sys/dev/block/" + std::string(mount.device)))
+    if (const auto name = files.linkName("/sys/dev/block/" + mount.device))
         return *name;
     if (!mount.source.starts_with("/dev/"))
         return {};
@@ -69,14 +46,56 @@ std::string unescapedLabel(std::string_view name)
     return label;
 }
 
-std::string labelOf(const Files &files, const std::string &device)
+/// The labels of file systems, by device.
+std::map<std::string, std::string> labels(const Files &files)
 {
     const std::string folder = "/dev/disk/by-label/";
+    std::map<std::string, std::string> found;
     for (const std::string &name : files.names(folder)) {
-        if (!device.empty() && files.linkName(folder + name) == device)
-            return unescapedLabel(name);
+        if (const auto device = files.linkName(folder + name))
+            found.emplace(*device, unescapedLabel(name));
     }
-    return "/";
+    return found;
+}
+
+struct Space
+{
+    std::int64_t total;
+    std::int64_t available;
+};
+
+std::optional<Space> spaceAt(const Files &files, const std::string &place)
+{
+    struct statvfs sizes = {};
+    if (::statvfs(files.pathOf(place).c_str(), &sizes) != 0 || sizes.f_blocks == 0)
+        return std::nullopt;
+    return Space{.total = static_cast<std::int64_t>(sizes.f_blocks * sizes.f_frsize),
+                 .available = static_cast<std::int64_t>(sizes.f_bavail * sizes.f_frsize)};
+}
+
+/// Whether all of a file system on a local block device is mounted. What shows a part of one elsewhere is
+/// left out, but a part of a btrfs is a volume of its own kind.
+bool isVolume(const Files &files, const Mount &mount)
+{
+    const bool isBtrfs = mount.fileSystem == "btrfs";
+    if (!mount.source.starts_with("/dev/") || (mount.folder != "/" && !isBtrfs))
+        return false;
+    // Otherwise a program's file system that only calls itself by a device's name.
+    if (!isBtrfs && !files.linkTarget("/sys/dev/block/" + mount.device))
+        return false;
+    constexpr std::array<std::string_view, 5> others = {"loop", "ram", "zram", "nbd", "rbd"};
+    const std::string device = deviceName(files, mount);
+    return std::ranges::none_of(others, [&](std::string_view kind) { return device.starts_with(kind); });
+}
+
+/// What a volume without a label is called by. Only places that every system has: another may hold the name
+/// of a person.
+std::string nameOfPlace(const std::string &place)
+{
+    constexpr std::array<std::string_view, 13> known = {
+        "/boot", "/boot/efi", "/efi",       "/home", "/opt",     "/root",   "/srv",
+        "/tmp",  "/usr",      "/usr/local", "/var",  "/var/log", "/var/tmp"};
+    return std::ranges::find(known, place) != known.end() ? place : std::string();
 }
 
 } // namespace
@@ -87,27 +106,56 @@ LinuxVolumes::LinuxVolumes(const Files &files)
 
 std::optional<StartupVolume> LinuxVolumes::startupVolume() const
 {
-    struct statvfs sizes = {};
-    if (::statvfs(m_files.pathOf("/").c_str(), &sizes) != 0 || sizes.f_blocks == 0)
+    const auto space = spaceAt(m_files, "/");
+    if (!space)
         return std::nullopt;
-    const std::string mounts = m_files.text("/proc/self/mountinfo").value_or(std::string());
-    const Mount mount = parseMountInfo(mounts);
-    StartupVolume volume;
-    volume.name = labelOf(m_files, deviceName(m_files, mount));
-    volume.total = static_cast<std::int64_t>(sizes.f_blocks * sizes.f_frsize);
-    volume.available = static_cast<std::int64_t>(sizes.f_bavail * sizes.f_frsize);
-    volume.fileSystem = mount.fileSystem;
+    const auto mounts = parseMountTable(m_files.text("/proc/self/mountinfo").value_or(std::string()));
+    StartupVolume volume = {.name = "/", .total = space->total, .available = space->available};
+    const auto root = std::ranges::find(mounts, "/", &Mount::place);
+    if (root == mounts.end())
+        return volume;
+    const auto names = labels(m_files);
+    if (const auto label = names.find(deviceName(m_files, *root)); label != names.end())
+        volume.name = label->second;
+    volume.fileSystem = root->fileSystem;
     return volume;
 }
 
 std::optional<std::vector<DiskReading>> LinuxVolumes::disks() const
 {
-    return std::nullopt;
+    return readDisks(m_files);
 }
 
 std::optional<std::vector<VolumeReading>> LinuxVolumes::otherVolumes() const
 {
-    return std::nullopt;
+    const auto text = m_files.text("/proc/self/mountinfo");
+    if (!text)
+        return std::nullopt;
+    const auto mounts = parseMountTable(*text);
+    const auto names = labels(m_files);
+    std::set<std::string> seen;
+    if (const auto root = std::ranges::find(mounts, "/", &Mount::place); root != mounts.end())
+        seen.insert(deviceName(m_files, *root));
+    std::vector<VolumeReading> volumes;
+    for (const Mount &mount : mounts) {
+        if (!isVolume(m_files, mount))
+            continue;
+        const std::string device = deviceName(m_files, mount);
+        if (!seen.insert(device).second)
+            continue;
+        const auto label = names.find(device);
+        const auto space = spaceAt(m_files, mount.place);
+        VolumeReading volume = {.name = label != names.end() ? label->second : nameOfPlace(mount.place),
+                                .fileSystem = mount.fileSystem,
+                                .isReadOnly = mount.isReadOnly,
+                                .isInternal = isInternal(m_files, device)};
+        if (space) {
+            volume.total = space->total;
+            volume.available = space->available;
+        }
+        volumes.push_back(std::move(volume));
+    }
+    return volumes;
 }
 
 } // namespace quillmark::platform

@@ -12,9 +12,9 @@ namespace {
 
 std::string_view typeName(const PropertyValue &property)
 {
-    constexpr std::array<std::string_view, 8> names = {
-        "null",   "true or false", "a number", "a number with a fraction",
-        "a text", "bytes",         "an array", "an object"};
+    constexpr std::array<std::string_view, 9> names = {
+        "null",  "true or false", "a number",  "a number with a fraction",  "a text",
+        "bytes", "an array",      "an object", "a number that is too large"};
     return names[property.value.index()];
 }
 
@@ -56,6 +56,8 @@ std::optional<double> Members::number(std::string_view key) const
 {
     if (const auto whole = get<std::int64_t>(m_object, key))
         return static_cast<double>(*whole);
+    if (const auto large = get<std::uint64_t>(m_object, key))
+        return static_cast<double>(*large);
     const auto *found = typed<double>(key, "a number");
     return found ? std::optional(*found) : std::nullopt;
 }

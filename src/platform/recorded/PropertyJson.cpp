@@ -60,7 +60,7 @@ private:
         case json::Token::Integer:
             return PropertyValue{m_reader.integer()};
         case json::Token::Double:
-            return PropertyValue{m_reader.number()};
+            return number();
         case json::Token::True:
         case json::Token::False:
             return PropertyValue{token == json::Token::True};
@@ -69,6 +69,18 @@ private:
         default:
             return std::nullopt;
         }
+    }
+
+    /// A negative number that was printed as an unsigned one is still whole.
+    PropertyValue number() const
+    {
+        const std::string_view digits = m_reader.text();
+        std::uint64_t whole = 0;
+        const auto end = digits.data() + digits.size();
+        const auto result = std::from_chars(digits.data(), end, whole);
+        if (result.ec == std::errc() && result.ptr == end)
+            return {whole};
+        return {m_reader.number()};
     }
 
     std::optional<PropertyValue> object()
@@ -112,6 +124,7 @@ struct PropertyWriter
     void operator()(std::nullptr_t) const { writer.null(); }
     void operator()(bool value) const { writer.boolean(value); }
     void operator()(std::int64_t value) const { writer.integer(value); }
+    void operator()(std::uint64_t value) const { writer.integer(value); }
     void operator()(double value) const { writer.number(value); }
     void operator()(const std::string &value) const { writer.string(value); }
     void operator()(const Bytes &value) const { writeBytes(writer, value); }

@@ -88,8 +88,8 @@ bool namesIdentifier(std::string_view key)
         if (c >= 'A' && c <= 'Z')
             c = static_cast<char>(c - 'A' + 'a');
     }
-    constexpr std::string_view traits[] = {"serial",           "uuid",   "guid", "identifier", "address",
-                                           "manufacturerdata", "mfgdata"};
+    constexpr std::string_view traits[] = {"serial",  "uuid",         "guid",   "identifier",
+                                           "address", "manufacturer", "mfgdata"};
     return std::ranges::any_of(
         traits, [&](std::string_view trait) { return lowered.find(trait) != std::string::npos; });
 }

@@ -240,7 +240,9 @@ void RecordedMachineTest::badMembers_data()
     is(R"("hostName": {"hex": "00"})", u"hostName"_s, text, u"bytes"_s);
     is(R"("physicalMemory": "16 GB")", u"physicalMemory"_s, whole, text);
     row(R"("physicalMemory": -1)", u"physicalMemory"_s, int64);
-    is(R"("physicalMemory": 9223372036854775808)", u"physicalMemory"_s, whole, fraction);
+    is(R"("physicalMemory": 9223372036854775808)", u"physicalMemory"_s, whole,
+       u"a number that is too large"_s);
+    is(R"("physicalMemory": 18446744073709551616)", u"physicalMemory"_s, whole, fraction);
     is(R"("systemUptime": "long")", u"systemUptime"_s, number, text);
     is(R"("thermalState": true)", u"thermalState"_s, whole, boolean);
     row(R"("thermalState": 3000000000)", u"thermalState"_s, int32);

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Machine.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quillmark::battery {
+
+enum class CapacityUnit { MilliampereHours, MilliwattHours };
+
+enum class ChargeState { Charging, Full, NotCharging, OnBattery };
+
+/// How long the battery goes on as it does now.
+struct TimeRemaining
+{
+    bool untilFull = false;              ///< else until empty
+    std::optional<std::int64_t> minutes; ///< absent while the system still estimates
+
+    bool operator==(const TimeRemaining &) const = default;
+};
+
+/// The figures of the machine's own battery, in the same units on every system. A figure that is missing,
+/// has another type than it should or cannot be true is absent.
+struct BatteryReading
+{
+    std::optional<std::int64_t> designCapacity;  ///< in `unit`
+    std::optional<std::int64_t> presentCapacity; ///< when full, in `unit`
+    CapacityUnit unit = CapacityUnit::MilliampereHours;
+    std::optional<std::int64_t> cycleCount;
+    std::optional<std::int64_t> ratedCycleCount;
+    std::optional<double> temperature;   ///< °C, in whole tenths
+    std::optional<std::int64_t> voltage; ///< mV
+    std::optional<std::int64_t> current; ///< mA, negative while discharging
+    std::optional<double> level;         ///< from 0 to 1, as far as the system keeps to it
+    std::optional<bool> isCharging;
+    std::optional<bool> onAC;
+    std::optional<ChargeState> chargeState;
+    std::optional<TimeRemaining> timeRemaining;
+    std::optional<std::string> health;       ///< the system's word: "Good", "Check Battery"
+    std::optional<std::string> condition;    ///< macOS: a further word
+    std::optional<std::int64_t> failureBits; ///< macOS: 0 is fine
+    std::optional<std::int64_t> chargeLimit; ///< percent; Linux
+
+    bool operator==(const BatteryReading &) const = default;
+};
+
+/// None on a machine without a battery of its own. `isAppleSilicon` settles what macOS means by some keys.
+std::optional<BatteryReading> readBattery(const platform::Machine &machine, bool isAppleSilicon);
+
+/// The level as it is shown; none when there is no such level.
+std::optional<int> chargePercent(const BatteryReading &reading);
+
+} // namespace quillmark::battery

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "battery/supplyReading.h"
+
+#include "battery/figures.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+
+namespace quillmark::battery {
+
+namespace {
+
+using platform::find;
+using platform::PropertyMap;
+
+std::string_view textOf(const PropertyMap &supply, std::string_view property)
+{
+    const auto *text = find<std::string>(supply, "POWER_SUPPLY_" + std::string(property));
+    return text ? std::string_view(*text) : std::string_view();
+}
+
+std::optional<std::int64_t> numberOf(const PropertyMap &supply, std::string_view property)
+{
+    const std::string_view text = textOf(supply, property);
+    std::int64_t number = 0;
+    const auto end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    const bool isNumber = result.ec == std::errc() && result.ptr == end;
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+/// The kernel counts in millionths, this program in thousandths.
+std::optional<std::int64_t> thousandths(std::optional<std::int64_t> millionths)
+{
+    return millionths ? std::optional(std::llround(static_cast<double>(*millionths) / 1000)) : std::nullopt;
+}
+
+std::optional<std::int64_t> positive(std::optional<std::int64_t> number)
+{
+    return number && *number > 0 ? number : std::nullopt;
+}
+
+bool isOwnBattery(const PropertyMap &supply)
+{
+    return textOf(supply, "TYPE") == "Battery" && textOf(supply, "SCOPE") != "Device" &&
+           textOf(supply, "PRESENT") != "0";
+}
+
+/// Whether the machine runs on power from outside; none when neither a line nor the battery tells.
+std::optional<bool> runsOnLine(std::string_view status, bool isLineOnline)
+{
+    if (isLineOnline || status == "Charging" || status == "Not charging" || status == "Full")
+        return true;
+    return status == "Discharging" ? std::optional(false) : std::nullopt;
+}
+
+std::optional<ChargeState> chargeStateOf(std::string_view status, bool isLineOnline)
+{
+    if (status == "Charging")
+        return ChargeState::Charging;
+    if (status == "Full")
+        return ChargeState::Full;
+    // A battery may be drained on purpose, or help a weak adapter, while it is connected.
+    if (status == "Not charging" || (status == "Discharging" && isLineOnline))
+        return ChargeState::NotCharging;
+    return status == "Discharging" ? std::optional(ChargeState::OnBattery) : std::nullopt;
+}
+
+void readCapacities(BatteryReading &reading, const PropertyMap &supply)
+{
+    std::string kind = "CHARGE";
+    if (!positive(numberOf(supply, "CHARGE_FULL_DESIGN")) &&
+        positive(numberOf(supply, "ENERGY_FULL_DESIGN"))) {
+        kind = "ENERGY";
+        reading.unit = CapacityUnit::MilliwattHours;
+    }
+    reading.designCapacity = positive(thousandths(numberOf(supply, kind + "_FULL_DESIGN")));
+    reading.presentCapacity = positive(thousandths(numberOf(supply, kind + "_FULL")));
+}
+
+std::optional<TimeRemaining> timeRemainingOf(const PropertyMap &supply, ChargeState state)
+{
+    const bool untilFull = state == ChargeState::Charging;
+    if (!untilFull && state != ChargeState::OnBattery)
+        return std::nullopt;
+    const bool byEnergy = numberOf(supply, "ENERGY_NOW").has_value();
+    const std::string kind = byEnergy ? "ENERGY" : "CHARGE";
+    const auto now = numberOf(supply, kind + "_NOW");
+    const auto full = numberOf(supply, kind + "_FULL");
+    // Drivers differ on the sign.
+    const double rate =
+        std::abs(static_cast<double>(numberOf(supply, byEnergy ? "POWER_NOW" : "CURRENT_NOW").value_or(0)));
+    if (!now || (untilFull && !full) || rate == 0)
+        return std::nullopt;
+    const double amount =
+        untilFull ? static_cast<double>(*full) - static_cast<double>(*now) : static_cast<double>(*now);
+    const double minutes = amount / rate * 60;
+    return timeRemaining(minutes, untilFull);
+}
+
+BatteryReading readSupply(const PropertyMap &supply, bool isLineOnline)
+{
+    const std::string_view status = textOf(supply, "STATUS");
+    BatteryReading reading;
+    readCapacities(reading, supply);
+    // Where a driver does not count cycles it says 0.
+    reading.cycleCount = positive(numberOf(supply, "CYCLE_COUNT"));
+    reading.temperature = temperature(numberOf(supply, "TEMP"), 0);
+    reading.voltage = positive(thousandths(numberOf(supply, "VOLTAGE_NOW")));
+    if (const auto current = thousandths(numberOf(supply, "CURRENT_NOW")))
+        reading.current = status == "Discharging" ? -std::abs(*current) : *current;
+    if (const auto percent = numberOf(supply, "CAPACITY"); percent && *percent >= 0)
+        reading.level = static_cast<double>(std::min<std::int64_t>(*percent, 100)) / 100;
+    reading.chargeState = chargeStateOf(status, isLineOnline);
+    if (reading.chargeState) {
+        reading.isCharging = reading.chargeState == ChargeState::Charging;
+        reading.timeRemaining = timeRemainingOf(supply, *reading.chargeState);
+    }
+    reading.onAC = runsOnLine(status, isLineOnline);
+    if (const auto health = textOf(supply, "HEALTH"); !health.empty() && health != "Unknown")
+        reading.health = health;
+    if (const auto limit = numberOf(supply, "CHARGE_CONTROL_END_THRESHOLD");
+        limit && *limit >= 1 && *limit <= 100)
+        reading.chargeLimit = limit;
+    return reading;
+}
+
+} // namespace
+
+bool bringsPower(const PropertyMap &supply)
+{
+    const std::string_view type = textOf(supply, "TYPE");
+    const bool isLine = type == "Mains" || type == "Wireless" || type.starts_with("USB");
+    // 2 is "online with a voltage that can be programmed".
+    return isLine && textOf(supply, "SCOPE") != "Device" && numberOf(supply, "ONLINE").value_or(0) > 0;
+}
+
+bool isDrainedUps(const PropertyMap &supply)
+{
+    return textOf(supply, "TYPE") == "UPS" && textOf(supply, "STATUS") == "Discharging";
+}
+
+std::optional<BatteryReading> readBattery(const Supplies &supplies)
+{
+    const auto battery =
+        std::ranges::find_if(supplies, [](const auto &supply) { return isOwnBattery(supply.second); });
+    if (battery == supplies.end())
+        return std::nullopt;
+    const bool isLineOnline =
+        std::ranges::any_of(supplies, [](const auto &supply) { return bringsPower(supply.second); });
+    return readSupply(battery->second, isLineOnline);
+}
+
+} // namespace quillmark::battery

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "battery/BatteryReading.h"
+#include "inspection/CapabilityModel.h"
+#include "language/Formats.h"
+
+#include <QList>
+
+namespace quillmark::inspection {
+
+/// The rows about a battery that is there, from its health to the time that remains. On a Mac its condition
+/// has a row even when it is not told.
+QList<CapabilityItem> batteryItems(const battery::BatteryReading &reading, bool onMac,
+                                   const language::Formats &formats);
+
+/// A plain fact that changes without any change of the machine.
+CapabilityItem passingFact(const QString &key, const QString &label, const QString &value);
+
+/// "80 %"
+QString percentText(int percent, const language::Formats &formats);
+
+} // namespace quillmark::inspection
