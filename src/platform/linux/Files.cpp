@@ -11,6 +11,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace quillmark::platform {
@@ -171,6 +172,14 @@ std::optional<std::string_view> HeldFile::read()
             m_buffer.resize(used * 2);
     }
     return used == 0 ? std::nullopt : std::optional<std::string_view>({m_buffer.data(), used});
+}
+
+bool HeldFile::hasChanged()
+{
+    if (!m_file)
+        return true;
+    pollfd file = {m_file.number(), POLLPRI, 0};
+    return ::poll(&file, 1, 0) > 0 && (file.revents & (POLLPRI | POLLERR)) != 0;
 }
 
 } // namespace quillmark::platform

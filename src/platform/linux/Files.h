@@ -87,6 +87,10 @@ public:
     /// file that was missing is looked for again.
     std::optional<std::string_view> read();
 
+    /// Whether the kernel has given notice of a change since this was last asked, or the file is not open
+    /// yet. Only some files give notice: the tables of mounts (proc_pid_mountinfo(5)).
+    bool hasChanged();
+
 private:
     Files m_files;
     std::string m_path;

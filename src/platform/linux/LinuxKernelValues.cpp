@@ -98,15 +98,20 @@ std::optional<Bytes> LinuxKernelValues::read(std::string_view name) const
     return cores(name);
 }
 
-std::optional<Bytes> LinuxKernelValues::model() const
+const std::optional<Bytes> &LinuxKernelValues::model() const
 {
-    for (const std::string_view path : {"/sys/class/dmi/id/product_name", "/sys/class/dmi/id/board_name",
-                                        "/proc/device-tree/model", "/sys/firmware/devicetree/base/model"}) {
-        const auto name = m_files.value(path);
-        if (name && !isFiller(*name))
-            return textRecord(*name);
-    }
-    return std::nullopt;
+    std::call_once(m_modelRead, [this] {
+        for (const std::string_view path :
+             {"/sys/class/dmi/id/product_name", "/sys/class/dmi/id/board_name", "/proc/device-tree/model",
+              "/sys/firmware/devicetree/base/model"}) {
+            const auto name = m_files.value(path);
+            if (name && !isFiller(*name)) {
+                m_model = textRecord(*name);
+                return;
+            }
+        }
+    });
+    return m_model;
 }
 
 std::optional<Bytes> LinuxKernelValues::cores(std::string_view name) const

@@ -7,6 +7,8 @@
 #include "platform/linux/Files.h"
 #include "platform/linux/LinuxProcessor.h"
 
+#include <mutex>
+
 namespace quillmark::platform {
 
 /// The names of macOS's values whose facts Linux tells too. Those that mean "this is a Mac" stay unanswered.
@@ -19,7 +21,7 @@ public:
     std::optional<Bytes> read(std::string_view name) const override;
 
 private:
-    std::optional<Bytes> model() const;
+    const std::optional<Bytes> &model() const;
     std::optional<Bytes> cores(std::string_view name) const;
     std::optional<Bytes> feature(std::string_view name) const;
     std::optional<Bytes> swap() const;
@@ -27,6 +29,8 @@ private:
 
     Files m_files;
     const LinuxProcessor &m_processor;
+    mutable std::once_flag m_modelRead;
+    mutable std::optional<Bytes> m_model;
 };
 
 } // namespace quillmark::platform

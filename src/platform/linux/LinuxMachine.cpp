@@ -18,6 +18,7 @@
 #include "platform/linux/LinuxSecurity.h"
 #include "platform/linux/LinuxSystemInformation.h"
 #include "platform/linux/LinuxVolumes.h"
+#include "platform/linux/MountTable.h"
 
 namespace quillmark::platform {
 
@@ -28,6 +29,7 @@ class LinuxMachine final : public Machine
 public:
     explicit LinuxMachine(const Files &files)
         : m_processor(files)
+        , m_mountTable(files)
         , m_kernelValues(files, m_processor)
         , m_system(files, m_processor)
         , m_counters(files)
@@ -37,9 +39,9 @@ public:
         , m_displays(files)
         , m_media(files)
         , m_capture(files)
-        , m_volumes(files)
+        , m_volumes(files, m_mountTable)
         , m_network(files)
-        , m_security(files)
+        , m_security(files, m_mountTable)
     {}
 
     const KernelValues &kernelValues() const override { return m_kernelValues; }
@@ -58,6 +60,7 @@ public:
 
 private:
     LinuxProcessor m_processor;
+    MountTable m_mountTable;
     LinuxKernelValues m_kernelValues;
     LinuxSystemInformation m_system;
     LinuxCounters m_counters;

@@ -55,15 +55,16 @@ std::optional<bool> readEnforcing(const Files &files)
 
 } // namespace
 
-LinuxSecurity::LinuxSecurity(const Files &files)
+LinuxSecurity::LinuxSecurity(const Files &files, const MountTable &mountTable)
     : m_files(files)
+    , m_mountTable(mountTable)
 {}
 
 SecurityState LinuxSecurity::read() const
 {
     SecurityState state;
     readSecureBoot(m_files, state);
-    if (const auto device = rootDevice(m_files)) {
+    if (const auto device = rootDevice(m_files, m_mountTable)) {
         state.rootIsBlockDevice = true;
         state.rootDeviceMapperUuidPrefix = encryptionOf(m_files, *device);
     }

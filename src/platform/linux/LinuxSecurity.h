@@ -5,6 +5,7 @@
 
 #include "platform/Security.h"
 #include "platform/linux/Files.h"
+#include "platform/linux/MountTable.h"
 
 namespace quillmark::platform {
 
@@ -12,12 +13,14 @@ namespace quillmark::platform {
 class LinuxSecurity final : public Security
 {
 public:
-    explicit LinuxSecurity(const Files &files);
+    /// The table must live longer.
+    LinuxSecurity(const Files &files, const MountTable &mountTable);
 
     SecurityState read() const override;
 
 private:
     Files m_files;
+    const MountTable &m_mountTable;
 };
 
 } // namespace quillmark::platform

@@ -21,17 +21,6 @@ namespace quillmark::platform {
 
 namespace {
 
-/// The kernel's name of the device ("sda2", "dm-0"); of a btrfs only the source tells it. Empty when there is
-/// none.
-std::string deviceName(const Files &files, const Mount &mount)
-{
-    if (const auto name = files.linkName("/sys/dev/block/" + mount.device))
-        return *name;
-    if (!mount.source.starts_with("/dev/"))
-        return {};
-    return files.linkName(mount.source).value_or(std::string(lastComponent(mount.source)));
-}
-
 /// A label as the name of a link, where the characters that could do harm there are written as \x and two
 /// digits.
 std::string unescapedLabel(std::string_view name)
@@ -100,8 +89,9 @@ std::string nameOfPlace(const std::string &place)
 
 } // namespace
 
-LinuxVolumes::LinuxVolumes(const Files &files)
+LinuxVolumes::LinuxVolumes(const Files &files, const MountTable &mountTable)
     : m_files(files)
+    , m_mountTable(mountTable)
 {}
 
 std::optional<StartupVolume> LinuxVolumes::startupVolume() const
@@ -109,10 +99,9 @@ std::optional<StartupVolume> LinuxVolumes::startupVolume() const
     const auto space = spaceAt(m_files, "/");
     if (!space)
         return std::nullopt;
-    const auto mounts = parseMountTable(m_files.text("/proc/self/mountinfo").value_or(std::string()));
     StartupVolume volume = {.name = "/", .total = space->total, .available = space->available};
-    const auto root = std::ranges::find(mounts, "/", &Mount::place);
-    if (root == mounts.end())
+    const auto root = m_mountTable.root();
+    if (!root)
         return volume;
     const auto names = labels(m_files);
     if (const auto label = names.find(deviceName(m_files, *root)); label != names.end())
@@ -128,16 +117,15 @@ std::optional<std::vector<DiskReading>> LinuxVolumes::disks() const
 
 std::optional<std::vector<VolumeReading>> LinuxVolumes::otherVolumes() const
 {
-    const auto text = m_files.text("/proc/self/mountinfo");
-    if (!text)
+    const auto mounts = m_mountTable.mounts();
+    if (!mounts)
         return std::nullopt;
-    const auto mounts = parseMountTable(*text);
     const auto names = labels(m_files);
     std::set<std::string> seen;
-    if (const auto root = std::ranges::find(mounts, "/", &Mount::place); root != mounts.end())
+    if (const auto root = m_mountTable.root())
         seen.insert(deviceName(m_files, *root));
     std::vector<VolumeReading> volumes;
-    for (const Mount &mount : mounts) {
+    for (const Mount &mount : *mounts) {
         if (!isVolume(m_files, mount))
             continue;
         const std::string device = deviceName(m_files, mount);

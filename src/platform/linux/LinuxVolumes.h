@@ -5,13 +5,15 @@
 
 #include "platform/Volumes.h"
 #include "platform/linux/Files.h"
+#include "platform/linux/MountTable.h"
 
 namespace quillmark::platform {
 
 class LinuxVolumes final : public Volumes
 {
 public:
-    explicit LinuxVolumes(const Files &files);
+    /// The table must live longer.
+    LinuxVolumes(const Files &files, const MountTable &mountTable);
 
     std::optional<StartupVolume> startupVolume() const override;
     std::optional<std::vector<DiskReading>> disks() const override;
@@ -19,6 +21,7 @@ public:
 
 private:
     Files m_files;
+    const MountTable &m_mountTable;
 };
 
 } // namespace quillmark::platform

@@ -5,6 +5,7 @@
 
 #include "platform/linux/TextFields.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -63,6 +64,36 @@ std::vector<Mount> parseMountTable(std::string_view text)
         mounts.push_back(std::move(*mount));
     }
     return mounts;
+}
+
+std::string deviceName(const Files &files, const Mount &mount)
+{
+    if (const auto name = files.linkName("/sys/dev/block/" + mount.device))
+        return *name;
+    if (!mount.source.starts_with("/dev/"))
+        return {};
+    return files.linkName(mount.source).value_or(std::string(lastComponent(mount.source)));
+}
+
+MountTable::MountTable(const Files &files)
+    : m_file(files, "/proc/self/mountinfo")
+{}
+
+std::optional<std::vector<Mount>> MountTable::mounts() const
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_file.hasChanged()) {
+        const auto text = m_file.read();
+        m_mounts = text ? std::optional(parseMountTable(*text)) : std::nullopt;
+    }
+    return m_mounts;
+}
+
+std::optional<Mount> MountTable::root() const
+{
+    const auto all = mounts().value_or(std::vector<Mount>());
+    const auto found = std::ranges::find(all, "/", &Mount::place);
+    return found == all.end() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace quillmark::platform

@@ -3,43 +3,13 @@
 
 #include "platform/linux/RootDevice.h"
 
-#include "platform/linux/TextFields.h"
-
-#include <algorithm>
-#include <array>
+#include <string_view>
 
 namespace quillmark::platform {
 
 namespace {
 
 constexpr std::string_view deviceFolder = "/sys/class/block/";
-
-struct RootMount
-{
-    std::string number; ///< "8:2"
-    std::string source; ///< "/dev/sda2"
-};
-
-/// What is seen at "/": of several mounts the last.
-RootMount parseRootMount(std::string_view mounts)
-{
-    RootMount root;
-    while (!mounts.empty()) {
-        // Mount, parent, number of the device, folder in it, place, options, further fields, a dash, kind of
-        // file system, source.
-        std::string_view line = takeUntil(mounts, '\n');
-        std::array<std::string_view, 5> words;
-        for (std::string_view &word : words)
-            word = takeWord(line);
-        const std::size_t dash = line.find(" - ");
-        if (words[4] != "/" || dash == std::string_view::npos)
-            continue;
-        line.remove_prefix(dash + 3);
-        takeWord(line);
-        root = {std::string(words[2]), std::string(takeWord(line))};
-    }
-    return root;
-}
 
 /// "CRYPT-LUKS2-" of "CRYPT-LUKS2-0123…-name"; empty for a mapping that does not encrypt.
 std::string_view encryptionKind(std::string_view identifier)
@@ -74,19 +44,13 @@ std::optional<std::string> encryptionOf(const Files &files, const std::string &d
 
 } // namespace
 
-std::optional<std::string> rootDevice(const Files &files)
+std::optional<std::string> rootDevice(const Files &files, const MountTable &mountTable)
 {
-    const RootMount root = parseRootMount(files.text("/proc/self/mountinfo").value_or(std::string()));
-    if (!root.number.empty()) {
-        if (auto name = files.linkName("/sys/dev/block/" + root.number))
-            return name;
-    }
-    // A file system over several devices has a number of its own.
-    if (!root.source.starts_with("/dev/"))
+    const auto root = mountTable.root();
+    const std::string name = root ? deviceName(files, *root) : std::string();
+    if (name.empty() || !files.exists(std::string(deviceFolder) + name))
         return std::nullopt;
-    auto name = files.linkName(root.source).value_or(std::string(lastComponent(root.source)));
-    return !name.empty() && files.exists(std::string(deviceFolder) + name) ? std::optional(std::move(name))
-                                                                           : std::nullopt;
+    return name;
 }
 
 std::optional<std::string> encryptionOf(const Files &files, const std::string &device)
