@@ -73,9 +73,8 @@ Unit unitFor(std::uint64_t magnitude, ByteCountStyle style)
     return static_cast<Unit>(std::ranges::upper_bound(limits, magnitude) - limits.begin());
 }
 
-icu::number::FormattedNumber formatMeasure(double amount, const icu::MeasureUnit &unit,
-                                           UNumberUnitWidth width, int fraction, const icu::Locale &locale,
-                                           UErrorCode &status)
+icu::number::LocalizedNumberFormatter measureFormatter(const icu::MeasureUnit &unit, UNumberUnitWidth width,
+                                                       int fraction, const icu::Locale &locale)
 {
     using namespace icu::number;
     return NumberFormatter::with()
@@ -83,15 +82,27 @@ icu::number::FormattedNumber formatMeasure(double amount, const icu::MeasureUnit
         .unitWidth(width)
         .precision(Precision::maxFraction(fraction))
         .roundingMode(UNUM_ROUND_HALFEVEN)
-        .locale(locale)
-        .formatDouble(amount, status);
+        .locale(locale);
 }
 
-icu::number::FormattedNumber formatBytes(double amount, Unit unit, const icu::Locale &locale,
-                                         UErrorCode &status)
+/// Setting one up is most of the work of formatting, and an inspection writes many sizes in the same unit:
+/// those of the language used last are kept, for each thread.
+const icu::number::LocalizedNumberFormatter &byteFormatter(Unit unit, const icu::Locale &locale)
 {
-    const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
-    return formatMeasure(amount, measureUnit(unit), width, unitFractionDigits[unit], locale, status);
+    struct Formatters
+    {
+        icu::Locale locale;
+        std::array<std::optional<icu::number::LocalizedNumberFormatter>, UnitCount> byUnit;
+    };
+    thread_local Formatters kept;
+    if (kept.locale != locale)
+        kept = {.locale = locale, .byUnit = {}};
+    auto &formatter = kept.byUnit[unit];
+    if (!formatter) {
+        const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
+        formatter = measureFormatter(measureUnit(unit), width, unitFractionDigits[unit], locale);
+    }
+    return *formatter;
 }
 
 icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFormatterType type,
@@ -116,7 +127,7 @@ bool spellsOutZero(const icu::Locale &locale)
 /// "Zero kB": the formatted zero with its digit replaced by the language's word.
 icu::UnicodeString spelledZero(const icu::Locale &locale, UErrorCode &status)
 {
-    const auto formatted = formatBytes(0, Kilobyte, locale, status);
+    const auto formatted = byteFormatter(Kilobyte, locale).formatDouble(0, status);
     auto text = formatted.toString(status);
     icu::ConstrainedFieldPosition digit;
     digit.constrainField(UFIELD_CATEGORY_NUMBER, UNUM_INTEGER_FIELD);
@@ -147,8 +158,9 @@ QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
     double divisor = 1;
     for (int step = 0; step < unit; ++step)
         divisor *= style == ByteCountStyle::Memory ? 1024 : 1000;
-    return toQString(
-        formatBytes(static_cast<double>(bytes) / divisor, unit, locale, status).toString(status));
+    return toQString(byteFormatter(unit, locale)
+                         .formatDouble(static_cast<double>(bytes) / divisor, status)
+                         .toString(status));
 }
 
 std::optional<QString> Formats::uptime(std::optional<double> seconds) const
@@ -160,9 +172,8 @@ std::optional<QString> Formats::uptime(std::optional<double> seconds) const
     UErrorCode status = U_ZERO_ERROR;
     std::vector<icu::UnicodeString> parts;
     const auto add = [&](std::int64_t amount, const icu::MeasureUnit &unit) {
-        const auto part =
-            formatMeasure(static_cast<double>(amount), unit, UNUM_UNIT_WIDTH_NARROW, 0, locale, status);
-        parts.push_back(part.toString(status));
+        const auto formatter = measureFormatter(unit, UNUM_UNIT_WIDTH_NARROW, 0, locale);
+        parts.push_back(formatter.formatDouble(static_cast<double>(amount), status).toString(status));
     };
     const auto minutes = static_cast<std::int64_t>(*seconds) / 60;
     if (const auto days = minutes / (24 * 60))
