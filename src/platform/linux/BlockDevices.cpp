@@ -27,7 +27,7 @@ bool hasHardware(std::string_view devicePath)
 /// By name: what is attached like a disk and is none.
 bool isOtherDevice(std::string_view name)
 {
-    constexpr std::array<std::string_view, 4> kinds = {"sr", "fd", "mtdblock", "rbd"};
+    constexpr std::array<std::string_view, 7> kinds = {"fd", "loop", "mtdblock", "ram", "rbd", "sr", "zram"};
     const bool isBootArea = name.starts_with("mmcblk") && (name.contains("boot") || name.contains("rpmb"));
     return isBootArea ||
            std::ranges::any_of(kinds, [name](std::string_view kind) { return name.starts_with(kind); });
@@ -68,9 +68,11 @@ std::optional<std::string> mediumTypeOf(std::optional<std::int64_t> rotational,
 
 std::optional<DiskReading> readDisk(const Files &files, const std::string &name)
 {
+    if (isOtherDevice(name))
+        return std::nullopt;
     const std::string folder = "/sys/block/" + name;
     const auto path = files.linkTarget(folder);
-    if (isOtherDevice(name) || !path || !hasHardware(*path) || files.number(folder + "/hidden") == 1)
+    if (!path || !hasHardware(*path) || files.number(folder + "/hidden") == 1)
         return std::nullopt;
     DiskReading disk;
     disk.size = sizeOf(files, folder);
