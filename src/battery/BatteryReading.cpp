@@ -139,10 +139,14 @@ void readService(BatteryReading &reading, const PropertyMap &service, bool isApp
 
 std::optional<BatteryReading> readBattery(const platform::Machine &machine, bool isAppleSilicon)
 {
-    if (const auto supplies = machine.power().powerSupplies()) {
-        if (auto reading = readBattery(*supplies))
-            return reading;
-    }
+    return readBattery(machine, machine.power().powerSupplies(), isAppleSilicon);
+}
+
+std::optional<BatteryReading> readBattery(const platform::Machine &machine,
+                                          const std::optional<Supplies> &supplies, bool isAppleSilicon)
+{
+    if (supplies)
+        return readBattery(*supplies);
     const auto sources = machine.power().powerSources();
     const auto source = std::ranges::find_if(sources, [](const PropertyMap &properties) {
         return get<std::string>(properties, "Type") == "InternalBattery";

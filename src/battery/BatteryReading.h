@@ -6,6 +6,7 @@
 #include "platform/Machine.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -49,8 +50,14 @@ struct BatteryReading
     bool operator==(const BatteryReading &) const = default;
 };
 
+/// The properties of each of Linux's power supplies, by its name.
+using Supplies = std::map<std::string, platform::PropertyMap>;
+
 /// None on a machine without a battery of its own. `isAppleSilicon` settles what macOS means by some keys.
 std::optional<BatteryReading> readBattery(const platform::Machine &machine, bool isAppleSilicon);
+/// The same where the supplies have been read; absent on a Mac.
+std::optional<BatteryReading> readBattery(const platform::Machine &machine,
+                                          const std::optional<Supplies> &supplies, bool isAppleSilicon);
 
 /// The level as it is shown; none when there is no such level.
 std::optional<int> chargePercent(const BatteryReading &reading);

@@ -5,14 +5,11 @@
 
 #include "battery/BatteryReading.h"
 
-#include <map>
-#include <string>
+#include <optional>
 
 // The power supplies of Linux.
 
 namespace quillmark::battery {
-
-using Supplies = std::map<std::string, platform::PropertyMap>;
 
 /// The first battery that powers the machine itself; none when there is none.
 std::optional<BatteryReading> readBattery(const Supplies &supplies);

@@ -230,7 +230,9 @@ void BatteryTest::noBattery()
          {QByteArray("{}"), QByteArray(R"({"registry": {"AppleSmartBattery": {"CycleCount": 3}}})"),
           mac(R"("BatteryInstalled": false, "CycleCount": 3)"),
           QByteArray(R"({"powerSources": [{"Type": "UPS", "Current Capacity": 5}]})"),
-          linuxBattery("PRESENT=0"), linuxBattery("SCOPE=Device")})
+          linuxBattery("PRESENT=0"), linuxBattery("SCOPE=Device"),
+          // Where the supplies are listed, they alone count.
+          QByteArray(R"({"powerSupplies": {}, "powerSources": [{"Type": "InternalBattery"}]})")})
         QVERIFY2(!readingOf(changes), changes.constData());
 }
 
