@@ -78,6 +78,11 @@ bool isAppleSilicon(const platform::Machine &machine)
     return sysctlFlag(machine, "hw.optional.arm64");
 }
 
+bool isVirtualMachine(const platform::Machine &machine)
+{
+    return sysctlFlag(machine, "kern.hv_vmm_present");
+}
+
 platform::InstructionSet instructionSet(const platform::Machine &machine)
 {
     using platform::InstructionSet;
@@ -115,6 +120,11 @@ std::optional<std::int64_t> batteryCycleCount(const platform::Machine &machine)
 {
     const auto services = machine.registry().services("AppleSmartBattery");
     return services.empty() ? std::nullopt : platform::get<std::int64_t>(services.front(), "CycleCount");
+}
+
+bool hasBattery(const platform::Machine &machine)
+{
+    return batteryReading(machine).has_value();
 }
 
 std::optional<BatteryInfo> batteryInfo(const platform::Machine &machine)
@@ -230,7 +240,7 @@ DeviceSummary summary(const platform::Machine &machine, const language::Formats 
         .storage = volume ? formats.byteCount(volume->total, ByteCountStyle::File) : missing(),
         .osVersion = osVersionDescription(machine),
         .isAppleSilicon = isAppleSilicon(machine),
-        .hasBattery = batteryInfo(machine).has_value(),
+        .hasBattery = hasBattery(machine),
     };
 }
 

@@ -83,9 +83,11 @@ QString osVersionDescription(const platform::Machine &machine);
 bool isMac(const platform::Machine &machine);
 /// The rule by which everything decides whether this is an Apple-silicon Mac.
 bool isAppleSilicon(const platform::Machine &machine);
+bool isVirtualMachine(const platform::Machine &machine);
 /// What rows about instructions go by. A Mac's kernel value decides it; another system says it itself.
 platform::InstructionSet instructionSet(const platform::Machine &machine);
 
+bool hasBattery(const platform::Machine &machine);
 /// None on a machine without an internal battery.
 std::optional<BatteryInfo> batteryInfo(const platform::Machine &machine);
 std::optional<std::int64_t> batteryCycleCount(const platform::Machine &machine);

@@ -31,25 +31,18 @@ bool isBuiltIn(const AudioDevice &device)
 }
 
 /// A lack is one only among portables, all of which have speakers and a microphone.
-CapabilityItem builtInItem(const QString &key, const QString &label, const Devices &devices,
-                           std::uint32_t AudioDevice::*channels, bool hasBattery)
+std::optional<Verdict> builtInVerdict(const Devices &devices, std::uint32_t AudioDevice::*channels,
+                                      bool hasBattery)
 {
     if (!devices)
-        return fact(key, label, notReadable());
+        return std::nullopt;
     const bool isThere = std::ranges::any_of(*devices, [channels](const AudioDevice &device) {
         return isBuiltIn(device) && device.*channels >= 1;
     });
-    CapabilityItem item{.label = label, .key = key};
-    if (isThere) {
-        item.value = Text::tr("Available");
-        item.status = CapabilityStatus::Supported;
-    } else if (hasBattery) {
-        item.value = Text::tr("None");
-        item.status = CapabilityStatus::Unsupported;
-    } else {
-        item.value = Text::tr("None (desktop)");
-    }
-    return item;
+    if (isThere)
+        return availability(true);
+    return hasBattery ? Verdict{Text::tr("None"), CapabilityStatus::Unsupported}
+                      : Verdict{Text::tr("None (desktop)")};
 }
 
 const AudioDevice *deviceWith(std::uint32_t id, const Devices &devices)
@@ -76,15 +69,12 @@ QString nameOf(const AudioDevice &device)
     return device.name && !device.name->empty() ? QString::fromStdString(*device.name) : notReadable();
 }
 
-CapabilityItem defaultItem(const QString &key, const QString &label, std::optional<std::uint32_t> id,
-                           const Devices &devices)
+QString defaultText(std::optional<std::uint32_t> id, const Devices &devices)
 {
-    CapabilityItem item{.label = label, .value = notReadable(), .key = key, .isVolatile = true};
     if (id == 0u)
-        item.value = Text::tr("None");
-    else if (const auto *device = id ? deviceWith(*id, devices) : nullptr)
-        item.value = nameOf(*device);
-    return item;
+        return Text::tr("None");
+    const auto *device = id ? deviceWith(*id, devices) : nullptr;
+    return device ? nameOf(*device) : notReadable();
 }
 
 QString kilohertz(double hertz, const language::Formats &formats)
@@ -92,26 +82,21 @@ QString kilohertz(double hertz, const language::Formats &formats)
     return Text::tr("%1\u00a0kHz").arg(shortNumber(hertz / 1000, 3, formats));
 }
 
-CapabilityItem outputFormatItem(const AudioDevice *device, const language::Formats &formats)
+std::optional<Verdict> outputFormatVerdict(const AudioDevice *device, const language::Formats &formats)
 {
-    CapabilityItem item{.label = Text::tr("Output format"),
-                        .value = notReadable(),
-                        .key = u"outputFormat"_s,
-                        .isVolatile = true};
     const auto rate = device ? device->nominalSampleRate.value_or(0) : 0;
     if (rate <= 0 || device->outputChannels < 1 || device->outputChannels > mostChannels)
-        return item;
+        return std::nullopt;
     const bool isForCalls = rate < leastMusicRate && platform::personalDevice(device->transport) ==
                                                          platform::PersonalDevice::Bluetooth;
     const int channels = static_cast<int>(device->outputChannels);
     const auto format =
         channels == 1 ? Text::tr("%1, 1 channel") : Text::tr("%1, %n channels", nullptr, channels);
-    item.value = format.arg(kilohertz(rate, formats));
-    if (isForCalls) {
-        item.value = Text::tr("%1 (call quality: a microphone is in use)").arg(item.value);
-        item.status = CapabilityStatus::Warning;
-    }
-    return item;
+    const auto text = format.arg(kilohertz(rate, formats));
+    if (isForCalls)
+        return Verdict{Text::tr("%1 (call quality: a microphone is in use)").arg(text),
+                       CapabilityStatus::Warning};
+    return Verdict{text};
 }
 
 /// None when no built-in output tells its rates.
@@ -132,7 +117,7 @@ std::optional<double> highestBuiltInRate(const Devices &devices)
 QList<CapabilityItem> audioItems(const platform::Machine &machine, const language::Formats &formats)
 {
     const auto &capture = machine.capture();
-    const bool hasBattery = DeviceProbe::batteryInfo(machine).has_value();
+    const bool hasBattery = DeviceProbe::hasBattery(machine);
     // Core Audio: 'dev#', of each device 'tran' and 'slay'
     const auto devices = capture.audioDevices();
     // Core Audio: 'dIn ', 'dOut'
@@ -141,22 +126,22 @@ QList<CapabilityItem> audioItems(const platform::Machine &machine, const languag
     const auto input = defaults ? std::optional(defaults->input) : std::nullopt;
 
     QList<CapabilityItem> items = {
-        builtInItem(u"builtInSpeakers"_s, Text::tr("Built-in speakers"), devices,
-                    &AudioDevice::outputChannels, hasBattery),
-        builtInItem(u"builtInMicrophone"_s, Text::tr("Built-in microphone"), devices,
-                    &AudioDevice::inputChannels, hasBattery),
+        judged(u"builtInSpeakers"_s, Text::tr("Built-in speakers"),
+               builtInVerdict(devices, &AudioDevice::outputChannels, hasBattery)),
+        judged(u"builtInMicrophone"_s, Text::tr("Built-in microphone"),
+               builtInVerdict(devices, &AudioDevice::inputChannels, hasBattery)),
         // 'lnam', 'tran'
-        defaultItem(u"soundOutput"_s, Text::tr("Sound output"), output, devices),
+        passing(fact(u"soundOutput"_s, Text::tr("Sound output"), defaultText(output, devices))),
     };
     // 'nsrt', and 'slay' of its outputs
     if (output.value_or(0) != 0)
-        items += outputFormatItem(deviceWith(*output, devices), formats);
+        items += passing(judged(u"outputFormat"_s, Text::tr("Output format"),
+                                outputFormatVerdict(deviceWith(*output, devices), formats)));
     // 'nsr#'
-    if (const auto rate = highestBuiltInRate(devices)) {
+    if (const auto rate = highestBuiltInRate(devices))
         items += fact(u"highestOutputRate"_s, Text::tr("Highest output rate"), kilohertz(*rate, formats));
-    }
     // 'lnam', 'tran'
-    items += defaultItem(u"soundInput"_s, Text::tr("Sound input"), input, devices);
+    items += passing(fact(u"soundInput"_s, Text::tr("Sound input"), defaultText(input, devices)));
     return items;
 }
 

@@ -6,6 +6,7 @@
 #include "battery/BatteryJudgement.h"
 #include "inspection/Text.h"
 #include "inspection/rows.h"
+#include "inspection/values.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -35,40 +36,29 @@ CapabilityStatus statusOf(battery::Rating rating)
     return CapabilityStatus::Info;
 }
 
-QString whole(std::int64_t number, const language::Formats &formats)
+std::optional<Verdict> healthVerdict(const BatteryJudgement &judgement, const language::Formats &formats)
 {
-    return formats.number(static_cast<double>(number));
+    if (!judgement.healthPercent)
+        return std::nullopt;
+    return Verdict{percentText(*judgement.healthPercent, formats), statusOf(rating(judgement.health))};
 }
 
-CapabilityItem healthItem(const BatteryJudgement &judgement, const language::Formats &formats)
+std::optional<Verdict> conditionVerdict(const BatteryJudgement &judgement)
 {
-    return {.label = Text::tr("Battery health"),
-            .value = judgement.healthPercent ? percentText(*judgement.healthPercent, formats) : notReadable(),
-            .status = statusOf(rating(judgement.health)),
-            .key = u"batteryHealth"_s};
+    if (judgement.condition == battery::Condition::NotReported)
+        return std::nullopt;
+    return Verdict{conditionTitle(judgement), statusOf(rating(judgement.condition))};
 }
 
-CapabilityItem conditionItem(const BatteryJudgement &judgement)
+std::optional<Verdict> cyclesVerdict(const BatteryReading &reading, const BatteryJudgement &judgement,
+                                     const language::Formats &formats)
 {
-    const bool isKnown = judgement.condition != battery::Condition::NotReported;
-    return {.label = Text::tr("Battery condition"),
-            .value = isKnown ? conditionTitle(judgement) : notReadable(),
-            .status = statusOf(rating(judgement.condition)),
-            .key = u"batteryCondition"_s};
-}
-
-CapabilityItem cyclesItem(const BatteryReading &reading, const BatteryJudgement &judgement,
-                          const language::Formats &formats)
-{
-    CapabilityItem item{.label = Text::tr("Cycle count"),
-                        .value = notReadable(),
-                        .status = statusOf(cycleRating(judgement)),
-                        .key = u"cycleCount"_s};
-    if (reading.cycleCount)
-        item.value = whole(*reading.cycleCount, formats);
-    if (reading.cycleCount && reading.ratedCycleCount)
-        item.value = Text::tr("%1 of %2").arg(item.value, whole(*reading.ratedCycleCount, formats));
-    return item;
+    if (!reading.cycleCount)
+        return std::nullopt;
+    const auto count = wholeNumber(*reading.cycleCount, formats);
+    const auto rated = reading.ratedCycleCount;
+    return Verdict{rated ? Text::tr("%1 of %2").arg(count, wholeNumber(*rated, formats)) : count,
+                   statusOf(cycleRating(judgement))};
 }
 
 /// "52.1", "57"
@@ -84,7 +74,7 @@ QString capacityText(const BatteryReading &reading, const language::Formats &for
     const auto design = *reading.designCapacity;
     if (reading.unit == battery::CapacityUnit::MilliwattHours)
         return Text::tr("%1 of %2\u00a0Wh").arg(wattHours(present, formats), wattHours(design, formats));
-    return Text::tr("%1 of %2\u00a0mAh").arg(whole(present, formats), whole(design, formats));
+    return Text::tr("%1 of %2\u00a0mAh").arg(wholeNumber(present, formats), wholeNumber(design, formats));
 }
 
 QString temperatureText(double celsius, const language::Formats &formats)
@@ -119,48 +109,38 @@ QString timeText(const battery::TimeRemaining &time, const language::Formats &fo
 
 } // namespace
 
-CapabilityItem passingFact(const QString &key, const QString &label, const QString &value)
-{
-    return {.label = label, .value = value, .key = key, .isVolatile = true};
-}
-
-QString percentText(int percent, const language::Formats &formats)
-{
-    return Text::tr("%1\u00a0%").arg(formats.number(percent));
-}
-
 QList<CapabilityItem> batteryItems(const BatteryReading &reading, bool onMac,
                                    const language::Formats &formats)
 {
     const auto judgement = judge(reading);
     // AppleRawMaxCapacity or what stands for it, of DesignCapacity; CHARGE_FULL, ENERGY_FULL of …_DESIGN
-    QList<CapabilityItem> items = {healthItem(judgement, formats)};
+    QList<CapabilityItem> items = {
+        judged(u"batteryHealth"_s, Text::tr("Battery health"), healthVerdict(judgement, formats))};
     // PermanentFailureStatus, BatteryHealthCondition, BatteryHealth; HEALTH
     if (onMac || judgement.condition != battery::Condition::NotReported)
-        items += conditionItem(judgement);
+        items += judged(u"batteryCondition"_s, Text::tr("Battery condition"), conditionVerdict(judgement));
     // CycleCount, else that of BatteryData; DesignCycleCount9C; CYCLE_COUNT
-    items += cyclesItem(reading, judgement, formats);
+    items += judged(u"cycleCount"_s, Text::tr("Cycle count"), cyclesVerdict(reading, judgement, formats));
     // As for the health
     if (reading.presentCapacity && reading.designCapacity)
         items +=
-            passingFact(u"batteryCapacity"_s, Text::tr("Battery capacity"), capacityText(reading, formats));
+            passing(fact(u"batteryCapacity"_s, Text::tr("Battery capacity"), capacityText(reading, formats)));
     // Temperature; TEMP
-    if (reading.temperature) {
-        items += passingFact(u"batteryTemperature"_s, Text::tr("Battery temperature"),
-                             temperatureText(*reading.temperature, formats));
-        items.last().status = statusOf(rating(judgement.warmth));
-    }
+    if (reading.temperature)
+        items += passing(judged(
+            u"batteryTemperature"_s, Text::tr("Battery temperature"),
+            Verdict{temperatureText(*reading.temperature, formats), statusOf(rating(judgement.warmth))}));
     // "Current Capacity" of "Max Capacity"; CAPACITY
     const auto percent = chargePercent(reading);
-    items += passingFact(u"charge"_s, Text::tr("Charge"),
-                         percent ? percentText(*percent, formats) : notReadable());
+    items += passing(
+        fact(u"charge"_s, Text::tr("Charge"), percent ? percentText(*percent, formats) : notReadable()));
     // "Is Charging", "Is Charged", "Power Source State"; STATUS
-    items += passingFact(u"charging"_s, Text::tr("Charging"),
-                         reading.chargeState ? chargeStateText(*reading.chargeState) : notReadable());
+    items += passing(fact(u"charging"_s, Text::tr("Charging"),
+                          reading.chargeState ? chargeStateText(*reading.chargeState) : notReadable()));
     // "Time to Empty", "Time to Full Charge"; ENERGY_NOW by POWER_NOW, CHARGE_NOW by CURRENT_NOW
     if (reading.timeRemaining)
-        items += passingFact(u"timeRemaining"_s, Text::tr("Time remaining"),
-                             timeText(*reading.timeRemaining, formats));
+        items += passing(
+            fact(u"timeRemaining"_s, Text::tr("Time remaining"), timeText(*reading.timeRemaining, formats)));
     return items;
 }
 

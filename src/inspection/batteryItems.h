@@ -16,10 +16,4 @@ namespace quillmark::inspection {
 QList<CapabilityItem> batteryItems(const battery::BatteryReading &reading, bool onMac,
                                    const language::Formats &formats);
 
-/// A plain fact that changes without any change of the machine.
-CapabilityItem passingFact(const QString &key, const QString &label, const QString &value);
-
-/// "80 %"
-QString percentText(int percent, const language::Formats &formats);
-
 } // namespace quillmark::inspection

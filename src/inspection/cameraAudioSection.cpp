@@ -21,20 +21,6 @@ using platform::CameraFormat;
 using platform::CameraPlace;
 using platform::CameraReading;
 
-constexpr std::size_t mostOfAKind = 16;
-
-/// The label of a numbered thing, or of what belongs to one: without the number where there is only one.
-struct Labels
-{
-    int number = 1;
-    bool isOnly = true;
-
-    QString of(const QString &single, const QString &numbered) const
-    {
-        return isOnly ? single : numbered.arg(number);
-    }
-};
-
 /// Without those that are borrowed, and no more than are shown.
 std::vector<CameraReading> ownCameras(std::vector<CameraReading> cameras)
 {
@@ -51,20 +37,20 @@ CapabilityItem namedItem(const QString &key, const QString &label, const std::st
 {
     if (name.empty())
         return fact(key, label, notReadable());
-    return {.label = label,
-            .value = withTags(QString::fromStdString(name), tags, formats),
-            .status = CapabilityStatus::Supported,
-            .key = key};
+    return judged(
+        key, label,
+        Verdict{withTags(QString::fromStdString(name), tags, formats), CapabilityStatus::Supported});
 }
 
-CapabilityItem cameraItem(const CameraReading &camera, const Labels &labels, const language::Formats &formats)
+CapabilityItem cameraItem(const CameraReading &camera, const Numbered &place,
+                          const language::Formats &formats)
 {
     QStringList tags;
     if (placeOf(camera) == CameraPlace::BuiltIn)
         tags += Text::tr("built in");
     if (placeOf(camera) == CameraPlace::External)
         tags += Text::tr("external");
-    return namedItem(u"camera.%1"_s.arg(labels.number), labels.of(Text::tr("Camera"), Text::tr("Camera %1")),
+    return namedItem(u"camera.%1"_s.arg(place.number), place.label(Text::tr("Camera"), Text::tr("Camera %1")),
                      camera.localizedName, tags, formats);
 }
 
@@ -82,17 +68,15 @@ const CameraFormat *bestFormat(const CameraReading &camera)
     return best;
 }
 
-CapabilityItem bestPictureItem(const CameraFormat &format, const Labels &labels,
+CapabilityItem bestPictureItem(const CameraFormat &format, const Numbered &place,
                                const language::Formats &formats)
 {
-    const auto width = QString::number(format.width);
-    const auto height = QString::number(format.height);
-    return fact(u"camera.%1.bestPicture"_s.arg(labels.number),
-                labels.of(Text::tr("Best picture"), Text::tr("Best picture (camera %1)")),
-                format.maxFrameRate > 0
-                    ? Text::tr("%1 × %2, up to %3 frames per second")
-                          .arg(width, height, shortNumber(format.maxFrameRate, 2, formats))
-                    : u"%1 × %2"_s.arg(width, height));
+    const auto size = sizeText(format.width, format.height);
+    return fact(u"camera.%1.bestPicture"_s.arg(place.number),
+                place.label(Text::tr("Best picture"), Text::tr("Best picture (camera %1)")),
+                format.maxFrameRate > 0 ? Text::tr("%1, up to %2 frames per second")
+                                              .arg(size, shortNumber(format.maxFrameRate, 2, formats))
+                                        : size);
 }
 
 /// Center Stage came with macOS 12.3.
@@ -101,15 +85,15 @@ bool asksForCenterStage(const platform::OperatingSystem &system)
     return system.name == "macOS" && std::tuple(system.major, system.minor) >= std::tuple(12, 3);
 }
 
-CapabilityItem centerStageItem(const CameraReading &camera, const Labels &labels)
+CapabilityItem centerStageItem(const CameraReading &camera, const Numbered &place)
 {
-    const auto key = u"camera.%1.centerStage"_s.arg(labels.number);
-    const auto label = labels.of(Text::tr("Center Stage"), Text::tr("Center Stage (camera %1)"));
+    const auto key = u"camera.%1.centerStage"_s.arg(place.number);
+    const auto label = place.label(Text::tr("Center Stage"), Text::tr("Center Stage (camera %1)"));
     const auto tells = [](const CameraFormat &format) { return format.isCenterStageSupported.has_value(); };
     const auto has = [](const CameraFormat &format) { return format.isCenterStageSupported == true; };
-    if (std::ranges::none_of(camera.formats, tells))
-        return fact(key, label, notReadable());
-    auto item = capability(key, label, std::ranges::any_of(camera.formats, has));
+    const bool isTold = std::ranges::any_of(camera.formats, tells);
+    auto item = capability(key, label,
+                           isTold ? std::optional(std::ranges::any_of(camera.formats, has)) : std::nullopt);
     // What an accessory lacks is no fault of the machine.
     if (placeOf(camera) != CameraPlace::BuiltIn && item.status == CapabilityStatus::Unsupported)
         item.status = CapabilityStatus::Info;
@@ -125,17 +109,18 @@ QList<CapabilityItem> cameraItems(const platform::Machine &machine, const langua
     const auto cameras = ownCameras(*found);
     if (cameras.empty())
         return {fact(u"camera"_s, Text::tr("Camera"), Text::tr("None"))};
+    const bool hasCenterStage = asksForCenterStage(machine.system().operatingSystem());
     QList<CapabilityItem> items;
-    Labels labels{.isOnly = cameras.size() == 1};
+    Numbered place{.isOnly = cameras.size() == 1};
     for (const auto &camera : cameras) {
-        items += cameraItem(camera, labels, formats);
+        items += cameraItem(camera, place, formats);
         // AVCaptureDevice.formats
         if (const auto *format = bestFormat(camera))
-            items += bestPictureItem(*format, labels, formats);
+            items += bestPictureItem(*format, place, formats);
         // AVCaptureDeviceFormat.isCenterStageSupported
-        if (asksForCenterStage(machine.system().operatingSystem()))
-            items += centerStageItem(camera, labels);
-        ++labels.number;
+        if (hasCenterStage)
+            items += centerStageItem(camera, place);
+        ++place.number;
     }
     return items;
 }
@@ -154,18 +139,19 @@ QList<CapabilityItem> soundCardItems(const platform::Machine &machine, const lan
     if (!cards || cards->empty())
         return {fact(u"soundCard"_s, Text::tr("Sound card"), cards ? Text::tr("None") : notReadable())};
     QList<CapabilityItem> items;
-    Labels labels{.isOnly = cards->size() == 1};
-    for (std::size_t i = 0; i < std::min(cards->size(), mostOfAKind); ++i) {
-        const auto &card = cards->at(i);
+    Numbered place{.isOnly = cards->size() == 1};
+    for (const auto &card : *cards) {
+        if (place.number > mostOfAKind)
+            break;
         QStringList tags;
         if (card.playback)
             tags += Text::tr("output");
         if (card.capture)
             tags += Text::tr("input");
-        items +=
-            namedItem(u"soundCard.%1"_s.arg(labels.number),
-                      labels.of(Text::tr("Sound card"), Text::tr("Sound card %1")), card.name, tags, formats);
-        ++labels.number;
+        items += namedItem(u"soundCard.%1"_s.arg(place.number),
+                           place.label(Text::tr("Sound card"), Text::tr("Sound card %1")), card.name, tags,
+                           formats);
+        ++place.number;
     }
     return items;
 }

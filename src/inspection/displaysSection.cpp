@@ -5,8 +5,7 @@
 #include "inspection/Display.h"
 #include "inspection/Text.h"
 #include "inspection/rows.h"
-
-#include <cmath>
+#include "inspection/values.h"
 
 namespace quillmark::inspection::DeviceProbe {
 
@@ -14,16 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mostDisplays = 16;
 constexpr int slowestProMotion = 120; // Hz
-
-/// With as many digits after the point as are needed, at most two: "60", "59.94".
-QString shortNumber(double value, const language::Formats &formats)
-{
-    const auto hundredths = std::llround(value * 100);
-    const int digits = hundredths % 100 == 0 ? 0 : hundredths % 10 == 0 ? 1 : 2;
-    return formats.number(static_cast<double>(hundredths) / 100, digits);
-}
 
 QString nameText(const Display &display, const language::Formats &formats)
 {
@@ -36,12 +26,12 @@ QString nameText(const Display &display, const language::Formats &formats)
         tags += Text::tr("main");
     if (display.isMirrored)
         tags += Text::tr("mirrored");
-    return tags.isEmpty() ? *display.name : u"%1 (%2)"_s.arg(*display.name, formats.list(tags));
+    return withTags(*display.name, tags, formats);
 }
 
 QString sizeText(QSize size)
 {
-    return u"%1 × %2"_s.arg(size.width()).arg(size.height());
+    return inspection::sizeText(size.width(), size.height());
 }
 
 bool isVariable(const Display &display)
@@ -54,7 +44,7 @@ QString resolutionText(const Display &display, const language::Formats &formats)
     const auto size = sizeText(*display.pixels);
     if (!display.rate)
         return size;
-    const auto rate = shortNumber(*display.rate, formats);
+    const auto rate = shortNumber(*display.rate, 2, formats);
     return isVariable(display) ? Text::tr("%1, up to %2\u00A0Hz").arg(size, rate)
                                : Text::tr("%1, %2\u00A0Hz").arg(size, rate);
 }
@@ -62,7 +52,7 @@ QString resolutionText(const Display &display, const language::Formats &formats)
 QString scalingText(const Display &display, const language::Formats &formats)
 {
     const double factor = static_cast<double>(display.pixels->width()) / display.points->width();
-    const auto text = Text::tr("%1×").arg(shortNumber(factor, formats));
+    const auto text = Text::tr("%1×").arg(shortNumber(factor, 2, formats));
     return display.pixels == display.points
                ? text
                : Text::tr("%1 (looks like %2)").arg(text, sizeText(*display.points));
@@ -82,96 +72,86 @@ QString extendedRangeText(const Display &display, const language::Formats &forma
 {
     if (!*display.hasExtendedRange)
         return Text::tr("Not supported");
-    return display.extendedRange ? Text::tr("Up to %1×").arg(shortNumber(*display.extendedRange, formats))
+    return display.extendedRange ? Text::tr("Up to %1×").arg(shortNumber(*display.extendedRange, 2, formats))
                                  : Text::tr("Supported");
 }
 
 QString screenText(const Display &display, const language::Formats &formats)
 {
-    const auto inches = shortNumber(*display.diagonal(), formats);
+    const auto inches = shortNumber(*display.diagonal(), 2, formats);
     if (const auto density = display.pixelsPerInch())
         return Text::tr("%1\u00A0in, %2 pixels per inch").arg(inches, formats.number(*density));
     return Text::tr("%1\u00A0in").arg(inches);
 }
 
-/// The rows of one display, whose number stands in every key, and in every label where there are others.
-class DisplayRows
+/// What a monitor lacks is no lack of the machine.
+Verdict traitVerdict(const Display &display, const QString &text, bool isSupported)
 {
-public:
-    DisplayRows(const Display &display, qsizetype number, bool hasOthers)
-        : m_display(display)
-        , m_number(number)
-        , m_hasOthers(hasOthers)
-    {}
+    const auto lack = display.isBuiltIn ? CapabilityStatus::Unsupported : CapabilityStatus::Info;
+    return {text, isSupported ? CapabilityStatus::Supported : lack};
+}
 
-    void addName(const QString &name)
-    {
-        m_items += fact(u"display.%1"_s.arg(m_number),
-                        m_hasOthers ? Text::tr("Display %1").arg(m_number) : Text::tr("Display"), name);
-    }
-
-    void add(const QString &key, const QString &label, const QString &value,
-             CapabilityStatus status = CapabilityStatus::Info)
-    {
-        m_items += {.label = m_hasOthers ? Text::tr("%1 (display %2)").arg(label).arg(m_number) : label,
-                    .value = value,
-                    .status = status,
-                    .key = u"display.%1.%2"_s.arg(m_number).arg(key)};
-    }
-
-    /// What a monitor lacks is no lack of the machine.
-    void addRated(const QString &key, const QString &label, const QString &value, bool isSupported)
-    {
-        const auto lack = m_display.isBuiltIn ? CapabilityStatus::Unsupported : CapabilityStatus::Info;
-        add(key, label, value, isSupported ? CapabilityStatus::Supported : lack);
-    }
-
-    QList<CapabilityItem> take() { return std::move(m_items); }
-
-private:
-    const Display &m_display;
-    qsizetype m_number;
-    bool m_hasOthers;
-    QList<CapabilityItem> m_items;
-};
-
-QString wideColorText(bool hasWideColor, bool isMac)
+QString wideColorText(bool hasWideColor, bool onMac)
 {
-    if (isMac)
+    if (onMac)
         return hasWideColor ? u"Display P3"_s : u"sRGB"_s;
     return hasWideColor ? Text::tr("Supported") : Text::tr("Not supported");
 }
 
-void addRows(DisplayRows &rows, const Display &display, bool isMac, const language::Formats &formats)
+/// What kind of picture the display can show.
+QList<CapabilityItem> traitItems(const Display &display, const QString &key, const Numbered &place,
+                                 bool onMac, const language::Formats &formats)
 {
-    rows.addName(nameText(display, formats));
-    if (display.pixels)
-        rows.add(u"resolution"_s, Text::tr("Resolution"), resolutionText(display, formats));
-    if (display.pixels && display.points)
-        rows.add(u"scaling"_s, Text::tr("Scaling"), scalingText(display, formats));
+    QList<CapabilityItem> items;
     if (display.refreshRange)
-        rows.addRated(u"variableRefresh"_s, Text::tr("Variable refresh rate"), refreshText(display, formats),
-                      isVariable(display));
+        items += judged(
+            key + u".variableRefresh"_s,
+            place.label(Text::tr("Variable refresh rate"), Text::tr("Variable refresh rate (display %1)")),
+            traitVerdict(display, refreshText(display, formats), isVariable(display)));
     if (display.hasExtendedRange)
-        rows.addRated(u"extendedRange"_s, Text::tr("Extended dynamic range"),
-                      extendedRangeText(display, formats), *display.hasExtendedRange);
+        items += judged(
+            key + u".extendedRange"_s,
+            place.label(Text::tr("Extended dynamic range"), Text::tr("Extended dynamic range (display %1)")),
+            traitVerdict(display, extendedRangeText(display, formats), *display.hasExtendedRange));
     if (display.hasWideColor)
-        rows.addRated(u"wideColor"_s, Text::tr("Wide color"), wideColorText(*display.hasWideColor, isMac),
-                      *display.hasWideColor);
+        items += judged(
+            key + u".wideColor"_s, place.label(Text::tr("Wide color"), Text::tr("Wide color (display %1)")),
+            traitVerdict(display, wideColorText(*display.hasWideColor, onMac), *display.hasWideColor));
+    return items;
+}
+
+QList<CapabilityItem> displayItems(const Display &display, const Numbered &place, bool onMac,
+                                   const language::Formats &formats)
+{
+    const auto key = u"display.%1"_s.arg(place.number);
+    QList<CapabilityItem> items = {
+        fact(key, place.label(Text::tr("Display"), Text::tr("Display %1")), nameText(display, formats))};
+    if (display.pixels)
+        items += fact(key + u".resolution"_s,
+                      place.label(Text::tr("Resolution"), Text::tr("Resolution (display %1)")),
+                      resolutionText(display, formats));
+    if (display.pixels && display.points)
+        items += fact(key + u".scaling"_s, place.label(Text::tr("Scaling"), Text::tr("Scaling (display %1)")),
+                      scalingText(display, formats));
+    items += traitItems(display, key, place, onMac, formats);
     if (display.diagonal())
-        rows.add(u"size"_s, Text::tr("Size"), screenText(display, formats));
+        items += fact(key + u".size"_s, place.label(Text::tr("Size"), Text::tr("Size (display %1)")),
+                      screenText(display, formats));
     if (display.connection)
-        rows.add(u"connection"_s, Text::tr("Connection"), *display.connection);
+        items += fact(key + u".connection"_s,
+                      place.label(Text::tr("Connection"), Text::tr("Connection (display %1)")),
+                      *display.connection);
+    return items;
 }
 
 /// A machine without a display is ordinary: a closed lid, a server, a session from afar.
-CapabilityItem countItem(const std::optional<std::vector<platform::DisplayReading>> &readings,
-                         const language::Formats &formats)
+QString countText(const std::optional<std::vector<platform::DisplayReading>> &readings,
+                  const language::Formats &formats)
 {
-    QString value = notReadable();
-    if (readings)
-        value = readings->empty() ? Text::tr("None") : formats.number(static_cast<double>(readings->size()));
-    return fact(u"displayCount"_s, Text::tr("Displays connected"), value);
+    if (!readings)
+        return notReadable();
+    return readings->empty() ? Text::tr("None")
+                             : wholeNumber(static_cast<std::int64_t>(readings->size()), formats);
 }
 
 } // namespace
@@ -180,15 +160,15 @@ CapabilitySection displaysSection(const platform::Machine &machine, const langua
 {
     // Core Graphics: CGGetOnlineDisplayList; Linux: the connectors in use in /sys/class/drm
     const auto readings = machine.displays().displays();
-    QList<CapabilityItem> items = {countItem(readings, formats)};
-    qsizetype number = 0;
+    QList<CapabilityItem> items = {
+        fact(u"displayCount"_s, Text::tr("Displays connected"), countText(readings, formats))};
+    const bool onMac = isMac(machine);
+    Numbered place{.isOnly = readings && readings->size() == 1};
     for (const auto &reading : readings.value_or(std::vector<platform::DisplayReading>())) {
-        if (++number > mostDisplays)
+        if (place.number > mostOfAKind)
             break;
-        const auto display = isMac(machine) ? macDisplay(reading) : linuxDisplay(reading);
-        DisplayRows rows(display, number, readings->size() > 1);
-        addRows(rows, display, isMac(machine), formats);
-        items += rows.take();
+        items += displayItems(onMac ? macDisplay(reading) : linuxDisplay(reading), place, onMac, formats);
+        ++place.number;
     }
     return {.title = Text::tr("Displays"),
             .symbol = u"display"_s,

@@ -35,11 +35,11 @@ QList<CapabilityItem> deviceItems(const std::vector<platform::GraphicsDevice> &d
                                   const language::Formats &formats)
 {
     QList<CapabilityItem> items;
+    Numbered place{.isOnly = devices.size() == 1};
     for (const auto &device : devices) {
-        const auto number = items.size() + 1;
-        items += fact(u"gpu.%1"_s.arg(number),
-                      devices.size() < 2 ? Text::tr("GPU") : Text::tr("GPU %1").arg(number),
+        items += fact(u"gpu.%1"_s.arg(place.number), place.label(Text::tr("GPU"), Text::tr("GPU %1")),
                       nameWithTags(device, formats));
+        ++place.number;
     }
     return items;
 }
@@ -49,10 +49,8 @@ CapabilityItem metal4Item(const platform::Machine &machine, const platform::Grap
 {
     if (machine.system().operatingSystem().major >= firstSystemWithMetal4)
         return capability(u"metal4"_s, u"Metal 4"_s, device.supportsFamily(metal4Family));
-    return {.label = u"Metal 4"_s,
-            .value = Text::tr("Requires macOS 26"),
-            .status = CapabilityStatus::Unsupported,
-            .key = u"metal4"_s};
+    return judged(u"metal4"_s, u"Metal 4"_s,
+                  Verdict{Text::tr("Requires macOS 26"), CapabilityStatus::Unsupported});
 }
 
 /// What the default device answers.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "inspection/helperAnswers.h"
+#include "inspection/helperVerdicts.h"
 
 #include "inspection/Text.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "inspection/securityRows.h"
+#include "inspection/rows.h"
 #include "platform/Command.h"
 
 #include <optional>

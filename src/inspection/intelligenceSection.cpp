@@ -4,6 +4,7 @@
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
 #include "inspection/rows.h"
+#include "inspection/values.h"
 
 #include <algorithm>
 
@@ -18,61 +19,50 @@ using platform::ComputeDevice;
 constexpr std::int32_t firstSystemWithLanguageModel = 26;
 constexpr std::int32_t firstSystemWithComputeDevices = 14;
 
-struct Verdict
-{
-    QString value;
-    CapabilityStatus status = CapabilityStatus::Info;
-};
-
-CapabilityItem rowOf(const QString &key, const QString &label, const Verdict &verdict)
-{
-    return {.label = label, .value = verdict.value, .status = verdict.status, .key = key};
-}
-
 /// The kernel of an Intel Mac has no such value, so that its lack means something only if the kernel answers.
 bool knowsWhetherAppleSilicon(const platform::Machine &machine)
 {
     return sysctlInt(machine, "hw.optional.arm64") || sysctlString(machine, "machdep.cpu.brand_string");
 }
 
-Verdict languageModelVerdict(std::optional<std::int32_t> state)
+std::optional<Verdict> languageModelVerdict(std::optional<std::int32_t> state)
 {
     switch (state.value_or(-1)) {
     case 0:
-        return {Text::tr("Available"), CapabilityStatus::Supported};
+        return Verdict{Text::tr("Available"), CapabilityStatus::Supported};
     case 1:
-        return {Text::tr("Not supported"), CapabilityStatus::Unsupported};
+        return Verdict{Text::tr("Not supported"), CapabilityStatus::Unsupported};
     case 2:
-        return {Text::tr("Turned off in System Settings"), CapabilityStatus::Warning};
+        return Verdict{Text::tr("Turned off in System Settings"), CapabilityStatus::Warning};
     case 3:
-        return {Text::tr("Not ready (downloading, or not offered for this language or region)"),
-                CapabilityStatus::Warning};
+        return Verdict{Text::tr("Not ready (downloading, or not offered for this language or region)"),
+                       CapabilityStatus::Warning};
     case 5:
-        return {Text::tr("Requires macOS 26"), CapabilityStatus::Unsupported};
+        return Verdict{Text::tr("Requires macOS 26"), CapabilityStatus::Unsupported};
     default:
-        return {notReadable()};
+        return std::nullopt;
     }
 }
 
 /// The chip comes before the version: an Intel Mac must not be told that an update would help.
-Verdict appleIntelligenceVerdict(const platform::Machine &machine)
+std::optional<Verdict> appleIntelligenceVerdict(const platform::Machine &machine)
 {
     if (!isAppleSilicon(machine))
         return knowsWhetherAppleSilicon(machine)
-                   ? Verdict{Text::tr("Not supported"), CapabilityStatus::Unsupported}
-                   : Verdict{notReadable()};
+                   ? std::optional(Verdict{Text::tr("Not supported"), CapabilityStatus::Unsupported})
+                   : std::nullopt;
     if (machine.system().operatingSystem().major < firstSystemWithLanguageModel)
-        return {Text::tr("Requires macOS 26"), CapabilityStatus::Unsupported};
+        return Verdict{Text::tr("Requires macOS 26"), CapabilityStatus::Unsupported};
     // FoundationModels: SystemLanguageModel.default.availability
     return languageModelVerdict(machine.intelligence().languageModelState());
 }
 
-Verdict coreMLVerdict(const platform::Machine &machine,
-                      const std::optional<std::vector<ComputeDevice>> &devices,
-                      const language::Formats &formats)
+std::optional<Verdict> coreMLVerdict(const platform::Machine &machine,
+                                     const std::optional<std::vector<ComputeDevice>> &devices,
+                                     const language::Formats &formats)
 {
     if (!devices || devices->empty())
-        return {notReadable()};
+        return std::nullopt;
     const auto has = [&devices](ComputeDevice::Kind kind) {
         return std::ranges::find(*devices, kind, &ComputeDevice::kind) != devices->end();
     };
@@ -82,12 +72,12 @@ Verdict coreMLVerdict(const platform::Machine &machine,
     if (has(ComputeDevice::Kind::NeuralEngine))
         kinds += Text::tr("Neural Engine");
     if (!kinds.isEmpty())
-        return {formats.list(kinds), CapabilityStatus::Supported};
+        return Verdict{formats.list(kinds), CapabilityStatus::Supported};
     // A kind of device that is not known yet may well be faster than the processor.
     if (has(ComputeDevice::Kind::Other))
-        return {notReadable()};
-    const bool isGuest = sysctlFlag(machine, "kern.hv_vmm_present");
-    return {Text::tr("CPU only"), isGuest ? CapabilityStatus::Info : CapabilityStatus::Warning};
+        return std::nullopt;
+    const bool isGuest = isVirtualMachine(machine);
+    return Verdict{Text::tr("CPU only"), isGuest ? CapabilityStatus::Info : CapabilityStatus::Warning};
 }
 
 QList<CapabilityItem> coreMLItems(const platform::Machine &machine, const language::Formats &formats)
@@ -97,14 +87,14 @@ QList<CapabilityItem> coreMLItems(const platform::Machine &machine, const langua
     // Core ML: the classes of MLAllComputeDevices
     const auto devices = machine.intelligence().computeDevices();
     QList<CapabilityItem> items = {
-        rowOf(u"coreML"_s, Text::tr("Core ML acceleration"), coreMLVerdict(machine, devices, formats))};
+        judged(u"coreML"_s, Text::tr("Core ML acceleration"), coreMLVerdict(machine, devices, formats))};
     for (const auto &device : devices.value_or(std::vector<ComputeDevice>())) {
         if (device.kind != ComputeDevice::Kind::NeuralEngine)
             continue;
         // Core ML: MLNeuralEngineComputeDevice.totalCoreCount
         const auto cores = device.totalCoreCount.value_or(0);
         items += fact(u"neuralEngineCores"_s, Text::tr("Neural Engine cores"),
-                      cores >= 1 ? formats.number(static_cast<double>(cores)) : notReadable());
+                      cores >= 1 ? wholeNumber(cores, formats) : notReadable());
         break;
     }
     return items;
@@ -116,7 +106,7 @@ QList<CapabilityItem> gpuCoreItems(const platform::Machine &machine, const langu
     for (const auto &service : machine.registry().services("AGXAccelerator")) {
         const auto cores = platform::get<std::int64_t>(service, "gpu-core-count").value_or(0);
         if (cores >= 1)
-            return {fact(u"gpuCores"_s, Text::tr("GPU cores"), formats.number(static_cast<double>(cores)))};
+            return {fact(u"gpuCores"_s, Text::tr("GPU cores"), wholeNumber(cores, formats))};
     }
     return {};
 }
@@ -125,12 +115,11 @@ QList<CapabilityItem> matrixItems(const platform::Machine &machine)
 {
     if (instructionSet(machine) != platform::InstructionSet::Arm64)
         return {};
-    const auto label = Text::tr("Int8 matrix instructions");
     // Kernel: hw.optional.arm.FEAT_I8MM; a Mac's kernel leaves out flags of features that it does not know.
     const auto flag = sysctlInt(machine, "hw.optional.arm.FEAT_I8MM");
-    if (!flag && !isMac(machine))
-        return {fact(u"i8mm"_s, label, notReadable())};
-    return {capability(u"i8mm"_s, label, flag == 1)};
+    const bool isTold = flag || isMac(machine);
+    return {capability(u"i8mm"_s, Text::tr("Int8 matrix instructions"),
+                       isTold ? std::optional(flag == 1) : std::nullopt)};
 }
 
 QString listOfDrivers(QStringList drivers, const language::Formats &formats)
@@ -139,42 +128,43 @@ QString listOfDrivers(QStringList drivers, const language::Formats &formats)
     return formats.list(drivers);
 }
 
-Verdict neuralProcessorVerdict(const platform::Machine &machine, const language::Formats &formats)
+std::optional<Verdict> neuralProcessorVerdict(const platform::Machine &machine,
+                                              const language::Formats &formats)
 {
     // Linux: the accelerators of /sys/class/accel and of the PCI bus, by their drivers
     const auto accelerators = machine.intelligence().accelerators();
     if (!accelerators)
-        return {notReadable()};
+        return std::nullopt;
     QStringList drivers;
     for (const auto &accelerator : *accelerators) {
         if (accelerator.driver)
             drivers += QString::fromStdString(*accelerator.driver);
     }
     if (!drivers.isEmpty())
-        return {listOfDrivers(drivers, formats), CapabilityStatus::Supported};
+        return Verdict{listOfDrivers(drivers, formats), CapabilityStatus::Supported};
     if (!accelerators->empty())
-        return {Text::tr("Found, no driver"), CapabilityStatus::Warning};
-    return {Text::tr("None")};
+        return Verdict{Text::tr("Found, no driver"), CapabilityStatus::Warning};
+    return Verdict{Text::tr("None")};
 }
 
-Verdict gpuComputeVerdict(const platform::Machine &machine, const language::Formats &formats)
+std::optional<Verdict> gpuComputeVerdict(const platform::Machine &machine, const language::Formats &formats)
 {
     // Linux: the drivers of /sys/class/drm/renderD*, and whether this user may open the nodes
     const auto nodes = machine.intelligence().renderNodes();
     if (!nodes)
-        return {notReadable()};
+        return std::nullopt;
     if (nodes->empty())
-        return {Text::tr("None")};
+        return Verdict{Text::tr("None")};
     if (std::ranges::none_of(*nodes, &platform::RenderNode::accessible))
-        return {Text::tr("No permission"), CapabilityStatus::Warning};
+        return Verdict{Text::tr("No permission"), CapabilityStatus::Warning};
     QStringList drivers;
     for (const auto &node : *nodes) {
         if (node.accessible && node.driver)
             drivers += QString::fromStdString(*node.driver);
     }
     if (drivers.isEmpty())
-        return {notReadable()};
-    return {listOfDrivers(drivers, formats), CapabilityStatus::Supported};
+        return std::nullopt;
+    return Verdict{listOfDrivers(drivers, formats), CapabilityStatus::Supported};
 }
 
 } // namespace
@@ -183,14 +173,14 @@ CapabilitySection intelligenceSection(const platform::Machine &machine, const la
 {
     QList<CapabilityItem> items;
     if (isMac(machine)) {
-        items += rowOf(u"appleIntelligence"_s, u"Apple Intelligence"_s, appleIntelligenceVerdict(machine));
+        items += judged(u"appleIntelligence"_s, u"Apple Intelligence"_s, appleIntelligenceVerdict(machine));
         items += coreMLItems(machine, formats);
         items += gpuCoreItems(machine, formats);
         items += matrixItems(machine);
     } else {
         items += matrixItems(machine);
-        items += rowOf(u"npu"_s, Text::tr("Neural processor"), neuralProcessorVerdict(machine, formats));
-        items += rowOf(u"gpuCompute"_s, Text::tr("GPU computing"), gpuComputeVerdict(machine, formats));
+        items += judged(u"npu"_s, Text::tr("Neural processor"), neuralProcessorVerdict(machine, formats));
+        items += judged(u"gpuCompute"_s, Text::tr("GPU computing"), gpuComputeVerdict(machine, formats));
     }
     return {.title = Text::tr("Artificial Intelligence"),
             .symbol = u"sparkles"_s,

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
-#include "inspection/securityRows.h"
+#include "inspection/rows.h"
+#include "inspection/securityItems.h"
 
 #include <algorithm>
 #include <string_view>
@@ -39,7 +39,7 @@ Verdict diskEncryptionVerdict(const SecurityState &state)
     return {Text::tr("Off"), CapabilityStatus::Warning};
 }
 
-std::optional<Verdict> tpmVerdict(const platform::Machine &machine, const SecurityState &state)
+std::optional<Verdict> tpmVerdict(const SecurityState &state, bool isGuest)
 {
     if (state.tpmVersionMajor == 2)
         return Verdict{u"TPM 2.0"_s, CapabilityStatus::Supported};
@@ -47,9 +47,7 @@ std::optional<Verdict> tpmVerdict(const platform::Machine &machine, const Securi
         return Verdict{u"TPM 1.2"_s, CapabilityStatus::Supported};
     if (state.tpmVersionMajor || !state.tpmIsKnown)
         return std::nullopt;
-    if (isVirtualMachine(machine))
-        return virtualMachineVerdict();
-    return Verdict{Text::tr("Not available"), CapabilityStatus::Unsupported};
+    return isGuest ? Verdict{Text::tr("Virtual machine")} : availability(false);
 }
 
 bool lists(std::string_view modules, std::string_view wanted)
@@ -73,7 +71,7 @@ std::optional<Verdict> accessControlVerdict(std::string_view modules, std::optio
     }
     if (lists(modules, "apparmor"))
         return Verdict{u"AppArmor"_s, CapabilityStatus::Supported};
-    return Verdict{Text::tr("None"), CapabilityStatus::Info};
+    return Verdict{Text::tr("None")};
 }
 
 Verdict vulnerabilitiesVerdict(const std::vector<std::string> &texts)
@@ -87,31 +85,32 @@ Verdict vulnerabilitiesVerdict(const std::vector<std::string> &texts)
 
 } // namespace
 
-QList<CapabilityItem> linuxSecurityItems(const platform::Machine &machine)
+QList<CapabilityItem> linuxSecurityItems(const platform::Machine &machine, bool isGuest)
 {
     const auto state = machine.security().read();
     QList<CapabilityItem> items;
     // /sys/firmware/efi/efivars/SecureBoot-…
     if (state.hasEfi)
-        items += verdictItem(u"secureBoot"_s, Text::tr("Secure boot"), secureBootVerdict(state));
-    items += virtualMachineItems(machine);
+        items += judged(u"secureBoot"_s, Text::tr("Secure boot"), secureBootVerdict(state));
+    if (isGuest)
+        items += fact(u"virtualMachine"_s, Text::tr("Virtual machine"), yesOrNo(true));
     // /proc/self/mountinfo, then /sys/class/block/*/dm/uuid downwards
     if (state.rootIsBlockDevice)
-        items += verdictItem(u"diskEncryption"_s, Text::tr("Disk encryption"), diskEncryptionVerdict(state));
+        items += judged(u"diskEncryption"_s, Text::tr("Disk encryption"), diskEncryptionVerdict(state));
     // /sys/class/tpm
     if (machine.system().instructionSet() == platform::InstructionSet::X86_64)
-        items += verdictItem(u"tpm"_s, u"TPM"_s, tpmVerdict(machine, state));
+        items += judged(u"tpm"_s, u"TPM"_s, tpmVerdict(state, isGuest));
     // /sys/kernel/security/lsm, /sys/fs/selinux/enforce
     if (state.lsm)
-        items += verdictItem(u"accessControl"_s, Text::tr("Access control"),
-                             accessControlVerdict(*state.lsm, state.selinuxEnforcing));
+        items += judged(u"accessControl"_s, Text::tr("Access control"),
+                        accessControlVerdict(*state.lsm, state.selinuxEnforcing));
     // /sys/devices/system/cpu/vulnerabilities
     if (state.cpuVulnerabilities)
-        items += verdictItem(u"cpuVulnerabilities"_s, Text::tr("Processor vulnerabilities"),
-                             vulnerabilitiesVerdict(*state.cpuVulnerabilities));
+        items += judged(u"cpuVulnerabilities"_s, Text::tr("Processor vulnerabilities"),
+                        vulnerabilitiesVerdict(*state.cpuVulnerabilities));
     // A sandbox hides it all.
     if (items.isEmpty())
-        items += verdictItem(u"diskEncryption"_s, Text::tr("Disk encryption"), std::nullopt);
+        items += judged(u"diskEncryption"_s, Text::tr("Disk encryption"), std::nullopt);
     return items;
 }
 

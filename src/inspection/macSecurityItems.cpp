@@ -3,8 +3,9 @@
 
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
-#include "inspection/helperAnswers.h"
-#include "inspection/securityRows.h"
+#include "inspection/helperVerdicts.h"
+#include "inspection/rows.h"
+#include "inspection/securityItems.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -61,7 +62,7 @@ QList<CapabilityItem> sealedSystemItems(const platform::Machine &machine)
     for (const auto &volume : machine.registry().services("AppleAPFSVolume")) {
         const auto *sealed = property(volume, "Sealed");
         if (sealed && hasSystemRole(volume))
-            return {verdictItem(u"sealedSystem"_s, Text::tr("Sealed system volume"), sealVerdict(*sealed))};
+            return {judged(u"sealedSystem"_s, Text::tr("Sealed system volume"), sealVerdict(*sealed))};
     }
     return {};
 }
@@ -89,7 +90,7 @@ QList<CapabilityItem> secureBootItems(const platform::Machine &machine)
     for (const auto &options : machine.registry().services("IODeviceTree:/options")) {
         if (const auto *policy = platform::find<platform::Bytes>(
                 options, "94b73556-2197-4702-82a8-3e1337dafbfb:AppleSecureBootPolicy"))
-            return {verdictItem(u"secureBoot"_s, Text::tr("Secure boot"), secureBootVerdict(*policy))};
+            return {judged(u"secureBoot"_s, Text::tr("Secure boot"), secureBootVerdict(*policy))};
     }
     return {};
 }
@@ -119,21 +120,14 @@ std::optional<bool> coprocessorHasEnclave(const platform::Registry &registry)
     return version ? std::optional(*version >= firstWithEnclave) : std::nullopt;
 }
 
-std::optional<Verdict> secureEnclaveVerdict(const platform::Machine &machine)
+std::optional<Verdict> secureEnclaveVerdict(const platform::Registry &registry, bool isAppleSilicon)
 {
-    if (isVirtualMachine(machine))
-        return virtualMachineVerdict();
-    const auto &registry = machine.registry();
     if (!registry.isReadable())
         return std::nullopt;
     // AppleSEPManager
-    const auto hasEnclave = DeviceProbe::isAppleSilicon(machine)
-                                ? std::optional(!registry.services("AppleSEPManager").empty())
-                                : coprocessorHasEnclave(registry);
-    if (!hasEnclave)
-        return std::nullopt;
-    return *hasEnclave ? Verdict{Text::tr("Available"), CapabilityStatus::Supported}
-                       : Verdict{Text::tr("Not available"), CapabilityStatus::Unsupported};
+    const auto hasEnclave = isAppleSilicon ? std::optional(!registry.services("AppleSEPManager").empty())
+                                           : coprocessorHasEnclave(registry);
+    return hasEnclave ? std::optional(availability(*hasEnclave)) : std::nullopt;
 }
 
 std::optional<Verdict> touchIdVerdict(const platform::Biometry &biometry, bool hasBattery)
@@ -149,13 +143,11 @@ std::optional<Verdict> touchIdVerdict(const platform::Biometry &biometry, bool h
     if (!isTouchId && biometry.biometryType != 0)
         return std::nullopt;
     if (biometry.canEvaluate)
-        return isTouchId ? std::optional(Verdict{Text::tr("Available"), CapabilityStatus::Supported})
-                         : std::nullopt;
+        return isTouchId ? std::optional(availability(true)) : std::nullopt;
     if (biometry.error == notPaired || biometry.error == disconnected)
-        return Verdict{Text::tr("Not connected"), CapabilityStatus::Info};
+        return Verdict{Text::tr("Not connected")};
     if (!isTouchId)
-        return hasBattery ? Verdict{Text::tr("Not available"), CapabilityStatus::Unsupported}
-                          : Verdict{Text::tr("None (desktop)"), CapabilityStatus::Info};
+        return hasBattery ? availability(false) : Verdict{Text::tr("None (desktop)")};
     if (biometry.error == notEnrolled || biometry.error == passcodeNotSet)
         return Verdict{Text::tr("Available, not set up"), CapabilityStatus::Supported};
     if (biometry.error == lockedOut)
@@ -163,55 +155,46 @@ std::optional<Verdict> touchIdVerdict(const platform::Biometry &biometry, bool h
     return std::nullopt;
 }
 
-CapabilityItem touchIdItem(const platform::Machine &machine,
-                           const std::optional<platform::Biometry> &biometry)
+std::optional<Verdict> touchIdVerdict(const platform::Machine &machine,
+                                      const std::optional<platform::Biometry> &biometry)
 {
-    std::optional<Verdict> verdict;
-    if (isVirtualMachine(machine))
-        verdict = virtualMachineVerdict();
-    else if (biometry)
-        verdict = touchIdVerdict(*biometry, DeviceProbe::batteryInfo(machine).has_value());
-    return verdictItem(u"touchID"_s, u"Touch ID"_s, verdict);
-}
-
-CapabilityItem lockdownModeItem(const std::optional<bool> &isOn)
-{
-    return fact(u"lockdownMode"_s, Text::tr("Lockdown Mode"),
-                !isOn   ? notReadable()
-                : *isOn ? Text::tr("On")
-                        : Text::tr("Off"));
+    return biometry ? touchIdVerdict(*biometry, DeviceProbe::hasBattery(machine)) : std::nullopt;
 }
 
 } // namespace
 
-QList<CapabilityItem> macSecurityItems(const platform::Machine &machine)
+QList<CapabilityItem> macSecurityItems(const platform::Machine &machine, bool isGuest)
 {
     const auto state = machine.security().read();
+    const bool isAppleSilicon = DeviceProbe::isAppleSilicon(machine);
     // The disk of a virtual machine is a file of its host's.
-    const bool isDiskEncrypted = DeviceProbe::isAppleSilicon(machine) && !isVirtualMachine(machine);
+    const bool isDiskEncrypted = isAppleSilicon && !isGuest;
+    const Verdict ofGuest{Text::tr("Virtual machine")};
     QList<CapabilityItem> items = {
         // fdesetup status
-        verdictItem(u"fileVault"_s, u"FileVault"_s, fileVaultVerdict(state.fdesetup, isDiskEncrypted)),
+        judged(u"fileVault"_s, u"FileVault"_s, fileVaultVerdict(state.fdesetup, isDiskEncrypted)),
         // csrutil status
-        verdictItem(u"systemIntegrityProtection"_s, Text::tr("System Integrity Protection"),
-                    integrityProtectionVerdict(state.csrutil)),
+        judged(u"systemIntegrityProtection"_s, Text::tr("System Integrity Protection"),
+               integrityProtectionVerdict(state.csrutil)),
     };
     items += sealedSystemItems(machine);
     // spctl --status
-    items += verdictItem(u"gatekeeper"_s, u"Gatekeeper"_s, gatekeeperVerdict(state.spctl));
+    items += judged(u"gatekeeper"_s, u"Gatekeeper"_s, gatekeeperVerdict(state.spctl));
     // socketfilterfw --getglobalstate
-    items += verdictItem(u"firewall"_s, Text::tr("Firewall"), firewallVerdict(state.socketfilterfw));
+    items += judged(u"firewall"_s, Text::tr("Firewall"), firewallVerdict(state.socketfilterfw));
     items += secureBootItems(machine);
-    items += verdictItem(u"secureEnclave"_s, Text::tr("Secure Enclave"), secureEnclaveVerdict(machine));
+    items += judged(u"secureEnclave"_s, Text::tr("Secure Enclave"),
+                    isGuest ? ofGuest : secureEnclaveVerdict(machine.registry(), isAppleSilicon));
     // LAContext canEvaluatePolicy:, then biometryType
-    items += touchIdItem(machine, state.biometry);
+    items += judged(u"touchID"_s, u"Touch ID"_s, isGuest ? ofGuest : touchIdVerdict(machine, state.biometry));
     // CFBundleShortVersionString of XProtect.bundle
     if (state.xprotectVersion && !state.xprotectVersion->empty())
         items += fact(u"xprotect"_s, u"XProtect"_s, QString::fromStdString(*state.xprotectVersion));
     // LDMGlobalEnabled
     if (machine.system().operatingSystem().major >= firstSystemWithLockdownMode)
-        items += lockdownModeItem(state.lockdownMode);
-    items += virtualMachineItems(machine);
+        items += fact(u"lockdownMode"_s, Text::tr("Lockdown Mode"), onOrOff(state.lockdownMode));
+    if (isGuest)
+        items += fact(u"virtualMachine"_s, Text::tr("Virtual machine"), yesOrNo(true));
     return items;
 }
 

@@ -21,65 +21,52 @@ using Decoders = std::optional<std::vector<platform::VideoDecoder>>;
 using Encoders = std::optional<std::vector<platform::VideoEncoder>>;
 using Codes = std::span<const std::string_view>;
 
-CapabilityItem hardwareItem(const QString &key, const QString &label, bool isInHardware)
+Verdict hardwareVerdict(bool isInHardware)
 {
-    return {.label = label,
-            .value = isInHardware ? Text::tr("Hardware") : Text::tr("Not in hardware"),
-            .status = isInHardware ? CapabilityStatus::Supported : CapabilityStatus::Unsupported,
-            .key = key};
+    if (isInHardware)
+        return {Text::tr("Hardware"), CapabilityStatus::Supported};
+    return {Text::tr("Not in hardware"), CapabilityStatus::Unsupported};
 }
 
-CapabilityItem decodingItem(const QString &key, const QString &label, const Decoders &decoders,
-                            std::string_view code)
+std::optional<Verdict> decodingVerdict(const Decoders &decoders, std::string_view code)
 {
     if (!decoders)
-        return fact(key, label, notReadable());
-    return hardwareItem(key, label, std::ranges::any_of(*decoders, [&](const auto &decoder) {
-                            return decoder.codecType == fourCC(code) && decoder.isHardwareSupported;
-                        }));
+        return std::nullopt;
+    return hardwareVerdict(std::ranges::any_of(*decoders, [&](const auto &decoder) {
+        return decoder.codecType == fourCC(code) && decoder.isHardwareSupported;
+    }));
 }
 
 /// Of several codecs the best counts, and of several encoders of one.
-CapabilityItem encodingItem(const QString &key, const QString &label, const Encoders &encoders, Codes codes)
+std::optional<Verdict> encodingVerdict(const Encoders &encoders, Codes codes)
 {
     if (!encoders)
-        return fact(key, label, notReadable());
+        return std::nullopt;
     const auto inHardware = hardwareEncoders(*encoders);
     const auto isHardware = [&](std::string_view code) { return inHardware.contains(fourCC(code)); };
     const auto isListed = [&](std::string_view code) {
         return std::ranges::find(*encoders, fourCC(code), &platform::VideoEncoder::codecType) !=
                encoders->end();
     };
-    CapabilityItem item{.label = label, .key = key};
-    if (std::ranges::any_of(codes, isHardware)) {
-        item.value = Text::tr("Hardware");
-        item.status = CapabilityStatus::Supported;
-    } else if (std::ranges::any_of(codes, isListed)) {
-        item.value = Text::tr("Software only");
-        item.status = CapabilityStatus::Warning;
-    } else {
-        item.value = Text::tr("Not supported");
-        item.status = CapabilityStatus::Unsupported;
-    }
-    return item;
+    if (std::ranges::any_of(codes, isHardware))
+        return Verdict{Text::tr("Hardware"), CapabilityStatus::Supported};
+    if (std::ranges::any_of(codes, isListed))
+        return Verdict{Text::tr("Software only"), CapabilityStatus::Warning};
+    return Verdict{Text::tr("Not supported"), CapabilityStatus::Unsupported};
 }
 
-CapabilityItem imageItem(const QString &key, const QString &label,
-                         const std::optional<platform::ImageTypes> &types, const std::string &identifier)
+std::optional<Verdict> imageVerdict(const std::optional<platform::ImageTypes> &types,
+                                    const std::string &identifier)
 {
     if (!types)
-        return fact(key, label, notReadable());
+        return std::nullopt;
     const auto isAmong = [&](const std::vector<std::string> &list) {
         return std::ranges::find(list, identifier) != list.end();
     };
-    CapabilityItem item{.label = label, .status = CapabilityStatus::Supported, .key = key};
-    if (!isAmong(types->readable)) {
-        item.value = Text::tr("Not supported");
-        item.status = CapabilityStatus::Unsupported;
-    } else {
-        item.value = isAmong(types->writable) ? Text::tr("Read and write") : Text::tr("Read only");
-    }
-    return item;
+    if (!isAmong(types->readable))
+        return Verdict{Text::tr("Not supported"), CapabilityStatus::Unsupported};
+    return Verdict{isAmong(types->writable) ? Text::tr("Read and write") : Text::tr("Read only"),
+                   CapabilityStatus::Supported};
 }
 
 QList<CapabilityItem> macItems(const platform::Media &media)
@@ -97,28 +84,28 @@ QList<CapabilityItem> macItems(const platform::Media &media)
     // CGImageSourceCopyTypeIdentifiers, CGImageDestinationCopyTypeIdentifiers
     const auto images = media.imageTypes();
     return {
-        decodingItem(u"h264Decoding"_s, Text::tr("H.264 decoding"), decoders, "avc1"),
-        decodingItem(u"hevcDecoding"_s, Text::tr("HEVC decoding"), decoders, "hvc1"),
-        decodingItem(u"vp9Decoding"_s, Text::tr("VP9 decoding"), decoders, "vp09"),
-        decodingItem(u"av1Decoding"_s, Text::tr("AV1 decoding"), decoders, "av01"),
-        decodingItem(u"proResDecoding"_s, Text::tr("ProRes decoding"), decoders, "apcn"),
-        encodingItem(u"h264Encoding"_s, Text::tr("H.264 encoding"), encoders, h264),
-        encodingItem(u"hevcEncoding"_s, Text::tr("HEVC encoding"), encoders, hevc),
-        encodingItem(u"proResEncoding"_s, Text::tr("ProRes encoding"), encoders, proRes),
-        encodingItem(u"av1Encoding"_s, Text::tr("AV1 encoding"), encoders, av1),
-        imageItem(u"heicImages"_s, Text::tr("HEIC images"), images, "public.heic"),
-        imageItem(u"avifImages"_s, Text::tr("AVIF images"), images, "public.avif"),
+        judged(u"h264Decoding"_s, Text::tr("H.264 decoding"), decodingVerdict(decoders, "avc1")),
+        judged(u"hevcDecoding"_s, Text::tr("HEVC decoding"), decodingVerdict(decoders, "hvc1")),
+        judged(u"vp9Decoding"_s, Text::tr("VP9 decoding"), decodingVerdict(decoders, "vp09")),
+        judged(u"av1Decoding"_s, Text::tr("AV1 decoding"), decodingVerdict(decoders, "av01")),
+        judged(u"proResDecoding"_s, Text::tr("ProRes decoding"), decodingVerdict(decoders, "apcn")),
+        judged(u"h264Encoding"_s, Text::tr("H.264 encoding"), encodingVerdict(encoders, h264)),
+        judged(u"hevcEncoding"_s, Text::tr("HEVC encoding"), encodingVerdict(encoders, hevc)),
+        judged(u"proResEncoding"_s, Text::tr("ProRes encoding"), encodingVerdict(encoders, proRes)),
+        judged(u"av1Encoding"_s, Text::tr("AV1 encoding"), encodingVerdict(encoders, av1)),
+        judged(u"heicImages"_s, Text::tr("HEIC images"), imageVerdict(images, "public.heic")),
+        judged(u"avifImages"_s, Text::tr("AVIF images"), imageVerdict(images, "public.avif")),
     };
 }
 
 QList<CapabilityItem> codecItems(const VideoAcceleration &acceleration)
 {
     const auto decoding = [&](const QString &key, const QString &label, QStringView profile) {
-        return hardwareItem(key, label, acceleration.has(profile, u"VAEntrypointVLD"));
+        return judged(key, label, hardwareVerdict(acceleration.has(profile, u"VAEntrypointVLD")));
     };
     // "VAEntrypointEncSlice" and, in a leaner kind of hardware, "VAEntrypointEncSliceLP"
     const auto encoding = [&](const QString &key, const QString &label, QStringView profile) {
-        return hardwareItem(key, label, acceleration.has(profile, u"VAEntrypointEncSlice"));
+        return judged(key, label, hardwareVerdict(acceleration.has(profile, u"VAEntrypointEncSlice")));
     };
     return {
         decoding(u"h264Decoding"_s, Text::tr("H.264 decoding"), u"VAProfileH264Main"),

@@ -3,8 +3,9 @@
 
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
-#include "inspection/networkRows.h"
 #include "inspection/rows.h"
+#include "inspection/values.h"
+#include "inspection/wifiItems.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -17,8 +18,6 @@ namespace {
 
 using platform::InterfaceType;
 using platform::NetworkPath;
-
-constexpr qsizetype mostOfAKind = 16;
 
 /// What the path goes over first; a tunnel counts only where nothing else is known.
 QString connectionName(const NetworkPath &path)
@@ -33,41 +32,39 @@ QString connectionName(const NetworkPath &path)
     return uses(InterfaceType::Cellular) ? Text::tr("Cellular") : Text::tr("Other");
 }
 
-CapabilityItem connectionItem(const std::optional<NetworkPath> &path)
+std::optional<Verdict> connectionVerdict(const std::optional<NetworkPath> &path)
 {
-    const auto label = Text::tr("Connection");
     if (!path || path->status == NetworkPath::Status::Invalid)
-        return volatileItem(u"connection"_s, label, notReadable());
+        return std::nullopt;
     if (path->status != NetworkPath::Status::Satisfied)
-        return volatileItem(u"connection"_s, label, Text::tr("Not connected"), CapabilityStatus::Warning);
-    return volatileItem(u"connection"_s, label, connectionName(*path), CapabilityStatus::Supported);
+        return Verdict{Text::tr("Not connected"), CapabilityStatus::Warning};
+    return Verdict{connectionName(*path), CapabilityStatus::Supported};
 }
 
-CapabilityItem protocolItem(const QString &key, const QString &name, bool isOffered)
+Verdict protocolVerdict(bool isOffered)
 {
-    if (isOffered)
-        return volatileItem(key, name, Text::tr("Available"), CapabilityStatus::Supported);
-    return volatileItem(key, name, Text::tr("Not offered by this network"));
+    return isOffered ? availability(true) : Verdict{Text::tr("Not offered by this network")};
+}
+
+Verdict dnsVerdict(bool isThere)
+{
+    return isThere ? availability(true) : Verdict{Text::tr("Not available"), CapabilityStatus::Warning};
 }
 
 /// What a path that leads somewhere says of itself; of any other it means nothing.
-QList<CapabilityItem> pathItems(const platform::Machine &machine, const NetworkPath &path)
+QList<CapabilityItem> pathItems(const NetworkPath &path, bool onMac)
 {
     QList<CapabilityItem> items;
-    if (isMac(machine)) {
+    if (onMac) {
         // nw_path_is_expensive
-        items += volatileItem(u"metered"_s, Text::tr("Metered connection"),
-                              path.isExpensive ? Text::tr("Yes") : Text::tr("No"));
+        items += passing(fact(u"metered"_s, Text::tr("Metered connection"), yesOrNo(path.isExpensive)));
         // nw_path_is_constrained
-        items += volatileItem(u"lowDataMode"_s, Text::tr("Low Data Mode"),
-                              path.isConstrained ? Text::tr("On") : Text::tr("Off"));
+        items += passing(fact(u"lowDataMode"_s, Text::tr("Low Data Mode"), onOrOff(path.isConstrained)));
     }
     // nw_path_has_ipv4, _ipv6 and _dns; Linux: default routes, /etc/resolv.conf
-    items += protocolItem(u"ipv4"_s, u"IPv4"_s, path.supportsIPv4);
-    items += protocolItem(u"ipv6"_s, u"IPv6"_s, path.supportsIPv6);
-    items += path.supportsDNS
-                 ? volatileItem(u"dns"_s, u"DNS"_s, Text::tr("Available"), CapabilityStatus::Supported)
-                 : volatileItem(u"dns"_s, u"DNS"_s, Text::tr("Not available"), CapabilityStatus::Warning);
+    items += passing(judged(u"ipv4"_s, u"IPv4"_s, protocolVerdict(path.supportsIPv4)));
+    items += passing(judged(u"ipv6"_s, u"IPv6"_s, protocolVerdict(path.supportsIPv6)));
+    items += passing(judged(u"dns"_s, u"DNS"_s, dnsVerdict(path.supportsDNS)));
     return items;
 }
 
@@ -79,11 +76,12 @@ QList<CapabilityItem> addressItems(const std::vector<platform::InterfaceEntry> &
         if (items.size() == mostOfAKind)
             break;
         // An address of this range is one that nobody gave.
-        const bool isSelfAssigned = address.startsWith(u"169.254."_s);
-        items +=
-            volatileItem(u"address.%1"_s.arg(items.size() + 1), Text::tr("Address (%1)").arg(interfaceName),
-                         isSelfAssigned ? Text::tr("%1 (self-assigned)").arg(address) : address,
-                         isSelfAssigned ? CapabilityStatus::Warning : CapabilityStatus::Info);
+        const auto verdict =
+            address.startsWith(u"169.254."_s)
+                ? Verdict{Text::tr("%1 (self-assigned)").arg(address), CapabilityStatus::Warning}
+                : Verdict{address};
+        items += passing(judged(u"address.%1"_s.arg(items.size() + 1),
+                                Text::tr("Address (%1)").arg(interfaceName), verdict));
     }
     return items;
 }
@@ -104,26 +102,24 @@ bool isTunnelAddress(const platform::InterfaceEntry &entry, bool onMac)
     return isNamed({"tun"sv, "wg"sv, "ppp"sv});
 }
 
-CapabilityItem vpnItem(const std::vector<platform::InterfaceEntry> &interfaces, bool onMac)
+QString vpnText(const std::vector<platform::InterfaceEntry> &interfaces, bool onMac)
 {
     // getifaddrs
     if (interfaces.empty())
-        return volatileItem(u"vpn"_s, u"VPN"_s, notReadable());
+        return notReadable();
     const bool isActive = std::ranges::any_of(
         interfaces, [onMac](const platform::InterfaceEntry &entry) { return isTunnelAddress(entry, onMac); });
-    return volatileItem(u"vpn"_s, u"VPN"_s, isActive ? Text::tr("Active") : Text::tr("None detected"));
+    return isActive ? Text::tr("Active") : Text::tr("None detected");
 }
 
-CapabilityItem ethernetItem(const platform::LinkReading &link, const QString &label,
-                            const language::Formats &formats)
+Verdict ethernetVerdict(const platform::LinkReading &link, const language::Formats &formats)
 {
-    const auto speed =
-        withUnit(formats.number(static_cast<double>(link.speed.value_or(0))), Text::tr("Mbit/s"));
+    const auto speed = Text::tr("%1\u00a0Mbit/s").arg(wholeNumber(link.speed.value_or(0), formats));
     if (link.duplex == "full")
-        return volatileItem({}, label, Text::tr("%1, full duplex").arg(speed));
+        return {Text::tr("%1, full duplex").arg(speed)};
     if (link.duplex == "half")
-        return volatileItem({}, label, Text::tr("%1, half duplex").arg(speed), CapabilityStatus::Warning);
-    return volatileItem({}, label, speed);
+        return {Text::tr("%1, half duplex").arg(speed), CapabilityStatus::Warning};
+    return {speed};
 }
 
 QList<CapabilityItem> ethernetItems(const platform::Machine &machine, const language::Formats &formats)
@@ -132,28 +128,26 @@ QList<CapabilityItem> ethernetItems(const platform::Machine &machine, const lang
     // /sys/class/net/IF/speed, duplex
     auto links = machine.network().ethernetLinks();
     std::erase_if(links, [](const platform::LinkReading &link) { return link.speed.value_or(0) <= 0; });
+    Numbered place{.isOnly = links.size() == 1};
     for (const auto &link : links) {
-        const auto number = items.size() + 1;
-        if (number > mostOfAKind)
+        if (place.number > mostOfAKind)
             break;
-        items += ethernetItem(
-            link, links.size() < 2 ? Text::tr("Ethernet speed") : Text::tr("Ethernet speed %1").arg(number),
-            formats);
-        items.last().key = u"ethernetSpeed.%1"_s.arg(number);
+        items += passing(judged(u"ethernetSpeed.%1"_s.arg(place.number),
+                                place.label(Text::tr("Ethernet speed"), Text::tr("Ethernet speed %1")),
+                                ethernetVerdict(link, formats)));
+        ++place.number;
     }
     return items;
 }
 
-CapabilityItem bluetoothItem(const platform::Machine &machine)
+std::optional<Verdict> bluetoothVerdict(const std::optional<platform::BluetoothReading> &bluetooth)
 {
-    CapabilityItem item = fact(u"bluetooth"_s, u"Bluetooth"_s, notReadable());
-    // /sys/class/bluetooth, /sys/class/rfkill
-    if (const auto bluetooth = machine.network().bluetooth()) {
-        const bool isOn = bluetooth->isPresent && !bluetooth->isBlocked;
-        item.value = isOn ? Text::tr("On") : bluetooth->isPresent ? Text::tr("Off") : Text::tr("None");
-        item.status = isOn ? CapabilityStatus::Supported : CapabilityStatus::Info;
-    }
-    return item;
+    if (!bluetooth)
+        return std::nullopt;
+    if (!bluetooth->isPresent)
+        return Verdict{Text::tr("None")};
+    return bluetooth->isBlocked ? Verdict{Text::tr("Off")}
+                                : Verdict{Text::tr("On"), CapabilityStatus::Supported};
 }
 
 } // namespace
@@ -161,17 +155,21 @@ CapabilityItem bluetoothItem(const platform::Machine &machine)
 CapabilitySection networkSection(const platform::Machine &machine, const language::Formats &formats,
                                  const std::optional<NetworkPath> &networkPath)
 {
+    const bool onMac = isMac(machine);
     // nw_path_monitor; Linux: the default routes
-    QList<CapabilityItem> items = {connectionItem(networkPath)};
+    QList<CapabilityItem> items = {
+        passing(judged(u"connection"_s, Text::tr("Connection"), connectionVerdict(networkPath)))};
     if (networkPath && networkPath->status == NetworkPath::Status::Satisfied)
-        items += pathItems(machine, *networkPath);
+        items += pathItems(*networkPath, onMac);
     const auto interfaces = machine.network().interfaces();
     items += addressItems(interfaces);
-    items += wifiItems(machine, formats);
-    items += vpnItem(interfaces, isMac(machine));
-    if (!isMac(machine)) {
+    // CWWiFiClient; Linux: /sys/class/net, /sys/class/rfkill
+    items += wifiItems(machine.network().wifi(), formats);
+    items += passing(fact(u"vpn"_s, u"VPN"_s, vpnText(interfaces, onMac)));
+    if (!onMac) {
         items += ethernetItems(machine, formats);
-        items += bluetoothItem(machine);
+        // /sys/class/bluetooth, /sys/class/rfkill
+        items += judged(u"bluetooth"_s, u"Bluetooth"_s, bluetoothVerdict(machine.network().bluetooth()));
     }
     return {
         .title = Text::tr("Network"), .symbol = u"network"_s, .items = std::move(items), .key = u"network"_s};

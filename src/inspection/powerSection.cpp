@@ -6,6 +6,7 @@
 #include "inspection/Text.h"
 #include "inspection/batteryItems.h"
 #include "inspection/rows.h"
+#include "inspection/values.h"
 
 #include <algorithm>
 
@@ -16,12 +17,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using battery::BatteryReading;
+using battery::Supplies;
 using platform::PowerSettings;
 
 enum class Source { Line, Battery, Ups };
 
-/// Linux: what the supplies tell of a machine that has no battery. Of the line a desktop says nothing.
-Source sourceOf(const battery::Supplies &supplies)
+/// What the supplies of Linux tell of a machine that has no battery. Of the line a desktop says nothing.
+Source sourceOf(const Supplies &supplies)
 {
     const auto anySupply = [&supplies](bool (*holds)(const platform::PropertyMap &)) {
         return std::ranges::any_of(supplies, [holds](const auto &supply) { return holds(supply.second); });
@@ -29,7 +31,8 @@ Source sourceOf(const battery::Supplies &supplies)
     return anySupply(battery::isDrainedUps) && !anySupply(battery::bringsPower) ? Source::Ups : Source::Line;
 }
 
-std::optional<Source> sourceOf(const platform::Machine &machine, const PowerSettings &settings,
+std::optional<Source> sourceOf(const PowerSettings &settings, bool onMac,
+                               const std::optional<Supplies> &supplies,
                                const std::optional<BatteryReading> &reading)
 {
     // IOPSGetProvidingPowerSourceType
@@ -39,12 +42,11 @@ std::optional<Source> sourceOf(const platform::Machine &machine, const PowerSett
         return Source::Battery;
     if (settings.providingSource == "UPS Power")
         return Source::Ups;
-    if (isMac(machine))
+    if (onMac)
         return std::nullopt;
     // Supplies of type Mains or USB with ONLINE 1, and STATUS
     if (reading)
         return reading->onAC ? std::optional(*reading->onAC ? Source::Line : Source::Battery) : std::nullopt;
-    const auto supplies = machine.power().powerSupplies();
     return supplies ? std::optional(sourceOf(*supplies)) : std::nullopt;
 }
 
@@ -63,22 +65,14 @@ QString sourceText(std::optional<Source> source, bool hasBattery)
     return notReadable();
 }
 
-/// Whether the system listed its power sources at all. An empty list of a Mac's is one of a desktop.
-bool areSourcesKnown(const platform::Machine &machine)
+/// `areSourcesKnown`: the system listed its power sources at all. A Mac always does: the list of a desktop is
+/// empty.
+std::optional<Verdict> batteryVerdict(bool hasBattery, bool areSourcesKnown)
 {
-    return isMac(machine) || machine.power().powerSupplies() || !machine.power().powerSources().empty();
-}
-
-CapabilityItem batteryItem(const platform::Machine &machine, bool hasBattery)
-{
-    const auto label = Text::tr("Battery");
     // The first power source of type "InternalBattery"; the first supply of type Battery
     if (hasBattery)
-        return {.label = label,
-                .value = Text::tr("Built in"),
-                .status = CapabilityStatus::Supported,
-                .key = u"battery"_s};
-    return fact(u"battery"_s, label, areSourcesKnown(machine) ? Text::tr("None (desktop)") : notReadable());
+        return Verdict{Text::tr("Built in"), CapabilityStatus::Supported};
+    return areSourcesKnown ? std::optional(Verdict{Text::tr("None (desktop)")}) : std::nullopt;
 }
 
 /// None where the system describes no adapter: on battery, only a family code is left of the description.
@@ -92,7 +86,7 @@ std::optional<QString> adapterText(const PowerSettings &settings, const language
         return QString::fromStdString(*name);
     const auto watts = platform::get<std::int64_t>(*settings.externalAdapter, "Watts");
     if (watts && *watts > 0)
-        return Text::tr("%1\u00a0W").arg(formats.number(static_cast<double>(*watts)));
+        return Text::tr("%1\u00a0W").arg(wholeNumber(*watts, formats));
     return std::nullopt;
 }
 
@@ -110,17 +104,17 @@ QString profileText(const std::string &word)
 }
 
 /// How the machine is set to use its power.
-QList<CapabilityItem> settingItems(const platform::Machine &machine, const PowerSettings &settings,
+QList<CapabilityItem> settingItems(const platform::Machine &machine, bool onMac,
+                                   const PowerSettings &settings,
                                    const std::optional<BatteryReading> &reading,
                                    const language::Formats &formats)
 {
     constexpr std::int32_t firstSystemWithLowPowerMode = 12;
     QList<CapabilityItem> items;
-    if (isMac(machine) && machine.system().operatingSystem().major >= firstSystemWithLowPowerMode) {
+    if (onMac && machine.system().operatingSystem().major >= firstSystemWithLowPowerMode) {
         // NSProcessInfo.lowPowerModeEnabled
-        const auto isOn = settings.lowPowerModeEnabled;
-        items += passingFact(u"lowPowerMode"_s, Text::tr("Low power mode"),
-                             !isOn ? notReadable() : (*isOn ? Text::tr("On") : Text::tr("Off")));
+        items += passing(
+            fact(u"lowPowerMode"_s, Text::tr("Low power mode"), onOrOff(settings.lowPowerModeEnabled)));
     }
     // charge_control_end_threshold
     if (reading && reading->chargeLimit) {
@@ -130,8 +124,8 @@ QList<CapabilityItem> settingItems(const platform::Machine &machine, const Power
     }
     // /sys/firmware/acpi/platform_profile
     if (settings.platformProfile)
-        items +=
-            passingFact(u"powerProfile"_s, Text::tr("Power profile"), profileText(*settings.platformProfile));
+        items += passing(
+            fact(u"powerProfile"_s, Text::tr("Power profile"), profileText(*settings.platformProfile)));
     return items;
 }
 
@@ -139,18 +133,21 @@ QList<CapabilityItem> settingItems(const platform::Machine &machine, const Power
 
 CapabilitySection powerSection(const platform::Machine &machine, const language::Formats &formats)
 {
+    const bool onMac = isMac(machine);
     const auto settings = machine.power().settings();
-    const auto reading = batteryReading(machine);
+    const auto supplies = machine.power().powerSupplies();
+    const auto reading = battery::readBattery(machine, supplies, isAppleSilicon(machine));
     QList<CapabilityItem> items = {
-        passingFact(u"powerSource"_s, Text::tr("Power source"),
-                    sourceText(sourceOf(machine, settings, reading), reading.has_value())),
-        batteryItem(machine, reading.has_value()),
+        passing(fact(u"powerSource"_s, Text::tr("Power source"),
+                     sourceText(sourceOf(settings, onMac, supplies, reading), reading.has_value()))),
+        judged(u"battery"_s, Text::tr("Battery"),
+               batteryVerdict(reading.has_value(), onMac || supplies.has_value())),
     };
     if (reading)
-        items += batteryItems(*reading, isMac(machine), formats);
+        items += batteryItems(*reading, onMac, formats);
     if (const auto adapter = adapterText(settings, formats))
-        items += passingFact(u"adapter"_s, Text::tr("Power adapter"), *adapter);
-    items += settingItems(machine, settings, reading, formats);
+        items += passing(fact(u"adapter"_s, Text::tr("Power adapter"), *adapter));
+    items += settingItems(machine, onMac, settings, reading, formats);
     return {.title = Text::tr("Power"), .symbol = u"bolt"_s, .items = std::move(items), .key = u"power"_s};
 }
 

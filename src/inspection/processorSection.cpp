@@ -45,15 +45,6 @@ QList<CapabilityItem> coreItems(const platform::Machine &machine)
     return items;
 }
 
-CapabilityItem neuralEngineItem(const platform::Machine &machine)
-{
-    const bool isAvailable = isAppleSilicon(machine);
-    return {.label = Text::tr("Neural Engine"),
-            .value = isAvailable ? Text::tr("Available") : Text::tr("Not available"),
-            .status = isAvailable ? CapabilityStatus::Supported : CapabilityStatus::Unsupported,
-            .key = u"neuralEngine"_s};
-}
-
 } // namespace
 
 CapabilitySection processorSection(const platform::Machine &machine, const language::Formats &formats)
@@ -66,7 +57,7 @@ CapabilitySection processorSection(const platform::Machine &machine, const langu
     }
     items += fact(u"memory"_s, Text::tr("Memory (RAM)"),
                   formats.byteCount(machine.system().physicalMemory(), language::ByteCountStyle::Memory));
-    items += neuralEngineItem(machine);
+    items += judged(u"neuralEngine"_s, Text::tr("Neural Engine"), availability(isAppleSilicon(machine)));
     items += instructionItems(machine);
     return {.title = Text::tr("Processor & Memory"),
             .symbol = u"cpu"_s,

@@ -3,40 +3,21 @@
 
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
-#include "inspection/securityRows.h"
+#include "inspection/securityItems.h"
 
-namespace quillmark::inspection {
+namespace quillmark::inspection::DeviceProbe {
 
 using namespace Qt::StringLiterals;
 
-bool isVirtualMachine(const platform::Machine &machine)
-{
-    // kern.hv_vmm_present; Linux: the flag "hypervisor" of the processor
-    return DeviceProbe::sysctlFlag(machine, "kern.hv_vmm_present");
-}
-
-Verdict virtualMachineVerdict()
-{
-    return {Text::tr("Virtual machine"), CapabilityStatus::Info};
-}
-
-QList<CapabilityItem> virtualMachineItems(const platform::Machine &machine)
-{
-    if (!isVirtualMachine(machine))
-        return {};
-    return {fact(u"virtualMachine"_s, Text::tr("Virtual machine"), Text::tr("Yes"))};
-}
-
-namespace DeviceProbe {
-
 CapabilitySection securitySection(const platform::Machine &machine, const language::Formats &)
 {
+    // kern.hv_vmm_present; Linux: the flag "hypervisor" of the processor
+    const bool isGuest = isVirtualMachine(machine);
     return {.title = Text::tr("Security"),
             .symbol = u"lock.shield"_s,
-            .items = isMac(machine) ? macSecurityItems(machine) : linuxSecurityItems(machine),
+            .items =
+                isMac(machine) ? macSecurityItems(machine, isGuest) : linuxSecurityItems(machine, isGuest),
             .key = u"security"_s};
 }
 
-} // namespace DeviceProbe
-
-} // namespace quillmark::inspection
+} // namespace quillmark::inspection::DeviceProbe

@@ -4,6 +4,7 @@
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
 #include "inspection/rows.h"
+#include "inspection/values.h"
 
 #include <algorithm>
 
@@ -17,8 +18,6 @@ using platform::DiskReading;
 using platform::StartupVolume;
 using platform::VolumeReading;
 
-constexpr std::size_t mostOfAKind = 16;
-
 QString fileSize(std::int64_t bytes, const language::Formats &formats)
 {
     return formats.byteCount(bytes, language::ByteCountStyle::File);
@@ -27,11 +26,6 @@ QString fileSize(std::int64_t bytes, const language::Formats &formats)
 QString text(const std::optional<std::string> &word)
 {
     return QString::fromStdString(word.value_or(std::string()));
-}
-
-QString withTags(const QString &name, const QStringList &tags, const language::Formats &formats)
-{
-    return tags.isEmpty() ? name : u"%1 (%2)"_s.arg(name, formats.list(tags));
 }
 
 /// An empty text is one that was not told.
@@ -48,25 +42,20 @@ bool isLow(std::int64_t available, std::int64_t total)
     return available < leastForUpdates || (available < plenty && available * 10 < total);
 }
 
-CapabilityItem availableSpaceItem(const std::optional<StartupVolume> &volume,
-                                  const language::Formats &formats)
+std::optional<Verdict> availableSpaceVerdict(const std::optional<StartupVolume> &volume,
+                                             const language::Formats &formats)
 {
-    CapabilityItem item{.label = Text::tr("Available space"),
-                        .value = notReadable(),
-                        .key = u"availableSpace"_s,
-                        .isVolatile = true};
     if (!volume)
-        return item;
+        return std::nullopt;
     // NSURLVolumeAvailableCapacityForImportantUsageKey, else NSURLVolumeAvailableCapacityKey; statvfs
     const auto capacity = volumeCapacity(*volume);
     const bool isTold = volume->available.has_value() || capacity.available > 0;
     if (!isTold || capacity.available > capacity.total)
-        return item;
+        return std::nullopt;
     const auto size = fileSize(capacity.available, formats);
-    const bool isTooLittle = isLow(capacity.available, capacity.total);
-    item.value = isTooLittle ? Text::tr("%1 (low)").arg(size) : size;
-    item.status = isTooLittle ? CapabilityStatus::Warning : CapabilityStatus::Supported;
-    return item;
+    if (isLow(capacity.available, capacity.total))
+        return Verdict{Text::tr("%1 (low)").arg(size), CapabilityStatus::Warning};
+    return Verdict{size, CapabilityStatus::Supported};
 }
 
 QString fileSystemName(const std::string &word)
@@ -79,19 +68,18 @@ QString fileSystemName(const std::string &word)
 /// What a Mac's start-up volume can do.
 QList<CapabilityItem> abilityItems(const std::optional<StartupVolume> &volume)
 {
-    // NSURLVolumeSupportsFileCloningKey
-    const auto label = Text::tr("File cloning");
-    const auto cloning = volume ? volume->supportsFileCloning : std::nullopt;
-    QList<CapabilityItem> items = {cloning ? capability(u"fileCloning"_s, label, *cloning)
-                                           : fact(u"fileCloning"_s, label, notReadable())};
-    // NSURLVolumeSupportsCaseSensitiveNamesKey
-    const auto cases = volume ? volume->supportsCaseSensitiveNames : std::nullopt;
-    items += fact(u"caseSensitiveNames"_s, Text::tr("Case-sensitive names"),
-                  !cases ? notReadable() : (*cases ? Text::tr("Yes") : Text::tr("No")));
-    return items;
+    return {
+        // NSURLVolumeSupportsFileCloningKey
+        capability(u"fileCloning"_s, Text::tr("File cloning"),
+                   volume ? volume->supportsFileCloning : std::nullopt),
+        // NSURLVolumeSupportsCaseSensitiveNamesKey
+        fact(u"caseSensitiveNames"_s, Text::tr("Case-sensitive names"),
+             yesOrNo(volume ? volume->supportsCaseSensitiveNames : std::nullopt)),
+    };
 }
 
-QList<CapabilityItem> startupItems(const platform::Machine &machine, const language::Formats &formats)
+QList<CapabilityItem> startupItems(const platform::Machine &machine, bool onMac,
+                                   const language::Formats &formats)
 {
     const auto volume = machine.volumes().startupVolume();
     // NSURLVolumeLocalizedNameKey of /; the label of the root device
@@ -100,11 +88,12 @@ QList<CapabilityItem> startupItems(const platform::Machine &machine, const langu
     // NSURLVolumeTotalCapacityKey; statvfs
     items += nameItem(u"capacity"_s, Text::tr("Capacity"),
                       volume && volume->total > 0 ? fileSize(volume->total, formats) : QString());
-    items += availableSpaceItem(volume, formats);
+    items += passing(
+        judged(u"availableSpace"_s, Text::tr("Available space"), availableSpaceVerdict(volume, formats)));
     // statfs; /proc/self/mountinfo
     items += nameItem(u"fileSystem"_s, Text::tr("File system"),
                       volume ? fileSystemName(volume->fileSystem) : QString());
-    if (isMac(machine))
+    if (onMac)
         items += abilityItems(volume);
     return items;
 }
@@ -137,43 +126,39 @@ QString diskText(const DiskReading &disk, const language::Formats &formats)
 
 /// Only where the system passes on what was deleted does an SSD stay fast. A Mac says nothing where it does
 /// not.
-CapabilityItem trimItem(const QString &key, const QString &label, const DiskReading &disk, bool onMac)
+std::optional<Verdict> trimVerdict(const DiskReading &disk, bool onMac)
 {
     // "IOStorageFeatures", "Unmap"; queue/discard_max_bytes
     if (!disk.unmap && !onMac)
-        return fact(key, label, notReadable());
+        return std::nullopt;
     const bool isOn = disk.unmap.value_or(false);
-    return {.label = label,
-            .value = isOn ? Text::tr("On") : Text::tr("Off"),
-            .status = isOn ? CapabilityStatus::Supported : CapabilityStatus::Warning,
-            .key = key};
+    return Verdict{onOrOff(isOn), isOn ? CapabilityStatus::Supported : CapabilityStatus::Warning};
 }
 
-QList<CapabilityItem> diskItems(const platform::Machine &machine, const language::Formats &formats)
+QList<CapabilityItem> diskItems(const platform::Machine &machine, bool onMac,
+                                const language::Formats &formats)
 {
     auto disks = machine.volumes().disks().value_or(std::vector<DiskReading>());
     std::erase_if(disks, [](const DiskReading &disk) { return disk.interconnectLocation == "File"; });
-    const bool isAlone = disks.size() == 1;
-    disks.resize(std::min(disks.size(), mostOfAKind));
-    const bool onMac = isMac(machine);
-    const bool isVirtual = sysctlFlag(machine, "kern.hv_vmm_present");
+    const bool isGuest = isVirtualMachine(machine);
     QList<CapabilityItem> items;
-    int number = 0;
+    Numbered place{.isOnly = disks.size() == 1};
     for (const auto &disk : disks) {
-        const auto key = u"disk.%1"_s.arg(++number);
-        items +=
-            fact(key, isAlone ? Text::tr("Disk") : Text::tr("Disk %1").arg(number), diskText(disk, formats));
+        if (place.number > mostOfAKind)
+            break;
+        const auto key = u"disk.%1"_s.arg(place.number);
+        items += fact(key, place.label(Text::tr("Disk"), Text::tr("Disk %1")), diskText(disk, formats));
         // "Physical Interconnect"; the device's path
         if (const auto word = text(disk.interconnect); !word.isEmpty()) {
             items += fact(key + u".connection"_s,
-                          isAlone ? Text::tr("Connection") : Text::tr("Connection (disk %1)").arg(number),
+                          place.label(Text::tr("Connection"), Text::tr("Connection (disk %1)")),
                           word == u"PCI-Express"_s ? u"PCI Express"_s : word);
         }
-        if (disk.mediumType == "Solid State" && disk.interconnectLocation == "Internal" && !isVirtual) {
-            items +=
-                trimItem(key + u".trim"_s,
-                         isAlone ? Text::tr("TRIM") : Text::tr("TRIM (disk %1)").arg(number), disk, onMac);
+        if (disk.mediumType == "Solid State" && disk.interconnectLocation == "Internal" && !isGuest) {
+            items += judged(key + u".trim"_s, place.label(Text::tr("TRIM"), Text::tr("TRIM (disk %1)")),
+                            trimVerdict(disk, onMac));
         }
+        ++place.number;
     }
     return items;
 }
@@ -192,23 +177,23 @@ QString volumeText(const VolumeReading &volume, const language::Formats &formats
 QList<CapabilityItem> volumeItems(const platform::Machine &machine, const language::Formats &formats)
 {
     // getfsstat; /proc/self/mountinfo and statvfs
-    auto volumes = machine.volumes().otherVolumes().value_or(std::vector<VolumeReading>());
-    const bool isAlone = volumes.size() == 1;
-    volumes.resize(std::min(volumes.size(), mostOfAKind));
+    const auto volumes = machine.volumes().otherVolumes().value_or(std::vector<VolumeReading>());
     QList<CapabilityItem> items;
-    int number = 0;
+    Numbered place{.isOnly = volumes.size() == 1};
     for (const auto &volume : volumes) {
-        const auto key = u"volume.%1"_s.arg(++number);
-        items += fact(key, isAlone ? Text::tr("Volume") : Text::tr("Volume %1").arg(number),
-                      volumeText(volume, formats));
-        if (!volume.total || !volume.available || *volume.total <= 0 || *volume.available > *volume.total)
-            continue;
-        items += CapabilityItem{
-            .label = isAlone ? Text::tr("Volume space") : Text::tr("Volume space (volume %1)").arg(number),
-            .value = Text::tr("%1 of %2")
-                         .arg(fileSize(*volume.available, formats), fileSize(*volume.total, formats)),
-            .key = key + u".available"_s,
-            .isVolatile = true};
+        if (place.number > mostOfAKind)
+            break;
+        const auto key = u"volume.%1"_s.arg(place.number);
+        items +=
+            fact(key, place.label(Text::tr("Volume"), Text::tr("Volume %1")), volumeText(volume, formats));
+        if (volume.total.value_or(0) > 0 && volume.available && *volume.available <= *volume.total) {
+            items += passing(
+                fact(key + u".available"_s,
+                     place.label(Text::tr("Volume space"), Text::tr("Volume space (volume %1)")),
+                     Text::tr("%1 of %2")
+                         .arg(fileSize(*volume.available, formats), fileSize(*volume.total, formats))));
+        }
+        ++place.number;
     }
     return items;
 }
@@ -217,10 +202,11 @@ QList<CapabilityItem> volumeItems(const platform::Machine &machine, const langua
 
 CapabilitySection storageSection(const platform::Machine &machine, const language::Formats &formats)
 {
+    const bool onMac = isMac(machine);
     return {.title = Text::tr("Storage"),
             .symbol = u"internaldrive"_s,
-            .items =
-                startupItems(machine, formats) + diskItems(machine, formats) + volumeItems(machine, formats),
+            .items = startupItems(machine, onMac, formats) + diskItems(machine, onMac, formats) +
+                     volumeItems(machine, formats),
             .key = u"storage"_s};
 }
 

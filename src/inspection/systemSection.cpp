@@ -19,37 +19,24 @@ CapabilityItem architectureItem(const platform::Machine &machine)
     const bool isTranslated = sysctlFlag(machine, "sysctl.proc_translated");
     if (isTranslated)
         text += u" — "_s + Text::tr("via Rosetta");
-    return {.label = Text::tr("Architecture"),
-            .value = text,
-            .status = isTranslated ? CapabilityStatus::Warning : CapabilityStatus::Info,
-            .key = u"architecture"_s};
+    return judged(u"architecture"_s, Text::tr("Architecture"),
+                  Verdict{text, isTranslated ? CapabilityStatus::Warning : CapabilityStatus::Info});
 }
 
-CapabilityItem thermalStateItem(const platform::Machine &machine)
+Verdict thermalVerdict(int state)
 {
-    CapabilityItem item{.label = Text::tr("Thermal state"), .key = u"thermalState"_s, .isVolatile = true};
-    switch (machine.system().thermalState()) {
+    switch (state) {
     case 0:
-        item.value = Text::tr("Normal");
-        item.status = CapabilityStatus::Supported;
-        break;
+        return {Text::tr("Normal"), CapabilityStatus::Supported};
     case 1: // warm is no limit yet, so it warns of nothing
-        item.value = Text::tr("Warm");
-        item.status = CapabilityStatus::Info;
-        break;
+        return {Text::tr("Warm")};
     case 2:
-        item.value = Text::tr("Hot");
-        item.status = CapabilityStatus::Warning;
-        break;
+        return {Text::tr("Hot"), CapabilityStatus::Warning};
     case 3:
-        item.value = Text::tr("Critical");
-        item.status = CapabilityStatus::Unsupported;
-        break;
+        return {Text::tr("Critical"), CapabilityStatus::Unsupported};
     default:
-        item.value = Text::tr("Unknown");
-        item.status = CapabilityStatus::Info;
+        return {Text::tr("Unknown")};
     }
-    return item;
 }
 
 } // namespace
@@ -68,11 +55,10 @@ CapabilitySection systemSection(const platform::Machine &machine, const language
                      sysctlString(machine, "hw.model").value_or(missing())),
                 fact(u"os"_s, Text::tr("Operating system"), osVersionDescription(machine)),
                 architectureItem(machine),
-                {.label = Text::tr("Uptime"),
-                 .value = formats.uptime(machine.system().uptime()).value_or(missing()),
-                 .key = u"uptime"_s,
-                 .isVolatile = true},
-                thermalStateItem(machine),
+                passing(fact(u"uptime"_s, Text::tr("Uptime"),
+                             formats.uptime(machine.system().uptime()).value_or(missing()))),
+                passing(judged(u"thermalState"_s, Text::tr("Thermal state"),
+                               thermalVerdict(machine.system().thermalState()))),
             },
         .key = u"system"_s,
     };

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
+#include "inspection/wifiItems.h"
+
 #include "inspection/Text.h"
-#include "inspection/networkRows.h"
 #include "inspection/rows.h"
+#include "inspection/values.h"
 
 #include <array>
 
@@ -15,16 +17,13 @@ namespace {
 
 using platform::WifiReading;
 
-CapabilityItem wifiItem(const std::optional<WifiReading> &wifi)
+std::optional<Verdict> wifiVerdict(const std::optional<WifiReading> &wifi)
 {
-    CapabilityItem item = fact(u"wifi"_s, u"Wi-Fi"_s, notReadable());
-    if (wifi && !wifi->isPresent) {
-        item.value = Text::tr("None");
-    } else if (wifi && wifi->powerOn) {
-        item.value = *wifi->powerOn ? Text::tr("On") : Text::tr("Off");
-        item.status = *wifi->powerOn ? CapabilityStatus::Supported : CapabilityStatus::Info;
-    }
-    return item;
+    if (wifi && !wifi->isPresent)
+        return Verdict{Text::tr("None")};
+    if (!wifi || !wifi->powerOn)
+        return std::nullopt;
+    return *wifi->powerOn ? Verdict{Text::tr("On"), CapabilityStatus::Supported} : Verdict{Text::tr("Off")};
 }
 
 QString wifiStandard(int mode, bool isOn6GHz)
@@ -49,54 +48,49 @@ QString wifiStandard(int mode, bool isOn6GHz)
     }
 }
 
-CapabilityItem wifiSignalItem(int decibels, const language::Formats &formats)
+Verdict signalVerdict(int decibels, const language::Formats &formats)
 {
     constexpr int leastGood = -67;
     constexpr int leastFair = -75;
-    const auto strength = withUnit(u'\u2212' + formats.number(-static_cast<double>(decibels)), u"dBm"_s);
-    const auto item = [&strength](const QString &text, CapabilityStatus status) {
-        return volatileItem(u"wifiSignal"_s, Text::tr("Wi-Fi signal"), text.arg(strength), status);
-    };
+    const auto magnitude = wholeNumber(-std::int64_t{decibels}, formats);
     if (decibels >= leastGood)
-        return item(Text::tr("%1 (good)"), CapabilityStatus::Supported);
+        return {Text::tr("−%1\u00a0dBm (good)").arg(magnitude), CapabilityStatus::Supported};
     if (decibels >= leastFair)
-        return item(Text::tr("%1 (fair)"), CapabilityStatus::Info);
-    return item(Text::tr("%1 (weak)"), CapabilityStatus::Warning);
+        return {Text::tr("−%1\u00a0dBm (fair)").arg(magnitude)};
+    return {Text::tr("−%1\u00a0dBm (weak)").arg(magnitude), CapabilityStatus::Warning};
 }
 
 /// The Wi-Fi connection of the moment; nothing where there is none.
 QList<CapabilityItem> connectionItems(const WifiReading &wifi, const language::Formats &formats)
 {
-    constexpr std::array<int, 3> bandTenthsOfGHz = {24, 50, 60};
+    constexpr std::array<double, 3> gigahertz = {2.4, 5, 6}; // by CoreWLAN's number of the band, from 1
     QList<CapabilityItem> items;
     const int band = wifi.channelBand.value_or(0);
     // CWInterface.activePHYMode
     if (const int mode = wifi.activePHYMode.value_or(0); mode >= 1)
-        items +=
-            volatileItem(u"wifiStandard"_s, Text::tr("Wi-Fi standard in use"), wifiStandard(mode, band == 3));
+        items += passing(
+            fact(u"wifiStandard"_s, Text::tr("Wi-Fi standard in use"), wifiStandard(mode, band == 3)));
     // CWInterface.wlanChannel.channelBand
     if (band >= 1 && band <= 3) {
-        const int tenths = bandTenthsOfGHz[static_cast<std::size_t>(band - 1)];
-        items += volatileItem(u"wifiBand"_s, Text::tr("Wi-Fi band"),
-                              withUnit(formats.number(tenths / 10.0, tenths % 10 == 0 ? 0 : 1), u"GHz"_s));
+        const double frequency = gigahertz[static_cast<std::size_t>(band - 1)];
+        items += passing(fact(u"wifiBand"_s, Text::tr("Wi-Fi band"),
+                              Text::tr("%1\u00a0GHz").arg(shortNumber(frequency, 1, formats))));
     }
     // CWInterface.rssiValue; Linux: /proc/net/wireless
     if (const int decibels = wifi.rssi.value_or(0); decibels < 0)
-        items += wifiSignalItem(decibels, formats);
+        items += passing(judged(u"wifiSignal"_s, Text::tr("Wi-Fi signal"), signalVerdict(decibels, formats)));
     // CWInterface.transmitRate
     if (const double rate = wifi.transmitRate.value_or(0); rate > 0)
-        items += volatileItem(u"wifiRate"_s, Text::tr("Wi-Fi rate"),
-                              withUnit(formats.number(rate), Text::tr("Mbit/s")));
+        items += passing(fact(u"wifiRate"_s, Text::tr("Wi-Fi rate"),
+                              Text::tr("%1\u00a0Mbit/s").arg(formats.number(rate))));
     return items;
 }
 
 } // namespace
 
-QList<CapabilityItem> wifiItems(const platform::Machine &machine, const language::Formats &formats)
+QList<CapabilityItem> wifiItems(const std::optional<WifiReading> &wifi, const language::Formats &formats)
 {
-    // CWWiFiClient; Linux: /sys/class/net, /sys/class/rfkill
-    const auto wifi = machine.network().wifi();
-    QList<CapabilityItem> items = {wifiItem(wifi)};
+    QList<CapabilityItem> items = {judged(u"wifi"_s, u"Wi-Fi"_s, wifiVerdict(wifi))};
     if (wifi && wifi->isPresent)
         items += connectionItems(*wifi, formats);
     return items;

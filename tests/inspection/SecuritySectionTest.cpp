@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "inspection/DeviceProbe.h"
-#include "inspection/helperAnswers.h"
+#include "inspection/helperVerdicts.h"
 #include "platform/recorded/recordMachine.h"
 #include "support/Recordings.h"
 #include "support/Rows.h"
@@ -38,7 +38,7 @@ QString row(const platform::Machine &machine, const QString &key)
 
 QString shown(const std::optional<Verdict> &verdict)
 {
-    return verdict ? verdict->text + u", "_s + rawValue(verdict->status) : u"no verdict"_s;
+    return verdict ? verdict->value + u", "_s + rawValue(verdict->status) : u"no verdict"_s;
 }
 
 constexpr auto linuxMembers =
