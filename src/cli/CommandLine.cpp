@@ -18,19 +18,29 @@ namespace quillmark::cli {
 
 namespace {
 
-/// What was wrong, in one line.
+/// What was wrong.
 std::string reasonFor(const CLI::App &program, const CLI::Error &error)
 {
-    if (error.get_name() == "RequiredError") { // of a command; no option is required
-        const auto words = program.remaining(true);
-        if (words.empty())
-            return "a command is missing";
-        return (words.front().starts_with('-') ? "there is no option '" : "there is no command '") +
-               words.front() + "'";
-    }
-    std::string reason = error.what();
-    std::ranges::replace(reason, '\n', ' ');
-    return reason;
+    const bool lacksCommand = dynamic_cast<const CLI::RequiredError *>(&error); // no option is required
+    if (!lacksCommand && !dynamic_cast<const CLI::ExtrasError *>(&error))
+        return error.what();
+    const auto words = program.remaining(true);
+    const auto option =
+        std::ranges::find_if(words, [](const std::string &word) { return word.starts_with('-'); });
+    if (option != words.end())
+        return "there is no option '" + *option + "'";
+    if (words.empty())
+        return "a command is missing";
+    return lacksCommand ? "there is no command '" + words.front() + "'"
+                        : "nothing is known of '" + words.front() + "' here";
+}
+
+/// One line for standard error, whatever the words in it hold.
+void complain(const QString &reason, const Output &output)
+{
+    auto line = reason;
+    line.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    output.err << "quillmark: " << printable(line).toStdString() << '\n';
 }
 
 /// Says what was wrong, and where help is.
@@ -41,7 +51,8 @@ int rejectCommandLine(const CLI::App &program, const CLI::Error &error, const Ou
         app = app->get_subcommands().front();
         command += ' ' + app->get_name();
     }
-    output.err << "quillmark: " << reasonFor(program, error) << "\nTry '" << command << " --help'.\n";
+    complain(QString::fromStdString(reasonFor(program, error)), output);
+    output.err << "Try '" << command << " --help'.\n";
     return WrongCommandLine;
 }
 
@@ -51,6 +62,7 @@ void addCommonOptions(CLI::App &program, CommonOptions &options)
         .add_option("--machine", options.machineFile,
                     "Inspect this recorded machine instead of the one at hand")
         ->envname("QUILLMARK_MACHINE")
+        ->check([](const std::string &file) { return std::string(file.empty() ? "names no file" : ""); })
         ->type_name("FILE");
     program.add_option("--language", options.language, "Interface language for this run")
         ->check([](const std::string &tag) {
@@ -61,14 +73,6 @@ void addCommonOptions(CLI::App &program, CommonOptions &options)
         })
         ->type_name("TAG");
     program.add_flag("--no-color", options.noColor, "No colours, even on a terminal");
-}
-
-int report(const Failure &failure, const Output &output)
-{
-    auto line = failure.reason;
-    line.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    output.err << "quillmark: " << printable(line).toStdString() << '\n';
-    return Failed;
 }
 
 } // namespace
@@ -97,8 +101,10 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     }
 
     const Session session(output, thisMachine, options);
-    if (const auto result = command(session); !result)
-        return report(result.error(), output);
+    if (const auto result = command(session); !result) {
+        complain(result.error().reason, output);
+        return Failed;
+    }
     return Done;
 }
 

@@ -96,15 +96,19 @@ QStringList wrapped(const QString &text, int columns)
 
 QString printable(const QString &text)
 {
+    constexpr qsizetype longest = 500;
+    const bool isCut = text.size() > longest;
     QString result;
-    result.reserve(text.size());
-    for (const QChar c : text) {
+    result.reserve(qMin(text.size(), longest + 1));
+    for (const QChar c : text.left(longest)) {
         if (c.category() == QChar::Other_Control)
             result += QChar(QChar::ReplacementCharacter);
         else if (!reordersText(c))
             result += c;
     }
-    return result;
+    if (isCut && result.back().isHighSurrogate())
+        result.chop(1);
+    return isCut ? result + u'…' : result;
 }
 
 } // namespace quillmark::cli

@@ -19,7 +19,7 @@ QString padded(const QString &text, int columns);
 QStringList wrapped(const QString &text, int columns);
 
 /// The text without what would steer a terminal: control characters become U+FFFD, marks that reorder text
-/// are dropped.
+/// are dropped. One that is longer than anybody reads is cut.
 QString printable(const QString &text);
 
 } // namespace quillmark::cli

@@ -8,11 +8,43 @@
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
+#include <streambuf>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace {
+
+/// Writes what it is given to standard output at once, and keeps the reason for which that first failed: a
+/// stream of the standard library forgets it.
+class StandardOutput final : public std::streambuf
+{
+public:
+    int error() const { return m_error; } ///< 0: all was written
+
+protected:
+    std::streamsize xsputn(const char *text, std::streamsize size) override
+    {
+        std::streamsize written = 0;
+        while (written < size && m_error == 0) {
+            const auto count = write(STDOUT_FILENO, text + written, static_cast<std::size_t>(size - written));
+            if (count >= 0)
+                written += count;
+            else if (errno != EINTR)
+                m_error = errno;
+        }
+        return written;
+    }
+
+    int overflow(int c) override
+    {
+        const char character = traits_type::to_char_type(c);
+        return xsputn(&character, 1) == 1 ? c : traits_type::eof();
+    }
+
+private:
+    int m_error = 0;
+};
 
 int terminalColumns()
 {
@@ -35,18 +67,19 @@ int main(int argc, char **argv)
 {
     using namespace quillmark;
     const bool isTerminal = isatty(STDOUT_FILENO) == 1;
-    const cli::Output output{.out = std::cout,
+    StandardOutput standardOutput;
+    std::ostream out(&standardOutput);
+    const cli::Output output{.out = out,
                              .err = std::cerr,
                              .isTerminal = isTerminal,
                              .columns = isTerminal ? terminalColumns() : 80,
                              .colorIsWelcome = isTerminal && !environmentRefusesColor()};
     const int status = cli::run(argc, argv, output, &platform::thisMachine);
 
-    errno = 0;
-    std::cout.flush();
-    if (std::cout.good())
+    if (standardOutput.error() == 0)
         return status;
-    if (errno != EPIPE) // a reader that has seen enough is no news to anyone
-        std::cerr << "quillmark: the output could not be written: " << std::strerror(errno) << '\n';
+    if (standardOutput.error() != EPIPE) // a reader that has seen enough is no news to anyone
+        std::cerr << "quillmark: the output could not be written: " << std::strerror(standardOutput.error())
+                  << '\n';
     return cli::Failed;
 }

@@ -4,6 +4,7 @@
 #include "cli/commands/Command.h"
 #include "platform/recorded/recordMachine.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -21,18 +22,30 @@ struct RecordOptions
     bool force = false;
 };
 
-/// Writes the whole file or nothing.
+bool writeAll(QIODevice &target, QIODevice::OpenMode mode, const QByteArray &text)
+{
+    return target.open(mode) && target.write(text) == text.size();
+}
+
+/// Writes the whole file or nothing. A device or a pipe is written to, not replaced.
 std::expected<void, Failure> save(const QString &path, const QByteArray &text, bool mayReplace)
 {
     const auto failure = [&path](const QString &reason) {
         return std::unexpected(Failure{QStringLiteral("%1: %2").arg(path, reason)});
     };
-    if (QFileInfo(path).isDir())
+    const QFileInfo target(path);
+    if (target.isDir())
         return failure(QStringLiteral("is a folder"));
-    if (QFileInfo::exists(path) && !mayReplace)
+    if (target.exists() && !target.isFile()) {
+        QFile file(path);
+        if (!writeAll(file, QIODevice::WriteOnly | QIODevice::Unbuffered, text))
+            return failure(file.errorString());
+        return {};
+    }
+    if (target.exists() && !mayReplace)
         return failure(QStringLiteral("already exists (--force replaces it)"));
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+    if (!writeAll(file, QIODevice::WriteOnly, text) || !file.commit())
         return failure(file.errorString());
     return {};
 }
@@ -60,7 +73,8 @@ void addMachine(CLI::App &program, Command &chosen)
     auto *command =
         machine->add_subcommand("record", "Write this machine's raw readings as a recorded machine");
     command->add_option("--output", options->output, "The file to write; - is standard output")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->check([](const std::string &file) { return std::string(file.empty() ? "names no file" : ""); });
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
     command->add_flag("--force", options->force, "Replace the file if it exists");
