@@ -8,8 +8,6 @@
 
 #include <QTest>
 
-#include <algorithm>
-
 using namespace quillmark;
 using namespace quillmark::inspection;
 using namespace quillmark::support;
@@ -20,15 +18,6 @@ namespace {
 CapabilitySection sectionOf(const platform::Machine &machine, const QString &language = u"en"_s)
 {
     return DeviceProbe::cameraAudioSection(machine, language::Formats(language));
-}
-
-/// "key: value, status", with spaces that may break; a key without a row is "absent".
-QString row(const CapabilitySection &section, const QString &key)
-{
-    const auto item = std::ranges::find(section.items, key, &CapabilityItem::key);
-    if (item == section.items.end())
-        return key + u": absent"_s;
-    return u"%1: %2, %3"_s.arg(key, QString(item->value).replace(QChar::Nbsp, u' '), rawValue(item->status));
 }
 
 QByteArray camera(const QByteArray &type, const QByteArray &formats = {})
@@ -50,12 +39,6 @@ QByteArray withBattery(QByteArray changes)
     return changes + R"(, "powerSources": [{"Type": "InternalBattery"}]})";
 }
 
-std::unique_ptr<platform::Machine> recordedAgain(const platform::Machine &machine,
-                                                 platform::RecordedNames names)
-{
-    return machineFrom(QByteArray::fromStdString(platform::recordMachine(machine, names)));
-}
-
 } // namespace
 
 class CameraAudioSectionTest : public QObject
@@ -67,11 +50,7 @@ private Q_SLOTS:
     void judges();
     void writesNumbersInTheLanguage();
     void countsAtMostSixteen();
-    void answersNothing();
     void hidesNamesOfPeople();
-    void recordsWhatItRead();
-    void namesFaults_data();
-    void namesFaults();
 };
 
 void CameraAudioSectionTest::judges_data()
@@ -80,115 +59,115 @@ void CameraAudioSectionTest::judges_data()
     QTest::addColumn<QStringList>("expected");
 
     // Cameras
-    QTest::newRow("no camera") << QByteArray(R"({"cameras": []})") << QStringList{u"camera: None, info"_s};
+    QTest::newRow("no camera") << QByteArray(R"({"cameras": []})") << QStringList{u"camera | None | info"_s};
     QTest::newRow("the largest area, and of that the highest rate")
         << camera("External", R"({"width": 640, "height": 480, "maxFrameRate": 120},
                                  {"width": 1920, "height": 1080, "maxFrameRate": 59.94},
                                  {"width": 1920, "height": 1080, "maxFrameRate": 30},
                                  {"width": 2000, "height": 500, "maxFrameRate": 240})")
-        << QStringList{u"camera.1: Eye (external), supported"_s,
-                       u"camera.1.bestPicture: 1920 × 1080, up to 59.94 frames per second, info"_s,
-                       u"camera.1.centerStage: Not readable, info"_s};
+        << QStringList{u"camera.1 | Eye (external) | supported"_s,
+                       u"camera.1.bestPicture | 1920 × 1080, up to 59.94 frames per second | info"_s,
+                       u"camera.1.centerStage | Not readable | info"_s};
     QTest::newRow("a rate that is not quite whole, and one that is missing")
         << camera("BuiltInWideAngleCamera", R"({"width": 1280, "height": 720, "maxFrameRate": 30.00003},
                                                {"width": 0, "height": 4000, "maxFrameRate": 1})")
-        << QStringList{u"camera.1: Eye (built in), supported"_s,
-                       u"camera.1.bestPicture: 1280 × 720, up to 30 frames per second, info"_s};
+        << QStringList{u"camera.1 | Eye (built in) | supported"_s,
+                       u"camera.1.bestPicture | 1280 × 720, up to 30 frames per second | info"_s};
     QTest::newRow("no rate") << camera("External", R"({"width": 1280, "height": 720})")
-                             << QStringList{u"camera.1.bestPicture: 1280 × 720, info"_s};
-    QTest::newRow("no formats") << camera("External") << QStringList{u"camera.1.bestPicture: absent"_s};
+                             << QStringList{u"camera.1.bestPicture | 1280 × 720 | info"_s};
+    QTest::newRow("no formats") << camera("External") << QStringList{u"camera.1.bestPicture absent"_s};
     const QByteArray some = R"({"width": 1, "height": 1, "isCenterStageSupported": false},
                                {"width": 1, "height": 1, "isCenterStageSupported": true})";
     const QByteArray none = R"({"width": 1, "height": 1, "isCenterStageSupported": false})";
     QTest::newRow("Center Stage in one format")
         << camera("BuiltInWideAngleCamera", some)
-        << QStringList{u"camera.1.centerStage: Supported, supported"_s};
+        << QStringList{u"camera.1.centerStage | Supported | supported"_s};
     QTest::newRow("no Center Stage, built in")
         << camera("BuiltInWideAngleCamera", none)
-        << QStringList{u"camera.1.centerStage: Not supported, unsupported"_s};
-    QTest::newRow("no Center Stage, external") << camera("ExternalUnknown", none)
-                                               << QStringList{u"camera.1: Eye (external), supported"_s,
-                                                              u"camera.1.centerStage: Not supported, info"_s};
+        << QStringList{u"camera.1.centerStage | Not supported | unsupported"_s};
+    QTest::newRow("no Center Stage, external")
+        << camera("ExternalUnknown", none)
+        << QStringList{u"camera.1 | Eye (external) | supported"_s,
+                       u"camera.1.centerStage | Not supported | info"_s};
     QTest::newRow("before Center Stage")
         << camera("BuiltInWideAngleCamera", none)
                .replace("{\"cameras", R"({"operatingSystem": {"major": 12, "minor": 2}, "cameras)")
-        << QStringList{u"camera.1.centerStage: absent"_s};
+        << QStringList{u"camera.1.centerStage absent"_s};
     QTest::newRow("access") << QByteArray(R"({"authorization": {"video": 2, "audio": 9}})")
-                            << QStringList{u"cameraAccess: Denied, info"_s,
-                                           u"microphoneAccess: Unknown, info"_s};
+                            << QStringList{u"cameraAccess | Denied | info"_s,
+                                           u"microphoneAccess | Unknown | info"_s};
 
     // Audio
-    QTest::newRow("built in")
-        << audio(R"("transport": "bltn", "outputChannels": 2, "nominalSampleRate": 44100,
+    QTest::newRow("built in") << audio(
+                                     R"("transport": "bltn", "outputChannels": 2, "nominalSampleRate": 44100,
                                           "availableSampleRates": [[8000, 88200.0], [44100, 44100]])")
-        << QStringList{u"builtInSpeakers: Available, supported"_s,
-                       u"builtInMicrophone: None (desktop), info"_s, u"soundOutput: Device, info"_s,
-                       u"outputFormat: 44.1 kHz, 2 channels, info"_s, u"highestOutputRate: 88.2 kHz, info"_s};
+                              << QStringList{u"builtInSpeakers | Available | supported"_s,
+                                             u"builtInMicrophone | None (desktop) | info"_s,
+                                             u"soundOutput | Device | info"_s,
+                                             u"outputFormat | 44.1 kHz, 2 channels | info"_s,
+                                             u"highestOutputRate | 88.2 kHz | info"_s};
     const auto usb = audio(R"("transport": "usb ", "inputChannels": 1, "outputChannels": 6,
                               "nominalSampleRate": 192000, "availableSampleRates": [[192000, 192000]])");
     QTest::newRow("a portable without")
         << withBattery(usb)
-        << QStringList{u"builtInSpeakers: None, unsupported"_s, u"builtInMicrophone: None, unsupported"_s,
-                       u"outputFormat: 192 kHz, 6 channels, info"_s, u"highestOutputRate: absent"_s};
+        << QStringList{u"builtInSpeakers | None | unsupported"_s, u"builtInMicrophone | None | unsupported"_s,
+                       u"outputFormat | 192 kHz, 6 channels | info"_s, u"highestOutputRate absent"_s};
     QTest::newRow("a desktop without") << usb
-                                       << QStringList{u"builtInSpeakers: None (desktop), info"_s,
-                                                      u"builtInMicrophone: None (desktop), info"_s};
+                                       << QStringList{u"builtInSpeakers | None (desktop) | info"_s,
+                                                      u"builtInMicrophone | None (desktop) | info"_s};
     QTest::newRow("a portable with") << withBattery(audio(R"("transport": "bltn", "inputChannels": 1)"))
-                                     << QStringList{u"builtInMicrophone: Available, supported"_s,
-                                                    u"builtInSpeakers: None, unsupported"_s,
-                                                    u"highestOutputRate: absent"_s};
+                                     << QStringList{u"builtInMicrophone | Available | supported"_s,
+                                                    u"builtInSpeakers | None | unsupported"_s,
+                                                    u"highestOutputRate absent"_s};
     QTest::newRow("a call")
         << audio(R"("transport": "blue", "outputChannels": 1, "nominalSampleRate": 24000)")
-        << QStringList{u"outputFormat: 24 kHz, 1 channel (call quality: a microphone is in use), warning"_s,
-                       u"soundOutput: Bluetooth device, info"_s};
+        << QStringList{u"outputFormat | 24 kHz, 1 channel (call quality: a microphone is in use) | warning"_s,
+                       u"soundOutput | Bluetooth device | info"_s};
     QTest::newRow("music") << audio(R"("transport": "blue", "outputChannels": 2, "nominalSampleRate": 32000)")
-                           << QStringList{u"outputFormat: 32 kHz, 2 channels, info"_s};
+                           << QStringList{u"outputFormat | 32 kHz, 2 channels | info"_s};
     QTest::newRow("slow, but no Bluetooth")
         << audio(R"("transport": "usb ", "outputChannels": 1, "nominalSampleRate": 8000)")
-        << QStringList{u"outputFormat: 8 kHz, 1 channel, info"_s};
+        << QStringList{u"outputFormat | 8 kHz, 1 channel | info"_s};
     QTest::newRow("no defaults") << QByteArray(R"({"audioDefaults": {"input": 0, "output": 0}})")
-                                 << QStringList{u"soundOutput: None, info"_s, u"soundInput: None, info"_s,
-                                                u"outputFormat: absent"_s,
-                                                u"builtInSpeakers: Not readable, info"_s};
+                                 << QStringList{u"soundOutput | None | info"_s, u"soundInput | None | info"_s,
+                                                u"outputFormat absent"_s,
+                                                u"builtInSpeakers | Not readable | info"_s};
     QTest::newRow("a default that has vanished")
         << QByteArray(R"({"audioDevices": [], "audioDefaults": {"input": 0, "output": 5}})")
-        << QStringList{u"soundOutput: Not readable, info"_s, u"outputFormat: Not readable, info"_s};
+        << QStringList{u"soundOutput | Not readable | info"_s, u"outputFormat | Not readable | info"_s};
     QTest::newRow("a device without name and rate")
         << audio(R"("outputChannels": 2, "name": null)")
-        << QStringList{u"soundOutput: Not readable, info"_s, u"outputFormat: Not readable, info"_s};
+        << QStringList{u"soundOutput | Not readable | info"_s, u"outputFormat | Not readable | info"_s};
 
     // Linux
     QTest::newRow("sound cards") << QByteArray(R"({"operatingSystem": {"name": "Debian GNU/Linux"},
             "cameras": [{"localizedName": "Eye"}, {"localizedName": ""}],
             "soundCards": [{"name": "PCH", "playback": true, "capture": true}, {"name": "HDMI", "playback": true},
                            {"name": "Idle"}]})")
-                                 << QStringList{u"camera.1: Eye, supported"_s,
-                                                u"camera.2: Not readable, info"_s,
-                                                u"camera.1.centerStage: absent"_s,
-                                                u"cameraAccess: absent"_s,
-                                                u"soundCard.1: PCH (output and input), supported"_s,
-                                                u"soundCard.2: HDMI (output), supported"_s,
-                                                u"soundCard.3: Idle, supported"_s,
-                                                u"soundOutput: absent"_s};
+                                 << QStringList{u"camera.1 | Eye | supported"_s,
+                                                u"camera.2 | Not readable | info"_s,
+                                                u"camera.1.centerStage absent"_s,
+                                                u"cameraAccess absent"_s,
+                                                u"soundCard.1 | PCH (output and input) | supported"_s,
+                                                u"soundCard.2 | HDMI (output) | supported"_s,
+                                                u"soundCard.3 | Idle | supported"_s,
+                                                u"soundOutput absent"_s};
     QTest::newRow("no sound card")
         << QByteArray(R"({"operatingSystem": {"name": "Debian GNU/Linux"}, "soundCards": []})")
-        << QStringList{u"soundCard: None, info"_s};
+        << QStringList{u"soundCard | None | info"_s};
 }
 
 void CameraAudioSectionTest::judges()
 {
     QFETCH(QByteArray, changes);
     QFETCH(QStringList, expected);
-    const auto section = sectionOf(*changedMachine(changes));
-    for (const auto &text : expected)
-        QCOMPARE(row(section, text.section(u':', 0, 0)), text);
+    QVERIFY(hasRows(sectionOf(*changedMachine(changes)), expected));
 }
 
 void CameraAudioSectionTest::writesNumbersInTheLanguage()
 {
     const auto machine = changedMachine(audio(R"("outputChannels": 2, "nominalSampleRate": 44100)"));
-    QCOMPARE(row(sectionOf(*machine, u"de"_s), u"outputFormat"_s),
-             u"outputFormat: 44,1 kHz, 2 channels, info"_s);
+    QVERIFY(hasRows(sectionOf(*machine, u"de"_s), {u"outputFormat | 44,1 kHz, 2 channels | info"_s}));
 }
 
 void CameraAudioSectionTest::countsAtMostSixteen()
@@ -196,27 +175,12 @@ void CameraAudioSectionTest::countsAtMostSixteen()
     QByteArray list = R"({"localizedName": "C", "formats": [{"width": 4, "height": 3}]})";
     list = "[" + (list + ",").repeated(19) + list + "]";
     const auto section = sectionOf(*changedMachine("{\"cameras\": " + list + "}"));
-    QCOMPARE(row(section, u"camera.16"_s), u"camera.16: C, supported"_s);
-    QCOMPARE(row(section, u"camera.17"_s), u"camera.17: absent"_s);
+    QVERIFY(hasRows(section, {u"camera.16 | C | supported"_s}));
+    QVERIFY(hasRows(section, {u"camera.17 absent"_s}));
     const auto labels = lines(section).mid(4, 3).join(u'\n');
     QCOMPARE(labels, u"camera.2 | Camera 2 | C | supported\n"
                      "camera.2.bestPicture | Best picture (camera 2) | 4 × 3 | info\n"
                      "camera.2.centerStage | Center Stage (camera 2) | Not readable | info"_s);
-}
-
-void CameraAudioSectionTest::answersNothing()
-{
-    const auto keys = [](const QByteArray &changes) {
-        QStringList found;
-        for (const auto &item : sectionOf(*changedMachine(changes)).items)
-            found += item.value == u"Not readable"_s && item.status == CapabilityStatus::Info ? *item.key
-                                                                                              : item.value;
-        return found.join(u' ');
-    };
-    QCOMPARE(
-        keys("{}"),
-        u"camera cameraAccess microphoneAccess builtInSpeakers builtInMicrophone soundOutput soundInput"_s);
-    QCOMPARE(keys(R"({"operatingSystem": {"name": "Debian GNU/Linux"}})"), u"camera soundCard"_s);
 }
 
 void CameraAudioSectionTest::hidesNamesOfPeople()
@@ -240,54 +204,11 @@ void CameraAudioSectionTest::hidesNamesOfPeople()
     // What people put together and name themselves is theirs to show, and to keep.
     const auto machine = changedMachine(R"({"audioDefaults": {"input": 1, "output": 1}, "audioDevices": [)" +
                                         device(1, "grup") + "]}");
-    QCOMPARE(row(sectionOf(*machine), u"soundOutput"_s), u"soundOutput: Ada's device, info"_s);
+    QVERIFY(hasRows(sectionOf(*machine), {u"soundOutput | Ada's device | info"_s}));
     QVERIFY(platform::recordMachine(*machine, platform::RecordedNames::LeaveOut).find("Ada") ==
             std::string::npos);
-    QCOMPARE(row(sectionOf(*recordedAgain(*machine, platform::RecordedNames::Keep)), u"soundOutput"_s),
-             u"soundOutput: Ada's device, info"_s);
-}
-
-void CameraAudioSectionTest::recordsWhatItRead()
-{
-    for (const auto &name : recordingNames()) {
-        const auto machine = machineFrom(recordingText(name));
-        const auto again = recordedAgain(*machine, platform::RecordedNames::LeaveOut);
-        QVERIFY(sameLines(lines(sectionOf(*again)), lines(sectionOf(*machine))));
-        QVERIFY(again->capture().cameras() == machine->capture().cameras());
-        QVERIFY(again->capture().audioDefaults() == machine->capture().audioDefaults());
-        QVERIFY(again->capture().soundCards() == machine->capture().soundCards());
-    }
-}
-
-void CameraAudioSectionTest::namesFaults_data()
-{
-    QTest::addColumn<QByteArray>("changes");
-    QTest::addColumn<QString>("fault");
-
-    QTest::newRow("camera") << QByteArray(R"({"cameras": [{"deviceType": "External"}]})")
-                            << u"\"cameras[0].localizedName\" is missing"_s;
-    QTest::newRow("format") << camera("External", R"({"width": 3, "height": "4"})")
-                            << u"\"cameras[0].formats[0].height\" must be"_s;
-    QTest::newRow("transport") << audio(R"("transport": "usb")")
-                               << u"\"audioDevices[0].transport\" must be a code of four"_s;
-    QTest::newRow("rates") << audio(R"("availableSampleRates": [[1, 2], [3]])")
-                           << u"\"audioDevices[0].availableSampleRates\" must hold pairs"_s;
-    QTest::newRow("channels") << audio(R"("inputChannels": -1)")
-                              << u"\"audioDevices[0].inputChannels\" must be from 0"_s;
-    QTest::newRow("defaults") << QByteArray(R"({"audioDefaults": {"output": 1}})")
-                              << u"\"audioDefaults.input\" is missing"_s;
-    QTest::newRow("sound card") << QByteArray(R"({"soundCards": [{"name": "x", "capture": "yes"}]})")
-                                << u"\"soundCards[0].capture\" must be true or false"_s;
-}
-
-void CameraAudioSectionTest::namesFaults()
-{
-    QFETCH(QByteArray, changes);
-    QFETCH(QString, fault);
-    const auto recording = changedRecording(changes);
-    const auto machine = platform::parseRecording(view(recording), "x");
-    QVERIFY(!machine);
-    QVERIFY2(QString::fromStdString(machine.error().text).contains(fault), machine.error().text.c_str());
+    QVERIFY(hasRows(sectionOf(*recordedAgain(*machine, platform::RecordedNames::Keep)),
+                    {u"soundOutput | Ada's device | info"_s}));
 }
 
 QTEST_APPLESS_MAIN(CameraAudioSectionTest)

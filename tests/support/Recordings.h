@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/recorded/RecordedMachine.h"
+#include "platform/recorded/recordMachine.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -104,6 +105,19 @@ inline QByteArray changedRecording(const QByteArray &changes = "{}")
 inline std::unique_ptr<platform::Machine> changedMachine(const QByteArray &changes = "{}")
 {
     return machineFrom(changedRecording(changes));
+}
+
+/// The changes that make of it a machine with Linux, and these members.
+inline QByteArray onLinux(const QByteArray &members)
+{
+    return R"({"operatingSystem": {"name": "Debian GNU/Linux"}, )" + members + '}';
+}
+
+/// The machine as it comes back from a recording of it.
+inline std::unique_ptr<platform::Machine>
+recordedAgain(const platform::Machine &machine, platform::RecordedNames names = platform::RecordedNames::Keep)
+{
+    return machineFrom(QByteArray::fromStdString(recordMachine(machine, names)));
 }
 
 } // namespace quillmark::support

@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QTest>
 
+#include <algorithm>
+
 namespace quillmark::support {
 
 /// "key | label | value | status", and " | volatile" for such a row.
@@ -44,6 +46,37 @@ inline bool sameLines(const QStringList &actual, const QStringList &expected)
                               << at(actual);
     }
     return actual == expected;
+}
+
+/// "key | value | status" for each row, with plain spaces before units.
+inline QStringList rows(const inspection::CapabilitySection &section)
+{
+    QStringList result;
+    for (const auto &item : section.items) {
+        result += QStringList{*item.key, item.value, rawValue(item.status)}.join(QStringLiteral(" | "));
+        result.last().replace(QChar::Nbsp, u' ');
+    }
+    return result;
+}
+
+/// Whether the section has these rows. A line "key absent" wants no row of that key; "*" before the first
+/// line wants no others.
+inline bool hasRows(const inspection::CapabilitySection &section, const QStringList &expected)
+{
+    const auto all = rows(section);
+    auto wanted = expected;
+    if (!wanted.isEmpty() && wanted.first().startsWith(u'*')) {
+        wanted.first().remove(0, 1);
+        return sameLines(all, wanted);
+    }
+    QStringList actual;
+    for (const auto &line : wanted) {
+        const auto key = line.section(u' ', 0, 0);
+        const auto row =
+            std::ranges::find_if(all, [&key](const QString &one) { return one.section(u' ', 0, 0) == key; });
+        actual += row == all.end() ? key + QStringLiteral(" absent") : *row;
+    }
+    return sameLines(actual, wanted);
 }
 
 } // namespace quillmark::support

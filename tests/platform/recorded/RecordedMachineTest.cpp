@@ -224,6 +224,7 @@ void RecordedMachineTest::badMembers_data()
     const auto int64 = u"must be from 0 to 9223372036854775807"_s;
     const auto uint32 = u"must be from 0 to 4294967295"_s;
     const auto missing = u"is missing"_s;
+    const auto code = u"must be a code of four characters"_s;
 
     row(R"("operatingSystem": null)", u"operatingSystem"_s, missing);
     is(R"("operatingSystem": "macOS 15")", u"operatingSystem"_s, object, text);
@@ -292,8 +293,7 @@ void RecordedMachineTest::badMembers_data()
     is(R"("videoEncoders": {})", u"videoEncoders"_s, array, object);
     is(R"("videoEncoders": [[]])", u"videoEncoders[0]"_s, object, array);
     row(R"("videoEncoders": [{}])", u"videoEncoders[0].codecType"_s, missing);
-    row(R"("videoEncoders": [{"codecType": "hevc1"}])", u"videoEncoders[0].codecType"_s,
-        u"must be a code of four characters"_s);
+    row(R"("videoEncoders": [{"codecType": "hevc1"}])", u"videoEncoders[0].codecType"_s, code);
     is(R"("videoEncoders": [{"codecType": "hvc1", "isHardwareAccelerated": 1}])",
        u"videoEncoders[0].isHardwareAccelerated"_s, boolean, number);
     is(R"("authorization": 3)", u"authorization"_s, object, number);
@@ -332,6 +332,62 @@ void RecordedMachineTest::badMembers_data()
         u"may hold \"other\", \"wifi\", \"cellular\", \"wired\" and \"loopback\""_s);
     is(R"("networkPath": {"status": "satisfied", "isExpensive": "no"})", u"networkPath.isExpensive"_s,
        boolean, text);
+
+    is(R"("wifi": true)", u"wifi"_s, object, boolean);
+    is(R"("wifi": {"rssiValue": -56.5})", u"wifi.rssiValue"_s, whole, fraction);
+    row(R"("ethernetLinks": [{"name": "a"}, {"speed": 1}])", u"ethernetLinks[1].name"_s, missing);
+    row(R"("bluetooth": {"blocked": true})", u"bluetooth.present"_s, missing);
+
+    is(R"("powerSettings": 5)", u"powerSettings"_s, object, number);
+    is(R"("powerSettings": {"lowPowerModeEnabled": 1})", u"powerSettings.lowPowerModeEnabled"_s, boolean,
+       number);
+    is(R"("powerSettings": {"externalAdapter": []})", u"powerSettings.externalAdapter"_s, object, array);
+    is(R"("powerSupplies": {"BAT0": "x"})", u"powerSupplies.BAT0"_s, object, text);
+    is(R"("disks": {})", u"disks"_s, array, object);
+    is(R"("disks": [{}, 5])", u"disks[1]"_s, object, number);
+    row(R"("disks": [{"Size": -1}])", u"disks[0].Size"_s, int64);
+    is(R"("disks": [{"Unmap": 1}])", u"disks[0].Unmap"_s, boolean, number);
+    is(R"("volumes": [{"name": []}])", u"volumes[0].name"_s, text, array);
+
+    const auto texts = u"must hold texts"_s;
+    row(R"("securityState": {"csrutil": {"exitStatus": 0}})", u"securityState.csrutil.output"_s, missing);
+    row(R"("securityState": {"biometry": {"canEvaluate": true}})", u"securityState.biometry.biometryType"_s,
+        missing);
+    row(R"("securityState": {"efiSecureBoot": 256})", u"securityState.efiSecureBoot"_s,
+        u"must be from 0 to 255"_s);
+    row(R"("securityState": {"cpuVulnerabilities": ["Vulnerable", 1]})",
+        u"securityState.cpuVulnerabilities"_s, texts);
+    row(R"("languageModel": {})", u"languageModel.state"_s, missing);
+    row(R"("languageModel": {"state": 6})", u"languageModel.state"_s, u"must be from 0 to 5"_s);
+    row(R"("computeDevices": [{"kind": "cpu"}, {"kind": "npu"}])", u"computeDevices[1].kind"_s,
+        u"must be one of \"cpu\", \"gpu\", \"neuralEngine\", \"other\""_s);
+    is(R"("accelerators": [{"name": "accel0", "driver": 5}])", u"accelerators[0].driver"_s, text, number);
+    row(R"("renderNodes": [{"accessible": true}])", u"renderNodes[0].name"_s, missing);
+
+    row(R"("videoDecoders": {"h264 ": true})", u"videoDecoders.h264 "_s,
+        u"must be named by a code of four characters"_s);
+    is(R"("videoDecoders": {"avc1": 1})", u"videoDecoders.avc1"_s, boolean, number);
+    row(R"("imageTypes": {"readable": []})", u"imageTypes.writable"_s, missing);
+    row(R"("imageTypes": {"readable": [5], "writable": []})", u"imageTypes.readable"_s, texts);
+    row(R"("vainfo": {"output": ""})", u"vainfo.exitStatus"_s, missing);
+    row(R"("vainfo": {"noAnswer": "why"})", u"vainfo.noAnswer"_s,
+        u"must be one of \"noDevice\", \"notInstalled\", \"asleep\""_s);
+    row(R"("cameras": [{"deviceType": "External"}])", u"cameras[0].localizedName"_s, missing);
+    is(R"("cameras": [{"localizedName": "", "formats": [{"width": 3, "height": "4"}]}])",
+       u"cameras[0].formats[0].height"_s, whole, text);
+    row(R"("audioDevices": [{"id": 7, "transport": "usb"}])", u"audioDevices[0].transport"_s, code);
+    row(R"("audioDevices": [{"id": 7, "availableSampleRates": [[1, 2], [3]]}])",
+        u"audioDevices[0].availableSampleRates"_s, u"must hold pairs of numbers"_s);
+    row(R"("audioDevices": [{"id": 7, "inputChannels": -1}])", u"audioDevices[0].inputChannels"_s, uint32);
+    row(R"("audioDefaults": {"output": 1})", u"audioDefaults.input"_s, missing);
+    is(R"("soundCards": [{"name": "x", "capture": "yes"}])", u"soundCards[0].capture"_s, boolean, text);
+    is(R"("displays": [{}, {"localizedName": 5}])", u"displays[1].localizedName"_s, text, number);
+    row(R"("displays": [{"pixelWidth": 5000000000}])", u"displays[0].pixelWidth"_s, int32);
+    row(R"("displays": [{"screenSize": [5]}])", u"displays[0].screenSize"_s, u"must hold two numbers"_s);
+    row(R"("displays": [{"screenSize": [5, "6"]}])", u"displays[0].screenSize"_s, u"must hold two numbers"_s);
+    const auto bytes = u"bytes, {\"hex\": \"…\"}"_s;
+    is(R"("displays": [{"edid": "00ff"}])", u"displays[0].edid"_s, bytes, text);
+    is(R"("displays": [{"edid": {"hex": "00f"}}])", u"displays[0].edid"_s, bytes, object);
 
     const auto ticks = u"must hold four whole numbers from 0 to 4294967295 for each core"_s;
     is(R"("processorTicks": 5)", u"processorTicks"_s, array, number);
