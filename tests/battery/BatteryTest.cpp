@@ -161,6 +161,8 @@ void BatteryTest::readings_data()
            {u"level 0.96"_s, u"charging yes"_s, u"AC yes"_s, u"state charging"_s, u"time 9 to full"_s});
     source("full by its flag", onLine + R"("Is Charging": false, "Is Charged": true, "Current Capacity": 98)",
            {u"level 0.98"_s, u"charging no"_s, u"AC yes"_s, u"state full"_s});
+    source("level in mAh", R"("Current Capacity": 3000, "Max Capacity": 6000)", {u"level 0.5"_s});
+    source("level of a maximum that is none", R"("Current Capacity": 50, "Max Capacity": -5)", {});
     source("full by its level", onLine + R"("Current Capacity": 100, "Time to Full Charge": 5)",
            {u"level 1"_s, u"AC yes"_s, u"state full"_s});
     source("held below full", onLine + R"("Is Charging": false, "Current Capacity": 99)",

@@ -214,18 +214,13 @@ private Q_SLOTS:
     void recordedMachines();
     void oddMachines_data();
     void oddMachines();
-    void headline_data();
-    void headline();
     void numbersOfTheKernel();
     void batteries_data();
     void batteries();
     void smallProbes();
-    void freeSpace_data();
-    void freeSpace();
     void sectionsAndRows();
     void countsAndScore_data();
     void countsAndScore();
-    void rawValues();
     void equality();
     void whatIsAskedIsRecorded_data();
     void whatIsAskedIsRecorded();
@@ -284,14 +279,10 @@ void InspectionTest::oddMachines_data()
         row(name, "{\"graphics\": {\"devices\": [{\"name\": \"X\", " + members + "}]}}", expected);
     };
 
-    row("nominal", R"({"thermalState": 0})", u"thermalState | Normal | supported"_s);
-    row("fair is no warning", R"({"thermalState": 1})", u"thermalState | Warm | info"_s);
-    row("serious", R"({"thermalState": 2})", u"thermalState | Hot | warning"_s);
     row("critical", R"({"thermalState": 3})", u"thermalState | Critical | unsupported"_s);
     row("hotter than known", R"({"thermalState": 4})", u"thermalState | Unknown | info"_s);
     row("colder than known", R"({"thermalState": -1})", u"thermalState | Unknown | info"_s);
 
-    row("no host name", R"({"hostName": null})", u"deviceName | — | info"_s);
     row("host name of another script", R"({"hostName": "アダの Mac 💻"})",
         u"deviceName | アダの Mac 💻 | info"_s);
     kernel("no model", R"("hw.model": null)", u"modelIdentifier | — | info"_s);
@@ -299,20 +290,12 @@ void InspectionTest::oddMachines_data()
            u"modelIdentifier | Mac1 | info"_s);
     kernel("empty model", R"("hw.model": {"hex": ""})", u"modelIdentifier |  | info"_s);
 
-    row("version with zeros", "{}", u"os | macOS 15.0 Sequoia (24A335) | info"_s);
-    row("version without a name",
-        R"({"operatingSystem": {"major": 12, "minor": 7, "patch": 1}, "sysctl": {"kern.osversion": "21G920"}})",
-        u"os | macOS 12.7.1 (21G920) | info"_s);
     row("version between the names", R"({"operatingSystem": {"major": 16, "minor": 2}})",
         u"os | macOS 16.2 (24A335) | info"_s);
-    row("newest name", R"({"operatingSystem": {"major": 26}})", u"os | macOS 26.0 Tahoe (24A335) | info"_s);
     row("no build",
         R"({"operatingSystem": {"major": 13, "minor": 6, "patch": 7}, "sysctl": {"kern.osversion": null}})",
         u"os | macOS 13.6.7 Ventura | info"_s);
 
-    kernel("native", R"("sysctl.proc_translated": 0)", u"architecture | Apple Silicon (arm64) | info"_s);
-    kernel("translated", R"("sysctl.proc_translated": 1)",
-           u"architecture | Apple Silicon (arm64) — via Rosetta | warning"_s);
     kernel("translated as far as 8 bytes tell", R"("sysctl.proc_translated": {"int64": 1})",
            u"architecture | Apple Silicon (arm64) — via Rosetta | warning"_s);
     kernel("translated, 2", R"("sysctl.proc_translated": 2)",
@@ -328,34 +311,18 @@ void InspectionTest::oddMachines_data()
     kernel("arm64 has one byte", R"("hw.optional.arm64": {"hex": "01"})",
            u"neuralEngine | Not available | unsupported"_s);
 
-    row("uptime unknown", R"({"systemUptime": null})", u"uptime | — | info"_s);
-    row("uptime without seconds", R"({"systemUptime": 59.99})", u"uptime | 0m | info"_s);
-    row("uptime of days and minutes", R"({"systemUptime": 86460})", u"uptime | 1d 1m | info"_s);
-
     kernel("no brand", R"("machdep.cpu.brand_string": null)", u"processor | Apple Silicon | info"_s);
-    kernel("no brand on Intel", R"("machdep.cpu.brand_string": null, "hw.optional.arm64": null)",
-           u"processor | Intel | info"_s);
-    kernel("no cores", R"("hw.physicalcpu": null, "hw.logicalcpu": {"hex": "0800"})",
-           u"physicalCores | 0 | info\nlogicalCores | 0 | info"_s);
-    kernel("one kind of core", R"("hw.nperflevels": 1)",
-           u"performanceCores absent\nefficiencyCores absent"_s);
-    kernel("kinds of cores not told", R"("hw.nperflevels": null)",
-           u"performanceCores absent\nefficiencyCores absent"_s);
     kernel("three kinds of cores", R"("hw.nperflevels": 3, "hw.perflevel2.physicalcpu": 2)",
            u"performanceCores | 4 | info\nefficiencyCores | 4 | info"_s);
     kernel("kinds without counts",
            R"("hw.perflevel0.physicalcpu": null, "hw.perflevel1.physicalcpu": {"hex": "040000"})",
            u"performanceCores | 0 | info\nefficiencyCores | 0 | info"_s);
     kernel("many cores are not grouped", R"("hw.logicalcpu": 1024)", u"logicalCores | 1024 | info"_s);
-    kernel("frequency of 8 bytes", R"("hw.cpufrequency_max": 3200000000)",
-           u"maxFrequency | 3.20 GHz | info"_s);
     kernel("frequency of 4 bytes", R"("hw.cpufrequency_max": 800000000)",
            u"maxFrequency | 0.80 GHz | info"_s);
     kernel("least frequency", R"("hw.cpufrequency_max": 1)", u"maxFrequency | 0.00 GHz | info"_s);
     kernel("frequency 0", R"("hw.cpufrequency_max": {"int64": 0})", u"maxFrequency absent"_s);
     kernel("frequency below 0", R"("hw.cpufrequency_max": -1)", u"maxFrequency absent"_s);
-    kernel("frequency absent", R"("hw.cpufrequency_max": null)", u"maxFrequency absent"_s);
-    row("no memory", R"({"physicalMemory": null})", u"memory | Zero kB | info"_s);
     kernel("features", R"("hw.optional.arm.FEAT_SME": 1, "hw.optional.arm.FEAT_BF16": null)",
            u"sme | Supported | supported\nbf16 | Not supported | unsupported\navx2 absent\navx512 absent"_s);
 
@@ -376,7 +343,6 @@ void InspectionTest::oddMachines_data()
     row("devices without a default", R"({"graphics": {"defaultDevice": null}})",
         u"metal | Not supported | unsupported\ngpu.1 absent\nhardwareRayTracing absent"_s);
     device("no tags", R"("hasUnifiedMemory": false)", u"gpu.1 | X | info\nmetal absent"_s);
-    device("one tag", R"("isRemovable": true)", u"gpu.1 | X (external eGPU) | info"_s);
     device("three tags", R"("isRemovable": true, "isLowPower": true, "hasUnifiedMemory": true)",
            u"gpu.1 | X (unified memory, low power, and external eGPU) | info"_s);
     for (const int family : {1, 7, 8}) {
@@ -427,35 +393,6 @@ void InspectionTest::oddMachines()
     QVERIFY(hasRows(all, expected.split(u'\n')));
 }
 
-void InspectionTest::headline_data()
-{
-    QTest::addColumn<QByteArray>("changes");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("complete")
-        << QByteArray("{}") << u"Test Mac|Mac15,3|Apple M3|16 GB|494.38 GB|macOS 15.0 Sequoia (24A335)|1|0"_s;
-    QTest::newRow("bare")
-        << QByteArray(
-               R"({"hostName": null, "physicalMemory": null, "volume": null, "sysctl": {"hw.model": null,
-        "machdep.cpu.brand_string": null, "hw.optional.arm64": null, "kern.osversion": null}})")
-        << u"Mac|—|Intel|Zero kB|—|macOS 15.0 Sequoia|0|0"_s;
-    QTest::newRow("UPS alone") << QByteArray(
-                                      R"({"powerSources": [{"Type": "UPS"}], "volume": {"total": 1000}})")
-                               << u"Test Mac|Mac15,3|Apple M3|16 GB|1 kB|macOS 15.0 Sequoia (24A335)|1|0"_s;
-    QTest::newRow("battery")
-        << QByteArray(R"({"powerSources": [{"Type": "InternalBattery"}], "volume": {"total": 0}})")
-        << u"Test Mac|Mac15,3|Apple M3|16 GB|Zero kB|macOS 15.0 Sequoia (24A335)|1|1"_s;
-}
-
-void InspectionTest::headline()
-{
-    QFETCH(const QByteArray, changes);
-    QFETCH(const QString, expected);
-    auto actual = lines(DeviceProbe::summary(*changedMachine(changes), english)).mid(1);
-    for (auto &line : actual)
-        line = line.section(u" | "_s, 1);
-    QCOMPARE(actual.join(u'|'), expected);
-}
-
 void InspectionTest::numbersOfTheKernel()
 {
     const auto machine = changedMachine(R"({"sysctl": {
@@ -500,22 +437,6 @@ void InspectionTest::batteries_data()
         R"([{"Type": "InternalBattery", "Current Capacity": 80, "Max Capacity": 100, "Is Charging": true,
              "Power Source State": "AC Power", "BatteryHealth": "Good"}])",
         u"0.8 1 1 Good 112"_s, R"({"AppleSmartBattery": {"CycleCount": 112}})");
-    row("after a UPS",
-        R"([{"Type": "UPS", "Current Capacity": 9}, {"Type": "InternalBattery", "Current Capacity": 41}])",
-        u"0.41 0 0 - -"_s);
-    row("the first of two",
-        R"([{"Type": "InternalBattery", "Current Capacity": 1}, {"Type": "InternalBattery", "Current Capacity": 2}])",
-        u"0.01 0 0 - -"_s);
-    row("no maximum", R"([{"Type": "InternalBattery", "Current Capacity": 50}])", u"0.5 0 0 - -"_s);
-    row("maximum 0", R"([{"Type": "InternalBattery", "Current Capacity": 50, "Max Capacity": 0}])",
-        u"0 0 0 - -"_s);
-    row("maximum below 0", R"([{"Type": "InternalBattery", "Current Capacity": 50, "Max Capacity": -5}])",
-        u"0 0 0 - -"_s);
-    row("no current", R"([{"Type": "InternalBattery", "Max Capacity": 100}])", u"0 0 0 - -"_s);
-    row("in mAh", R"([{"Type": "InternalBattery", "Current Capacity": 3000, "Max Capacity": 6000}])",
-        u"0.5 0 0 - -"_s);
-    row("on battery", R"([{"Type": "InternalBattery", "Power Source State": "Battery Power"}])",
-        u"0 0 0 - -"_s);
     row("values of other types",
         R"([{"Type": "InternalBattery", "Current Capacity": "80", "Max Capacity": true, "Is Charging": 1,
              "Power Source State": {}, "BatteryHealth": 5}])",
@@ -574,34 +495,6 @@ void InspectionTest::smallProbes()
     QCOMPARE(DeviceProbe::describe(AuthorizationStatus::Authorized), u"Allowed"_s);
     QCOMPARE(DeviceProbe::describe(AuthorizationStatus{4}), u"Unknown"_s);
     QCOMPARE(DeviceProbe::describe(AuthorizationStatus{-1}), u"Unknown"_s);
-}
-
-void InspectionTest::freeSpace_data()
-{
-    QTest::addColumn<QByteArray>("volume");
-    QTest::addColumn<qint64>("available");
-    QTest::newRow("what counts for people")
-        << QByteArray(R"("available": 100, "availableForImportantUsage": 150)") << qint64(150);
-    QTest::newRow("not told") << QByteArray(R"("available": 100)") << qint64(100);
-    QTest::newRow("told as 0") << QByteArray(R"("available": 100, "availableForImportantUsage": 0)")
-                               << qint64(100);
-    QTest::newRow("the whole volume")
-        << QByteArray(R"("available": 100, "availableForImportantUsage": 1000)") << qint64(1000);
-    QTest::newRow("more than the volume")
-        << QByteArray(R"("available": 100, "availableForImportantUsage": 1001)") << qint64(100);
-    QTest::newRow("nothing told") << QByteArray(R"("available": null)") << qint64(0);
-}
-
-void InspectionTest::freeSpace()
-{
-    QFETCH(const QByteArray, volume);
-    const auto capacity = DeviceProbe::volumeCapacity(
-        *changedMachine("{\"volume\": {\"name\": \"V\", \"total\": 1000, " + volume + "}}"));
-    QVERIFY(capacity);
-    QCOMPARE(capacity->name, u"V"_s);
-    QCOMPARE(capacity->total, 1000);
-    QTEST(qint64(capacity->available), "available");
-    QVERIFY(!DeviceProbe::volumeCapacity(*changedMachine(R"({"volume": null})")));
 }
 
 /// What holds for every section of every recording.
@@ -663,19 +556,6 @@ void InspectionTest::countsAndScore()
                             .arg(capabilityScore(all), 0, 'g', QLocale::FloatingPointShortest)
                             .arg(scorePercent(all));
     QTEST(actual, "expected");
-}
-
-void InspectionTest::rawValues()
-{
-    const QStringList names = {u"supported"_s, u"unsupported"_s, u"warning"_s, u"info"_s};
-    QStringList actual;
-    for (const auto status : allStatuses) {
-        actual += rawValue(status);
-        QCOMPARE(statusFromRawValue(rawValue(status)), status);
-    }
-    QCOMPARE(actual, names);
-    for (const auto &text : {u""_s, u"Supported"_s, u"warning "_s, u"unknown"_s, u"Not supported"_s})
-        QVERIFY2(!statusFromRawValue(text), qPrintable(text));
 }
 
 /// Equal means every field, the identity of the row included; equal values have one hash.

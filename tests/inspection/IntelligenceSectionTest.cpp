@@ -39,7 +39,6 @@ class IntelligenceSectionTest : public QObject
 private Q_SLOTS:
     void oddMachines_data();
     void oddMachines();
-    void recordingKeepsTheAnswers();
 };
 
 void IntelligenceSectionTest::oddMachines_data()
@@ -135,26 +134,6 @@ void IntelligenceSectionTest::oddMachines()
     const auto section =
         DeviceProbe::intelligenceSection(*changedMachine(changes), language::Formats(u"en"_s));
     QVERIFY(hasRows(section, expected.split(u'\n')));
-}
-
-void IntelligenceSectionTest::recordingKeepsTheAnswers()
-{
-    const auto machine = changedMachine(R"({"languageModel": {"state": 3},
-        "computeDevices": [{"kind": "other"}, {"kind": "neuralEngine", "totalCoreCount": 16}, {"kind": "cpu"}],
-        "accelerators": [{"name": "accel0", "driver": "intel_vpu"}, {"name": "0000:00:0b.0"}],
-        "renderNodes": [{"name": "renderD128"}, {"name": "renderD129", "driver": "i915", "accessible": true,
-                                                 "runtimeStatus": "suspended"}]})");
-    const auto again = recordedAgain(*machine, platform::RecordedNames::LeaveOut);
-    const auto &asked = machine->intelligence();
-    const auto &kept = again->intelligence();
-    QCOMPARE(kept.languageModelState(), 3);
-    QVERIFY(kept.computeDevices() && kept.computeDevices() == asked.computeDevices());
-    QVERIFY(kept.accelerators() && kept.accelerators() == asked.accelerators());
-    QVERIFY(kept.renderNodes() && kept.renderNodes() == asked.renderNodes());
-
-    const auto silent = changedMachine();
-    const auto text = QByteArray::fromStdString(recordMachine(*silent, platform::RecordedNames::LeaveOut));
-    QVERIFY(!text.contains("languageModel") && !text.contains("computeDevices"));
 }
 
 QTEST_GUILESS_MAIN(IntelligenceSectionTest)

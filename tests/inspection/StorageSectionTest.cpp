@@ -60,6 +60,9 @@ void StorageSectionTest::availableSpace_data()
         "90 GB | supported");
     row("purgeable space alone", R"("available": null, "availableForImportantUsage": 90000000000)",
         "90 GB | supported");
+    row("all of it purgeable",
+        R"("total": 90000000000, "available": 1000, "availableForImportantUsage": 90000000000)",
+        "90 GB | supported");
     row("purgeable space told as 0", R"("available": 80000000000, "availableForImportantUsage": 0)",
         "80 GB | supported");
     row("more purgeable than there is",

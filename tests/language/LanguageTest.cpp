@@ -60,48 +60,31 @@ void LanguageTest::byteCounts_data()
     };
     row(0, u"Zero kB"_s, u"Zero kB"_s);
     row(1, u"1 byte"_s, u"1 byte"_s);
-    row(998, u"998 bytes"_s, u"998 bytes"_s);
     row(999, u"999 bytes"_s, u"1 kB"_s);
     row(1000, u"1,000 bytes"_s, u"1 kB"_s);
-    row(1022, u"1,022 bytes"_s, u"1 kB"_s);
     row(1023, u"1 kB"_s, u"1 kB"_s);
     row(1024, u"1 kB"_s, u"1 kB"_s);
-    row(1499, u"1 kB"_s, u"1 kB"_s);
     row(1500, u"1 kB"_s, u"2 kB"_s);
     row(1536, u"2 kB"_s, u"2 kB"_s);
     row(2560, u"2 kB"_s, u"3 kB"_s); // halves go to the even digit
     row(999498, u"976 kB"_s, u"999 kB"_s);
     row(999499, u"976 kB"_s, u"1 MB"_s);
-    row(1000000, u"977 kB"_s, u"1 MB"_s);
-    row(1040000, u"1,016 kB"_s, u"1 MB"_s);
     row(1048062, u"1,023 kB"_s, u"1 MB"_s);
     row(1048063, u"1 MB"_s, u"1 MB"_s);
-    row(1048576, u"1 MB"_s, u"1 MB"_s);
-    row(1100000, u"1 MB"_s, u"1.1 MB"_s);
     row(1250000, u"1.2 MB"_s, u"1.2 MB"_s);
     row(1350000, u"1.3 MB"_s, u"1.4 MB"_s);
-    row(1572864, u"1.5 MB"_s, u"1.6 MB"_s);
     row(999949998, u"953.6 MB"_s, u"999.9 MB"_s);
     row(999949999, u"953.6 MB"_s, u"1 GB"_s);
-    row(1000000000, u"953.7 MB"_s, u"1 GB"_s);
     row(1073689394, u"1,023.9 MB"_s, u"1.07 GB"_s);
     row(1073689395, u"1 GB"_s, u"1.07 GB"_s);
     row(7516192768, u"7 GB"_s, u"7.52 GB"_s);
-    row(8589934592, u"8 GB"_s, u"8.59 GB"_s);
     row(11453251584, u"10.67 GB"_s, u"11.45 GB"_s);
-    row(17179803648, u"16 GB"_s, u"17.18 GB"_s);
     row(17179869184, u"16 GB"_s, u"17.18 GB"_s);
-    row(22906503168, u"21.33 GB"_s, u"22.91 GB"_s);
-    row(38654705664, u"36 GB"_s, u"38.65 GB"_s);
-    row(245107195904, u"228.27 GB"_s, u"245.11 GB"_s);
     row(494384795648, u"460.43 GB"_s, u"494.38 GB"_s);
-    row(994662584320, u"926.35 GB"_s, u"994.66 GB"_s);
     row(999994999998, u"931.32 GB"_s, u"999.99 GB"_s);
     row(999994999999, u"931.32 GB"_s, u"1 TB"_s);
     row(1099511627776, u"1 TB"_s, u"1.1 TB"_s);
-    row(1995218165760, u"1.81 TB"_s, u"2 TB"_s);
     row(-1, u"-1 byte"_s, u"-1 byte"_s);
-    row(-999, u"-999 bytes"_s, u"-1 kB"_s);
     row(999994999999998, u"909.49 TB"_s, u"999.99 TB"_s);
     row(999994999999999, u"909.49 TB"_s, u"1 PB"_s);
     row(1125894409284485, u"1 PB"_s, u"1.13 PB"_s);
@@ -171,17 +154,14 @@ void LanguageTest::uptime_data()
     };
     row("nothing", u"en"_s, 0, u"0m"_s);
     row("less than a minute", u"en"_s, 59.99, u"0m"_s);
-    row("a minute", u"en"_s, 60, u"1m"_s);
     row("minutes, seconds cut", u"en"_s, 359.9, u"5m"_s);
     row("an hour without minutes", u"en"_s, 3610, u"1h"_s);
-    row("hours and minutes", u"en"_s, 3723, u"1h 2m"_s);
     row("days and hours", u"en"_s, 273600.5, u"3d 4h"_s);
     row("days and minutes", u"en"_s, 86400 + 60, u"1d 1m"_s);
     row("all three", u"en"_s, 90061.4, u"1d 1h 1m"_s);
     row("just before a day", u"en"_s, 86399.9, u"23h 59m"_s);
     row("days do not become weeks", u"en"_s, 86400.0 * 400, u"400d"_s);
     row("German", u"de"_s, 273600, u"3 T, 4 Std."_s);
-    row("German, nothing", u"de"_s, 0, u"0 Min."_s);
 }
 
 void LanguageTest::uptime()

@@ -604,6 +604,12 @@ void RecordedMachineTest::recordingAnswersAlike_data()
     QTest::newRow("small") << changedRecording();
     QTest::newRow("default device twice") << changedRecording(
         R"({"graphics": {"defaultDevice": 1, "devices": [{"name": "A"}, {"name": "A"}, {"name": "B", "families": [-1, 2147483647]}]}})");
+    QTest::newRow("what is there for artificial intelligence")
+        << changedRecording(R"({"languageModel": {"state": 3},
+        "computeDevices": [{"kind": "other"}, {"kind": "neuralEngine", "totalCoreCount": 16}, {"kind": "cpu"}],
+        "accelerators": [{"name": "accel0", "driver": "intel_vpu"}, {"name": "0000:00:0b.0"}],
+        "renderNodes": [{"name": "renderD128"}, {"name": "renderD129", "driver": "i915", "accessible": true,
+                                                 "runtimeStatus": "suspended"}]})");
     QTest::newRow("path of every kind") << changedRecording(
         R"({"networkPath": {"status": "satisfiable", "isConstrained": true, "supportsDNS": true,
             "interfaceTypes": ["loopback", "other", "cellular", "wired", "wifi"]}})");
