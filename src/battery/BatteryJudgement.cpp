@@ -48,7 +48,7 @@ Condition conditionOf(const BatteryReading &reading)
         return Condition::PermanentFailure;
     if (asksForService(reading.health) || asksForService(reading.condition))
         return Condition::ServiceRecommended;
-    if (reading.health == "Good")
+    if (reading.health.has_value() ? reading.health == "Good" : reading.condition == "Good")
         return Condition::Normal;
     return reading.health || reading.condition ? Condition::Other : Condition::NotReported;
 }

@@ -147,7 +147,7 @@ std::optional<BatteryReading> readBattery(const platform::Machine &machine,
 {
     if (supplies)
         return readBattery(*supplies);
-    const auto sources = machine.power().powerSources();
+    const auto sources = machine.power().powerSources().value_or(std::vector<PropertyMap>());
     const auto source = std::ranges::find_if(sources, [](const PropertyMap &properties) {
         return get<std::string>(properties, "Type") == "InternalBattery";
     });

@@ -14,7 +14,14 @@ using namespace Qt::StringLiterals;
 bool VideoAcceleration::has(QStringView profile, QStringView entryPoint) const
 {
     return entries && std::ranges::any_of(*entries, [=](const auto &entry) {
-               return entry.first.startsWith(profile) && entry.second.startsWith(entryPoint);
+               return entry.first == profile && entry.second.startsWith(entryPoint);
+           });
+}
+
+bool VideoAcceleration::hasAny(QStringView codec, QStringView entryPoint) const
+{
+    return entries && std::ranges::any_of(*entries, [=](const auto &entry) {
+               return entry.first.startsWith(codec) && entry.second.startsWith(entryPoint);
            });
 }
 

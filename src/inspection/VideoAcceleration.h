@@ -23,8 +23,10 @@ struct VideoAcceleration
     std::optional<QString> driver;
     std::optional<Entries> entries; ///< none unless the list is complete; it may be empty
 
-    /// Whether a profile whose name begins so has an entry point whose name begins so.
+    /// Whether the profile has an entry point whose name begins so.
     bool has(QStringView profile, QStringView entryPoint) const;
+    /// The same for any profile of a codec: those whose names begin so.
+    bool hasAny(QStringView codec, QStringView entryPoint) const;
 };
 
 VideoAcceleration videoAcceleration(const platform::CommandAnswer &vainfo);

@@ -105,7 +105,7 @@ QList<CapabilityItem> linuxSecurityItems(const platform::Machine &machine, bool 
         items += judged(u"accessControl"_s, Text::tr("Access control"),
                         accessControlVerdict(*state.lsm, state.selinuxEnforcing));
     // /sys/devices/system/cpu/vulnerabilities
-    if (state.cpuVulnerabilities)
+    if (state.cpuVulnerabilities && !state.cpuVulnerabilities->empty())
         items += judged(u"cpuVulnerabilities"_s, Text::tr("Processor vulnerabilities"),
                         vulnerabilitiesVerdict(*state.cpuVulnerabilities));
     // A sandbox hides it all.

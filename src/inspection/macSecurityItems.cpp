@@ -182,7 +182,8 @@ QList<CapabilityItem> macSecurityItems(const platform::Machine &machine, bool is
     items += judged(u"gatekeeper"_s, u"Gatekeeper"_s, gatekeeperVerdict(state.spctl));
     // socketfilterfw --getglobalstate
     items += judged(u"firewall"_s, Text::tr("Firewall"), firewallVerdict(state.socketfilterfw));
-    items += secureBootItems(machine);
+    if (!isAppleSilicon)
+        items += secureBootItems(machine);
     items += judged(u"secureEnclave"_s, Text::tr("Secure Enclave"),
                     isGuest ? ofGuest : secureEnclaveVerdict(machine.registry(), isAppleSilicon));
     // LAContext canEvaluatePolicy:, then biometryType

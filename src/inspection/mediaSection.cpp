@@ -104,17 +104,20 @@ QList<CapabilityItem> codecItems(const VideoAcceleration &acceleration)
         return judged(key, label, hardwareVerdict(acceleration.has(profile, u"VAEntrypointVLD")));
     };
     // "VAEntrypointEncSlice" and, in a leaner kind of hardware, "VAEntrypointEncSliceLP"
-    const auto encoding = [&](const QString &key, const QString &label, QStringView profile) {
-        return judged(key, label, hardwareVerdict(acceleration.has(profile, u"VAEntrypointEncSlice")));
+    constexpr QStringView encoder = u"VAEntrypointEncSlice";
+    const auto encoding = [](const QString &key, const QString &label, bool inHardware) {
+        return judged(key, label, hardwareVerdict(inHardware));
     };
     return {
         decoding(u"h264Decoding"_s, Text::tr("H.264 decoding"), u"VAProfileH264Main"),
         decoding(u"hevcDecoding"_s, Text::tr("HEVC decoding"), u"VAProfileHEVCMain"),
         decoding(u"vp9Decoding"_s, Text::tr("VP9 decoding"), u"VAProfileVP9Profile0"),
         decoding(u"av1Decoding"_s, Text::tr("AV1 decoding"), u"VAProfileAV1Profile0"),
-        encoding(u"h264Encoding"_s, Text::tr("H.264 encoding"), u"VAProfileH264"),
-        encoding(u"hevcEncoding"_s, Text::tr("HEVC encoding"), u"VAProfileHEVCMain"),
-        encoding(u"av1Encoding"_s, Text::tr("AV1 encoding"), u"VAProfileAV1"),
+        encoding(u"h264Encoding"_s, Text::tr("H.264 encoding"),
+                 acceleration.hasAny(u"VAProfileH264", encoder)),
+        encoding(u"hevcEncoding"_s, Text::tr("HEVC encoding"),
+                 acceleration.has(u"VAProfileHEVCMain", encoder)),
+        encoding(u"av1Encoding"_s, Text::tr("AV1 encoding"), acceleration.hasAny(u"VAProfileAV1", encoder)),
     };
 }
 

@@ -65,8 +65,7 @@ QString sourceText(std::optional<Source> source, bool hasBattery)
     return notReadable();
 }
 
-/// `areSourcesKnown`: the system listed its power sources at all. A Mac always does: the list of a desktop is
-/// empty.
+/// `areSourcesKnown`: the system listed its power sources at all. The list of a desktop is empty.
 std::optional<Verdict> batteryVerdict(bool hasBattery, bool areSourcesKnown)
 {
     // The first power source of type "InternalBattery"; the first supply of type Battery
@@ -141,7 +140,8 @@ CapabilitySection powerSection(const platform::Machine &machine, const language:
         passing(fact(u"powerSource"_s, Text::tr("Power source"),
                      sourceText(sourceOf(settings, onMac, supplies, reading), reading.has_value()))),
         judged(u"battery"_s, Text::tr("Battery"),
-               batteryVerdict(reading.has_value(), onMac || supplies.has_value())),
+               batteryVerdict(reading.has_value(),
+                              supplies.has_value() || machine.power().powerSources().has_value())),
     };
     if (reading)
         items += batteryItems(*reading, onMac, formats);

@@ -33,8 +33,9 @@ public:
 
     /// One dictionary a source, in the system's order, with the keys of IOKit/ps/IOPSKeys.h: "Type"
     /// ("InternalBattery", "UPS"), "Current Capacity" and "Max Capacity" (percent), "Is Charging", "Power
-    /// Source State" ("AC Power", "Battery Power"), … Empty on a desktop computer.
-    virtual std::vector<PropertyMap> powerSources() const = 0;
+    /// Source State" ("AC Power", "Battery Power"), … Empty on a desktop computer,
+    /// none when there is no list to be had.
+    virtual std::optional<std::vector<PropertyMap>> powerSources() const = 0;
 
     virtual PowerSettings settings() const = 0;
 

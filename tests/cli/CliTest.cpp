@@ -185,6 +185,8 @@ void CliTest::wrongCommandLines_data()
     row(u"inspect --language"_s, u"quillmark inspect"_s);
     row(u"inspect --bogus"_s, u"quillmark inspect"_s);
     row(u"inspect extra"_s, u"quillmark inspect"_s);
+    row(u"inspect --machine="_s, u"quillmark inspect"_s);
+    row(u"inspect two\n\u001b[31mlines"_s, u"quillmark inspect"_s);
     row(u"inspect --status"_s, u"quillmark inspect"_s);
     row(u"inspect --status bad"_s, u"quillmark inspect"_s);
     row(u"inspect --status Warning"_s, u"quillmark inspect"_s);

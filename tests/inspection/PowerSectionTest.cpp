@@ -50,7 +50,9 @@ void PowerSectionTest::wholeSections_data()
     const auto row = [](const char *name, const QByteArray &changes, const QStringList &expected) {
         QTest::newRow(name) << changes << expected;
     };
-    row("a Mac before low power mode", R"({"operatingSystem": {"major": 11}})",
+    row("a Mac without a list", R"({"operatingSystem": {"major": 11}})",
+        {u"powerSource | Not readable | info"_s, u"battery | Not readable | info"_s});
+    row("a Mac before low power mode", R"({"operatingSystem": {"major": 11}, "powerSources": []})",
         {u"powerSource | Not readable | info"_s, u"battery | None (desktop) | info"_s});
     row("a Mac's battery of which nothing is told", mac(""),
         {u"powerSource | Not readable | info"_s, u"battery | Built in | supported"_s,

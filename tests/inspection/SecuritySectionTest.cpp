@@ -153,7 +153,7 @@ void SecuritySectionTest::hardware_data()
     const auto policy = [&row](const char *name, const char *value, const QString &expected) {
         row(name, u"secureBoot"_s,
             QByteArray(
-                R"({"registry": {"IODeviceTree:/options": {"94b73556-2197-4702-82a8-3e1337dafbfb:AppleSecureBootPolicy": )") +
+                R"({"sysctl": {"hw.optional.arm64": 0}, "registry": {"IODeviceTree:/options": {"94b73556-2197-4702-82a8-3e1337dafbfb:AppleSecureBootPolicy": )") +
                 value + "}}}",
             expected);
     };
@@ -163,6 +163,9 @@ void SecuritySectionTest::hardware_data()
     policy("policy 3", R"({"hex": "03"})", u"Not readable | info"_s);
     policy("policy of two bytes", R"({"hex": "0200"})", u"Not readable | info"_s);
     policy("no policy", "null", u"absent"_s);
+    row("policy on Apple silicon", u"secureBoot"_s,
+        R"({"registry": {"IODeviceTree:/options": {"94b73556-2197-4702-82a8-3e1337dafbfb:AppleSecureBootPolicy": {"hex": "02"}}}})",
+        u"absent"_s);
 
     const auto chip = [&row](const char *name, const char *value, const QString &expected) {
         row(name, u"secureEnclave"_s,

@@ -53,7 +53,7 @@ public:
             reading.pressureLevel = pressureLevel(*text);
         reading.links = readInterfaces(InterfaceEntries::Links);
         reading.thermalState = m_thermalZones.state();
-        reading.powerSources = m_power.powerSources();
+        reading.powerSources = m_power.powerSources().value_or(std::vector<PropertyMap>());
         return reading;
     }
 

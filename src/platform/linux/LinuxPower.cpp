@@ -135,9 +135,11 @@ LinuxPower::LinuxPower(const Files &files)
     : m_files(files)
 {}
 
-std::vector<PropertyMap> LinuxPower::powerSources() const
+std::optional<std::vector<PropertyMap>> LinuxPower::powerSources() const
 {
     const std::vector<Supply> supplies = suppliesOf(m_files);
+    if (supplies.empty() && !m_files.exists(suppliesFolder))
+        return std::nullopt;
     const bool isLineOnline = std::ranges::any_of(supplies, bringsPower);
     std::vector<PropertyMap> sources;
     for (const std::string_view type : {"Battery", "UPS"}) {

@@ -15,7 +15,7 @@ class LinuxPower final : public Power
 public:
     explicit LinuxPower(const Files &files);
 
-    std::vector<PropertyMap> powerSources() const override;
+    std::optional<std::vector<PropertyMap>> powerSources() const override;
     PowerSettings settings() const override;
     std::optional<std::map<std::string, PropertyMap>> powerSupplies() const override;
 

@@ -13,18 +13,19 @@ using Supplies = std::map<std::string, PropertyMap>;
 class RecordedPower final : public Power
 {
 public:
-    RecordedPower(std::vector<PropertyMap> sources, PowerSettings settings, std::optional<Supplies> supplies)
+    RecordedPower(std::optional<std::vector<PropertyMap>> sources, PowerSettings settings,
+                  std::optional<Supplies> supplies)
         : m_sources(std::move(sources))
         , m_settings(std::move(settings))
         , m_supplies(std::move(supplies))
     {}
 
-    std::vector<PropertyMap> powerSources() const override { return m_sources; }
+    std::optional<std::vector<PropertyMap>> powerSources() const override { return m_sources; }
     PowerSettings settings() const override { return m_settings; }
     std::optional<Supplies> powerSupplies() const override { return m_supplies; }
 
 private:
-    std::vector<PropertyMap> m_sources;
+    std::optional<std::vector<PropertyMap>> m_sources;
     PowerSettings m_settings;
     std::optional<Supplies> m_supplies;
 };
@@ -80,18 +81,19 @@ void writeSettings(json::Writer &writer, const PowerSettings &settings)
 
 std::unique_ptr<Power> readPower(const Members &recording)
 {
-    return std::make_unique<RecordedPower>(
-        recording.dictionaries("powerSources").value_or(std::vector<PropertyMap>()), readSettings(recording),
-        readSupplies(recording));
+    return std::make_unique<RecordedPower>(recording.dictionaries("powerSources"), readSettings(recording),
+                                           readSupplies(recording));
 }
 
 void write(json::Writer &writer, const Power &power)
 {
-    writer.key("powerSources");
-    writer.beginArray();
-    for (const auto &source : power.powerSources())
-        writeProperties(writer, withoutIdentifiers(source));
-    writer.endArray();
+    if (const auto sources = power.powerSources()) {
+        writer.key("powerSources");
+        writer.beginArray();
+        for (const auto &source : *sources)
+            writeProperties(writer, withoutIdentifiers(source));
+        writer.endArray();
+    }
     writeSettings(writer, power.settings());
     if (const auto supplies = power.powerSupplies()) {
         writer.key("powerSupplies");

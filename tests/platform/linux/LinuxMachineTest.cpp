@@ -111,7 +111,8 @@ QStringList system(const Machine &machine, bool hasProcessor)
 QStringList power(const Machine &machine)
 {
     QStringList lines;
-    for (const PropertyMap &source : machine.power().powerSources()) {
+    const auto sources = machine.power().powerSources();
+    for (const PropertyMap &source : sources.value_or(std::vector<PropertyMap>())) {
         QStringList parts;
         for (const auto &[key, property] : source) {
             QString value = u"?"_s;
@@ -187,7 +188,7 @@ QStringList counters(const Machine &machine, CounterReader &reader)
     if (reading.pressureLevel)
         lines << u"pressure: "_s + shown(*reading.pressureLevel);
     if (reading.thermalState != machine.system().thermalState() ||
-        reading.powerSources != machine.power().powerSources())
+        reading.powerSources != machine.power().powerSources().value_or(std::vector<PropertyMap>()))
         lines << u"another state than when asked directly"_s;
     return lines;
 }
