@@ -25,6 +25,22 @@ QString singleLine(const QString &text)
     return result;
 }
 
+QString scoreLine(const Report &report)
+{
+    const auto rated = inspection::ratedCount(report.sections);
+    if (rated == 0)
+        return {};
+    return Text::tr("Capability score: %1% (%2 of %3 rated capabilities supported)")
+        .arg(inspection::scorePercent(report.sections))
+        .arg(inspection::count(report.sections, inspection::CapabilityStatus::Supported))
+        .arg(rated);
+}
+
+QString nothingMatches()
+{
+    return Text::tr("No rows match.");
+}
+
 QList<inspection::CapabilitySection> filteredSections(const Report &report)
 {
     auto sections = report.sections;

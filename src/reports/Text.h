@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "reports/Report.h"
+
 #include <QCoreApplication>
 
 namespace quillmark::reports {
@@ -16,5 +18,11 @@ class Text
 /// The text for one line of a report: line breaks become spaces, other control characters, which would steer
 /// a terminal that the report is shown on or pasted into, U+FFFD.
 QString singleLine(const QString &text);
+
+/// "Capability score: 83% (20 of 24 rated capabilities supported)"; empty when nothing is rated.
+QString scoreLine(const Report &report);
+
+/// Stands in a report none of whose rows were asked for.
+QString nothingMatches();
 
 } // namespace quillmark::reports

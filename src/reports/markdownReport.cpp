@@ -43,21 +43,21 @@ QString markdown(const Report &report)
     text += escaped(Text::tr("%1 · %2 memory · %3 storage · %4")
                         .arg(summary.chip, summary.memory, summary.storage, summary.osVersion)) +
             u"\n\n"_s;
-    text += u"**%1**\n"_s.arg(
-        escaped(Text::tr("Capability score: %1% (%2 of %3 capabilities supported)")
-                    .arg(inspection::scorePercent(report.sections))
-                    .arg(inspection::count(report.sections, inspection::CapabilityStatus::Supported))
-                    .arg(inspection::ratedCount(report.sections))));
+    if (const auto score = scoreLine(report); !score.isEmpty())
+        text += u"**%1**\n"_s.arg(escaped(score));
+    QString tables;
     for (const auto &section : filteredSections(report)) {
         if (section.items.isEmpty())
             continue;
-        text += u"\n## %1\n\n"_s.arg(escaped(section.title));
-        text +=
+        tables += u"\n## %1\n\n"_s.arg(escaped(section.title));
+        tables +=
             row(Text::tr("Capability"), Text::tr("Value"), Text::tr("Status")) + u"| --- | --- | --- |\n"_s;
         for (const auto &item : section.items)
-            text += row(escaped(item.label), escaped(item.value), escaped(inspection::title(item.status)));
+            tables += row(escaped(item.label), escaped(item.value), escaped(inspection::title(item.status)));
     }
-    return text;
+    if (tables.isEmpty() && report.filter)
+        tables = u'\n' + escaped(nothingMatches()) + u'\n';
+    return text + tables;
 }
 
 } // namespace quillmark::reports

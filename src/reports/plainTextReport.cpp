@@ -23,11 +23,13 @@ QString headline(const Report &report)
                          locale.toString(local.time(), QLocale::ShortFormat)) +
                 u'\n';
     }
-    if (const auto rated = inspection::ratedCount(report.sections); rated > 0) {
-        text += Text::tr("Capability score: %1% (%2 of %3 capabilities supported)")
-                    .arg(inspection::scorePercent(report.sections))
-                    .arg(inspection::count(report.sections, inspection::CapabilityStatus::Supported))
-                    .arg(rated) +
+    if (const auto score = scoreLine(report); !score.isEmpty())
+        text += score + u'\n';
+    const auto &summary = report.summary;
+    if (!summary.deviceName.isEmpty()) {
+        text += u'\n' + singleLine(summary.deviceName) + u'\n';
+        text += singleLine(Text::tr("%1 · %2 memory · %3 storage · %4")
+                               .arg(summary.chip, summary.memory, summary.storage, summary.osVersion)) +
                 u'\n';
     }
     return text;
@@ -46,15 +48,17 @@ QString line(const inspection::CapabilityItem &item)
 
 QString plainText(const Report &report)
 {
-    QString text = headline(report);
+    QString rows;
     for (const auto &section : filteredSections(report)) {
         if (section.items.isEmpty())
             continue;
-        text += u'\n' + section.title + u'\n';
+        rows += u'\n' + section.title + u'\n';
         for (const auto &item : section.items)
-            text += u"  "_s + singleLine(line(item)) + u'\n';
+            rows += u"  "_s + singleLine(line(item)) + u'\n';
     }
-    return text;
+    if (rows.isEmpty() && report.filter)
+        rows = u'\n' + nothingMatches() + u'\n';
+    return headline(report) + rows;
 }
 
 } // namespace quillmark::reports

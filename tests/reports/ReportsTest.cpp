@@ -130,8 +130,9 @@ void ReportsTest::plainText()
     QCOMPARE(lines[0], u"Quillmark report"_s);
     QVERIFY2(lines[1].startsWith(u"Inspected on Sunday, November 22, 2026 at 8:35"_s), qPrintable(lines[1]));
     QVERIFY2(lines[2].startsWith(u"Capability score: "_s), qPrintable(lines[2]));
-    QCOMPARE(lines[3], QString());
-    QCOMPARE(lines[4], u"System"_s);
+    QCOMPARE(lines[4], report.summary.deviceName);
+    QVERIFY2(lines[5].startsWith(report.summary.chip + u" · "_s), qPrintable(lines[5]));
+    QCOMPARE(lines[7], u"System"_s);
     QVERIFY(lines.contains(u"  Thermal state: Hot [Warning]"_s));
     QVERIFY(lines.contains(u"  Ray tracing: Supported"_s));
     QVERIFY(lines.contains(u"  Metal 4: Requires macOS 26 [Not supported]"_s));
