@@ -3,7 +3,7 @@
 
 #include "platform/linux/LinuxKernelValues.h"
 
-#include "platform/linux/KernelRecord.h"
+#include "platform/KernelRecord.h"
 #include "platform/linux/MemoryFiles.h"
 #include "platform/linux/TextFields.h"
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
+#include "platform/KernelRecord.h"
 #include "platform/recorded/PropertyJson.h"
 #include "platform/recorded/Subjects.h"
 
@@ -12,14 +13,6 @@
 namespace quillmark::platform::recorded {
 
 namespace {
-
-template <typename Integer>
-Bytes bytesOf(Integer number)
-{
-    Bytes bytes(sizeof number);
-    std::memcpy(bytes.data(), &number, sizeof number);
-    return bytes;
-}
 
 template <typename Integer>
 Integer integerOf(const Bytes &bytes)
@@ -52,11 +45,11 @@ std::optional<Bytes> readSizedInteger(const Members &values, std::string_view na
     const auto sized = values.members(name);
     if (sized && sized->has("int32")) {
         const auto number = sized->integer<std::int32_t>("int32");
-        return number ? std::optional(bytesOf(*number)) : std::nullopt;
+        return number ? std::optional(numberRecord(*number)) : std::nullopt;
     }
     if (sized && sized->has("int64")) {
         const auto number = sized->integer<std::int64_t>("int64");
-        return number ? std::optional(bytesOf(*number)) : std::nullopt;
+        return number ? std::optional(numberRecord(*number)) : std::nullopt;
     }
     values.fail(name, R"(must hold "int32", "int64" or "hex")");
     return std::nullopt;
@@ -121,14 +114,11 @@ void writeValue(json::Writer &writer, const Bytes &bytes, Kind kind)
 
 std::optional<Bytes> readKernelValue(const Members &values, std::string_view name)
 {
-    if (const auto *text = find<std::string>(values.object(), name)) {
-        Bytes bytes(text->size() + 1); // with its terminating zero
-        std::memcpy(bytes.data(), text->data(), text->size());
-        return bytes;
-    }
+    if (const auto *text = find<std::string>(values.object(), name))
+        return textRecord(*text);
     if (const auto number = get<std::int64_t>(values.object(), name)) {
-        return std::in_range<std::int32_t>(*number) ? bytesOf(static_cast<std::int32_t>(*number))
-                                                    : bytesOf(*number);
+        return std::in_range<std::int32_t>(*number) ? numberRecord(static_cast<std::int32_t>(*number))
+                                                    : numberRecord(*number);
     }
     if (auto bytes = get<Bytes>(values.object(), name))
         return bytes;
