@@ -3,9 +3,27 @@
 
 #include "reports/Report.h"
 
+#include "language/Formats.h"
 #include "reports/Text.h"
 
 namespace quillmark::reports {
+
+namespace {
+
+QString title(PrivateText text)
+{
+    switch (text) {
+    case PrivateText::ComputerName:
+        return Text::tr("computer name");
+    case PrivateText::Addresses:
+        return Text::tr("addresses");
+    case PrivateText::VolumeNames:
+        return Text::tr("volume names");
+    }
+    return {};
+}
+
+} // namespace
 
 QString applicationVersion()
 {
@@ -39,6 +57,16 @@ QString scoreLine(const Report &report)
 QString nothingMatches()
 {
     return Text::tr("No rows match.");
+}
+
+QString leftOutNote(const Report &report)
+{
+    if (report.leftOut.isEmpty())
+        return {};
+    QStringList words;
+    for (const auto text : report.leftOut)
+        words.append(title(text));
+    return Text::tr("Left out of this report: %1.").arg(language::Formats(report.language).list(words));
 }
 
 QList<inspection::CapabilitySection> filteredSections(const Report &report)

@@ -15,6 +15,9 @@
 
 namespace quillmark::reports {
 
+/// Texts that tell whose machine it is or where it stands.
+enum class PrivateText { ComputerName, Addresses, VolumeNames };
+
 /// One inspection as it is written down. Every format walks this value, so that no two of them disagree.
 struct Report
 {
@@ -24,10 +27,15 @@ struct Report
     QList<inspection::CapabilitySection> sections; ///< all of them, in inspection order
     /// The rows to write; empty: all. Counts and score are of all rows in any case.
     std::function<bool(const inspection::CapabilitySection &, const inspection::CapabilityItem &)> filter;
+    /// What was taken out of the summary and the rows; a written report says so at its foot.
+    QList<PrivateText> leftOut;
 };
 
 /// The version of this program, "1.0.0".
 QString applicationVersion();
+
+/// "Left out of this report: computer name, addresses, and volume names."; empty when nothing was.
+QString leftOutNote(const Report &report);
 
 /// The sections of the report with the rows that the filter lets through; sections left without rows stand
 /// there too.
