@@ -160,6 +160,21 @@ QString title(Health health)
     return {};
 }
 
+QString title(Warmth warmth)
+{
+    switch (warmth) {
+    case Warmth::NotReported:
+        return Text::tr("Not reported");
+    case Warmth::Cold:
+        return Text::tr("Cold");
+    case Warmth::Normal:
+        return Text::tr("Normal");
+    case Warmth::Hot:
+        return Text::tr("Hot");
+    }
+    return {};
+}
+
 QString conditionTitle(const BatteryJudgement &judgement)
 {
     switch (judgement.condition) {

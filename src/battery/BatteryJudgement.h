@@ -56,6 +56,8 @@ Rating cycleRating(const BatteryJudgement &judgement);
 
 /// "Normal", "Reduced", "Worn", "Not reported".
 QString title(Health health);
+/// "Cold", "Normal", "Hot", "Not reported".
+QString title(Warmth warmth);
 /// "Normal", "Service recommended", …, or the system's own word.
 QString conditionTitle(const BatteryJudgement &judgement);
 /// What the whole comes to, in a sentence or two.

@@ -110,6 +110,7 @@ std::optional<TimeRemaining> timeRemainingOf(const PropertyMap &source, std::opt
 
 void readSource(BatteryReading &reading, const PropertyMap &source, bool isAppleSilicon)
 {
+    reading.name = word(source, "Name");
     reading.level = levelOf(source);
     reading.isCharging = get<bool>(source, "Is Charging");
     reading.onAC = onACOf(source);
@@ -135,18 +136,9 @@ void readService(BatteryReading &reading, const PropertyMap &service, bool isApp
     reading.failureBits = get<std::int64_t>(service, "PermanentFailureStatus");
 }
 
-} // namespace
-
-std::optional<BatteryReading> readBattery(const platform::Machine &machine, bool isAppleSilicon)
+/// A Mac has one at most.
+std::optional<BatteryReading> readMacBattery(const platform::Machine &machine, bool isAppleSilicon)
 {
-    return readBattery(machine, machine.power().powerSupplies(), isAppleSilicon);
-}
-
-std::optional<BatteryReading> readBattery(const platform::Machine &machine,
-                                          const std::optional<Supplies> &supplies, bool isAppleSilicon)
-{
-    if (supplies)
-        return readBattery(*supplies);
     const auto sources = machine.power().powerSources().value_or(std::vector<PropertyMap>());
     const auto source = std::ranges::find_if(sources, [](const PropertyMap &properties) {
         return get<std::string>(properties, "Type") == "InternalBattery";
@@ -162,6 +154,51 @@ std::optional<BatteryReading> readBattery(const platform::Machine &machine,
     }
     readSource(reading, *source, isAppleSilicon);
     return reading;
+}
+
+} // namespace
+
+std::vector<BatteryReading> readBatteries(const platform::Machine &machine, bool isAppleSilicon)
+{
+    return readBatteries(machine, machine.power().powerSupplies(), isAppleSilicon);
+}
+
+std::vector<BatteryReading> readBatteries(const platform::Machine &machine,
+                                          const std::optional<Supplies> &supplies, bool isAppleSilicon)
+{
+    if (supplies)
+        return readBatteries(*supplies);
+    const auto battery = readMacBattery(machine, isAppleSilicon);
+    return battery ? std::vector{*battery} : std::vector<BatteryReading>();
+}
+
+std::optional<BatteryReading> readBattery(const platform::Machine &machine, bool isAppleSilicon)
+{
+    return readBattery(machine, machine.power().powerSupplies(), isAppleSilicon);
+}
+
+std::optional<BatteryReading> readBattery(const platform::Machine &machine,
+                                          const std::optional<Supplies> &supplies, bool isAppleSilicon)
+{
+    const auto batteries = readBatteries(machine, supplies, isAppleSilicon);
+    return batteries.empty() ? std::nullopt : std::optional(batteries.front());
+}
+
+std::optional<int> reportedMaximumPercent(const platform::Machine &machine)
+{
+    const auto report = machine.power().powerReport();
+    const auto text =
+        report ? get<std::string>(*report, "sppower_battery_health_maximum_capacity") : std::nullopt;
+    if (!text)
+        return std::nullopt;
+    // The sign stands where the system's language puts it: "94%", "94 %", "%94".
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const auto first = std::ranges::find_if(*text, isDigit);
+    int percent = 0;
+    constexpr int most = 100;
+    for (auto digit = first; digit != text->end() && isDigit(*digit) && percent <= most; ++digit)
+        percent = percent * 10 + (*digit - '0');
+    return text->contains('%') && percent >= 1 && percent <= most ? std::optional(percent) : std::nullopt;
 }
 
 std::optional<int> chargePercent(const BatteryReading &reading)

@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quillmark::battery {
 
@@ -29,9 +30,13 @@ struct TimeRemaining
 /// has another type than it should or cannot be true is absent.
 struct BatteryReading
 {
+    std::optional<std::string> name;             ///< the system's: "BAT0", "InternalBattery-0"
     std::optional<std::int64_t> designCapacity;  ///< in `unit`
     std::optional<std::int64_t> presentCapacity; ///< when full, in `unit`
     CapacityUnit unit = CapacityUnit::MilliampereHours;
+    /// Percent of the design capacity by macOS's own reckoning, from 1 to 100. Absent unless it was asked
+    /// for: see reportedMaximumPercent().
+    std::optional<int> reportedMaximumPercent;
     std::optional<std::int64_t> cycleCount;
     std::optional<std::int64_t> ratedCycleCount;
     std::optional<double> temperature;   ///< °C, in whole tenths
@@ -53,11 +58,21 @@ struct BatteryReading
 /// The properties of each of Linux's power supplies, by its name.
 using Supplies = std::map<std::string, platform::PropertyMap>;
 
-/// None on a machine without a battery of its own. `isAppleSilicon` settles what macOS means by some keys.
-std::optional<BatteryReading> readBattery(const platform::Machine &machine, bool isAppleSilicon);
+/// Every battery that powers the machine itself, in the order of the system's names; empty when there is
+/// none. `isAppleSilicon` settles what macOS means by some keys.
+std::vector<BatteryReading> readBatteries(const platform::Machine &machine, bool isAppleSilicon);
 /// The same where the supplies have been read; absent on a Mac.
+std::vector<BatteryReading> readBatteries(const platform::Machine &machine,
+                                          const std::optional<Supplies> &supplies, bool isAppleSilicon);
+
+/// The first of them, for which the rows of an inspection stand.
+std::optional<BatteryReading> readBattery(const platform::Machine &machine, bool isAppleSilicon);
 std::optional<BatteryReading> readBattery(const platform::Machine &machine,
                                           const std::optional<Supplies> &supplies, bool isAppleSilicon);
+
+/// macOS's own figure beside the gauge's. Runs a helper program that may take ten seconds: only for who looks
+/// at the battery, and off the main thread. None on other systems.
+std::optional<int> reportedMaximumPercent(const platform::Machine &machine);
 
 /// The level as it is shown; none when there is no such level.
 std::optional<int> chargePercent(const BatteryReading &reading);

@@ -50,24 +50,45 @@ bool isOwnBattery(const PropertyMap &supply)
            textOf(supply, "PRESENT") != "0";
 }
 
-/// Whether the machine runs on power from outside; none when neither a line nor the battery tells.
-std::optional<bool> runsOnLine(std::string_view status, bool isLineOnline)
+/// What the supplies together say of where the power comes from.
+struct Surroundings
 {
-    if (isLineOnline || status == "Charging" || status == "Not charging" || status == "Full")
-        return true;
-    return status == "Discharging" ? std::optional(false) : std::nullopt;
+    bool isLineOnline = false;
+    bool isABatteryDrained = false; ///< one of the machine's own, with no line online
+};
+
+Surroundings surroundingsOf(const Supplies &supplies)
+{
+    const bool isLineOnline =
+        std::ranges::any_of(supplies, [](const auto &supply) { return bringsPower(supply.second); });
+    const bool isOneDrained = std::ranges::any_of(supplies, [](const auto &supply) {
+        return isOwnBattery(supply.second) && textOf(supply.second, "STATUS") == "Discharging";
+    });
+    return {.isLineOnline = isLineOnline, .isABatteryDrained = isOneDrained && !isLineOnline};
 }
 
-std::optional<ChargeState> chargeStateOf(std::string_view status, bool isLineOnline)
+/// Whether the machine runs on power from outside; none when neither a line nor the battery tells.
+std::optional<bool> runsOnLine(std::string_view status, const Surroundings &surroundings)
+{
+    if (surroundings.isABatteryDrained)
+        return false;
+    if (surroundings.isLineOnline || status == "Charging" || status == "Not charging" || status == "Full")
+        return true;
+    return std::nullopt;
+}
+
+std::optional<ChargeState> chargeStateOf(std::string_view status, const Surroundings &surroundings)
 {
     if (status == "Charging")
         return ChargeState::Charging;
     if (status == "Full")
         return ChargeState::Full;
+    // Of two batteries one waits while the other is drained.
+    if (surroundings.isABatteryDrained && (status == "Discharging" || status == "Not charging"))
+        return ChargeState::OnBattery;
     // A battery may be drained on purpose, or help a weak adapter, while it is connected.
-    if (status == "Not charging" || (status == "Discharging" && isLineOnline))
-        return ChargeState::NotCharging;
-    return status == "Discharging" ? std::optional(ChargeState::OnBattery) : std::nullopt;
+    return status == "Not charging" || status == "Discharging" ? std::optional(ChargeState::NotCharging)
+                                                               : std::nullopt;
 }
 
 void readCapacities(BatteryReading &reading, const PropertyMap &supply)
@@ -102,25 +123,35 @@ std::optional<TimeRemaining> timeRemainingOf(const PropertyMap &supply, ChargeSt
     return timeRemaining(minutes, untilFull);
 }
 
-BatteryReading readSupply(const PropertyMap &supply, bool isLineOnline)
+/// The kernel's sign differs from driver to driver.
+std::optional<std::int64_t> signedCurrent(const PropertyMap &supply, std::string_view status)
+{
+    const auto current = thousandths(numberOf(supply, "CURRENT_NOW"));
+    if (!current || (status != "Discharging" && status != "Charging"))
+        return current;
+    return status == "Discharging" ? -std::abs(*current) : std::abs(*current);
+}
+
+BatteryReading readSupply(const std::string &name, const PropertyMap &supply,
+                          const Surroundings &surroundings)
 {
     const std::string_view status = textOf(supply, "STATUS");
     BatteryReading reading;
+    reading.name = name;
     readCapacities(reading, supply);
     // Where a driver does not count cycles it says 0.
     reading.cycleCount = positive(numberOf(supply, "CYCLE_COUNT"));
     reading.temperature = temperature(numberOf(supply, "TEMP"), 0);
     reading.voltage = positive(thousandths(numberOf(supply, "VOLTAGE_NOW")));
-    if (const auto current = thousandths(numberOf(supply, "CURRENT_NOW")))
-        reading.current = status == "Discharging" ? -std::abs(*current) : *current;
+    reading.current = signedCurrent(supply, status);
     if (const auto percent = numberOf(supply, "CAPACITY"); percent && *percent >= 0)
         reading.level = static_cast<double>(std::min<std::int64_t>(*percent, 100)) / 100;
-    reading.chargeState = chargeStateOf(status, isLineOnline);
+    reading.chargeState = chargeStateOf(status, surroundings);
     if (reading.chargeState) {
         reading.isCharging = reading.chargeState == ChargeState::Charging;
         reading.timeRemaining = timeRemainingOf(supply, *reading.chargeState);
     }
-    reading.onAC = runsOnLine(status, isLineOnline);
+    reading.onAC = runsOnLine(status, surroundings);
     if (const auto health = textOf(supply, "HEALTH"); !health.empty() && health != "Unknown")
         reading.health = health;
     if (const auto limit = numberOf(supply, "CHARGE_CONTROL_END_THRESHOLD");
@@ -144,15 +175,15 @@ bool isDrainedUps(const PropertyMap &supply)
     return textOf(supply, "TYPE") == "UPS" && textOf(supply, "STATUS") == "Discharging";
 }
 
-std::optional<BatteryReading> readBattery(const Supplies &supplies)
+std::vector<BatteryReading> readBatteries(const Supplies &supplies)
 {
-    const auto battery =
-        std::ranges::find_if(supplies, [](const auto &supply) { return isOwnBattery(supply.second); });
-    if (battery == supplies.end())
-        return std::nullopt;
-    const bool isLineOnline =
-        std::ranges::any_of(supplies, [](const auto &supply) { return bringsPower(supply.second); });
-    return readSupply(battery->second, isLineOnline);
+    const auto surroundings = surroundingsOf(supplies);
+    std::vector<BatteryReading> batteries;
+    for (const auto &[name, supply] : supplies) {
+        if (isOwnBattery(supply))
+            batteries.push_back(readSupply(name, supply, surroundings));
+    }
+    return batteries;
 }
 
 } // namespace quillmark::battery

@@ -5,14 +5,14 @@
 
 #include "battery/BatteryReading.h"
 
-#include <optional>
+#include <vector>
 
 // The power supplies of Linux.
 
 namespace quillmark::battery {
 
-/// The first battery that powers the machine itself; none when there is none.
-std::optional<BatteryReading> readBattery(const Supplies &supplies);
+/// The batteries that power the machine itself, by name.
+std::vector<BatteryReading> readBatteries(const Supplies &supplies);
 
 /// Whether the supply brings power from outside now.
 bool bringsPower(const platform::PropertyMap &supply);

@@ -3,7 +3,6 @@
 
 #include "inspection/batteryItems.h"
 
-#include "battery/BatteryJudgement.h"
 #include "inspection/Text.h"
 #include "inspection/rows.h"
 #include "inspection/values.h"
@@ -20,21 +19,6 @@ namespace {
 using battery::BatteryJudgement;
 using battery::BatteryReading;
 using battery::ChargeState;
-
-CapabilityStatus statusOf(battery::Rating rating)
-{
-    switch (rating) {
-    case battery::Rating::Info:
-        return CapabilityStatus::Info;
-    case battery::Rating::Supported:
-        return CapabilityStatus::Supported;
-    case battery::Rating::Warning:
-        return CapabilityStatus::Warning;
-    case battery::Rating::Unsupported:
-        return CapabilityStatus::Unsupported;
-    }
-    return CapabilityStatus::Info;
-}
 
 std::optional<Verdict> healthVerdict(const BatteryJudgement &judgement, const language::Formats &formats)
 {
@@ -108,6 +92,21 @@ QString timeText(const battery::TimeRemaining &time, const language::Formats &fo
 }
 
 } // namespace
+
+CapabilityStatus statusOf(battery::Rating rating)
+{
+    switch (rating) {
+    case battery::Rating::Info:
+        return CapabilityStatus::Info;
+    case battery::Rating::Supported:
+        return CapabilityStatus::Supported;
+    case battery::Rating::Warning:
+        return CapabilityStatus::Warning;
+    case battery::Rating::Unsupported:
+        return CapabilityStatus::Unsupported;
+    }
+    return CapabilityStatus::Info;
+}
 
 QList<CapabilityItem> batteryItems(const BatteryReading &reading, bool onMac,
                                    const language::Formats &formats)

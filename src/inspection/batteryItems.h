@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "battery/BatteryJudgement.h"
 #include "battery/BatteryReading.h"
 #include "inspection/CapabilityModel.h"
 #include "language/Formats.h"
@@ -10,6 +11,9 @@
 #include <QList>
 
 namespace quillmark::inspection {
+
+/// How a row shows the rating.
+CapabilityStatus statusOf(battery::Rating rating);
 
 /// The rows about a battery that is there, from its health to the time that remains. On a Mac its condition
 /// has a row even when it is not told.

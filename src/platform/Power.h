@@ -43,6 +43,12 @@ public:
     /// "Battery", all of them texts), by the supply's name, without those that identify it. None on a Mac,
     /// and where they cannot be read.
     virtual std::optional<std::map<std::string, PropertyMap>> powerSupplies() const = 0;
+
+    /// macOS: what `system_profiler SPPowerDataType -json` tells under "sppower_battery_health_info":
+    /// "sppower_battery_health" ("Good"), "sppower_battery_health_maximum_capacity" ("94%"), … None without a
+    /// battery, on other systems, and where the answer takes longer than ten seconds. It takes seconds in any
+    /// case, so an inspection does not ask.
+    virtual std::optional<PropertyMap> powerReport() const = 0;
 };
 
 /// Whether a property of a supply tells it from others of its kind: its serial number, maker and model.

@@ -110,6 +110,9 @@ private Q_SLOTS:
     void readings();
     void largeNumbers();
     void noBattery();
+    void severalBatteries();
+    void reportedFigure_data();
+    void reportedFigure();
     void health_data();
     void health();
     void judgements_data();
@@ -195,7 +198,7 @@ void BatteryTest::readings_data()
         linuxBattery("STATUS=Charging,CHARGE_FULL_DESIGN=5000000,CHARGE_FULL=4000000,CHARGE_NOW=3000000,"
                      "ENERGY_FULL=1,CURRENT_NOW=-500000,CYCLE_COUNT=3,CAPACITY=101,HEALTH=Good,"
                      "CHARGE_CONTROL_END_THRESHOLD=101"),
-        {u"design 5000"_s, u"present 4000"_s, u"cycles 3"_s, u"current -500"_s, u"level 1"_s,
+        {u"design 5000"_s, u"present 4000"_s, u"cycles 3"_s, u"current 500"_s, u"level 1"_s,
          u"charging yes"_s, u"AC yes"_s, u"state charging"_s, u"time 120 to full"_s, u"health Good"_s});
     row("Linux at rest",
         linuxBattery("STATUS=Discharging,ENERGY_NOW=1000,POWER_NOW=0,CHARGE_CONTROL_END_THRESHOLD=80"),
@@ -236,6 +239,60 @@ void BatteryTest::noBattery()
           // Where the supplies are listed, they alone count.
           QByteArray(R"({"powerSupplies": {}, "powerSources": [{"Type": "InternalBattery"}]})")})
         QVERIFY2(!readingOf(changes), changes.constData());
+}
+
+/// Of two batteries, as some laptops have them, one waits while the other is drained: the machine runs on
+/// neither's line. The first by name stands for the machine.
+void BatteryTest::severalBatteries()
+{
+    const auto machine = changedMachine(R"({"powerSupplies": {
+        "AC": {"POWER_SUPPLY_TYPE": "Mains", "POWER_SUPPLY_ONLINE": "0"},
+        "BAT1": {"POWER_SUPPLY_TYPE": "Battery", "POWER_SUPPLY_STATUS": "Discharging",
+                 "POWER_SUPPLY_ENERGY_FULL_DESIGN": "47500000", "POWER_SUPPLY_ENERGY_FULL": "23000000"},
+        "BAT0": {"POWER_SUPPLY_TYPE": "Battery", "POWER_SUPPLY_STATUS": "Not charging",
+                 "POWER_SUPPLY_ENERGY_FULL_DESIGN": "23500000", "POWER_SUPPLY_ENERGY_FULL": "23000000"},
+        "BAT2": {"POWER_SUPPLY_TYPE": "Battery", "POWER_SUPPLY_PRESENT": "0"},
+        "mouse": {"POWER_SUPPLY_TYPE": "Battery", "POWER_SUPPLY_SCOPE": "Device"}}})");
+    const auto batteries = readBatteries(*machine, false);
+    QCOMPARE(batteries.size(), std::size_t{2});
+    QCOMPARE(shown(batteries[0].name), u"BAT0"_s);
+    QCOMPARE(shown(batteries[1].name), u"BAT1"_s);
+    for (const auto &reading : batteries)
+        QVERIFY(reading.onAC == false && reading.chargeState == ChargeState::OnBattery);
+    QCOMPARE(judge(batteries[0]).health, Health::Normal);
+    QCOMPARE(judge(batteries[1]).health, Health::Worn);
+    QVERIFY(readBattery(*machine, false) == batteries[0]);
+}
+
+void BatteryTest::reportedFigure_data()
+{
+    QTest::addColumn<QByteArray>("report");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *maximum, const QString &expected) {
+        QTest::newRow(maximum) << QByteArray(R"({"sppower_battery_health_maximum_capacity": )") + maximum +
+                                      "}"
+                               << expected;
+    };
+    row(R"("94%")", u"94"_s);
+    row(R"("94\u00a0%")", u"94"_s);
+    row(R"("%100")", u"100"_s);
+    row(R"("101%")", u"-"_s);
+    row(R"("0%")", u"-"_s);
+    row(R"("99999999999999999999%")", u"-"_s);
+    row(R"("94")", u"-"_s);
+    row(R"("")", u"-"_s);
+    row("94", u"-"_s);
+    QTest::newRow("another figure alone") << QByteArray(R"({"sppower_battery_health": "Good"})") << u"-"_s;
+}
+
+/// Also of a recording that was made of the recording; a machine without the report tells nothing.
+void BatteryTest::reportedFigure()
+{
+    QFETCH(const QByteArray, report);
+    const auto machine = changedMachine("{\"powerReport\": " + report + "}");
+    QTEST(shown(reportedMaximumPercent(*machine)), "expected");
+    QTEST(shown(reportedMaximumPercent(*recordedAgain(*machine))), "expected");
+    QVERIFY(!reportedMaximumPercent(*changedMachine()));
 }
 
 void BatteryTest::health_data()

@@ -18,6 +18,7 @@ public:
     std::optional<std::vector<PropertyMap>> powerSources() const override;
     PowerSettings settings() const override;
     std::optional<std::map<std::string, PropertyMap>> powerSupplies() const override;
+    std::optional<PropertyMap> powerReport() const override { return std::nullopt; }
 
 private:
     Files m_files;

@@ -14,20 +14,23 @@ class RecordedPower final : public Power
 {
 public:
     RecordedPower(std::optional<std::vector<PropertyMap>> sources, PowerSettings settings,
-                  std::optional<Supplies> supplies)
+                  std::optional<Supplies> supplies, std::optional<PropertyMap> report)
         : m_sources(std::move(sources))
         , m_settings(std::move(settings))
         , m_supplies(std::move(supplies))
+        , m_report(std::move(report))
     {}
 
     std::optional<std::vector<PropertyMap>> powerSources() const override { return m_sources; }
     PowerSettings settings() const override { return m_settings; }
     std::optional<Supplies> powerSupplies() const override { return m_supplies; }
+    std::optional<PropertyMap> powerReport() const override { return m_report; }
 
 private:
     std::optional<std::vector<PropertyMap>> m_sources;
     PowerSettings m_settings;
     std::optional<Supplies> m_supplies;
+    std::optional<PropertyMap> m_report;
 };
 
 PowerSettings readSettings(const Members &recording)
@@ -81,8 +84,10 @@ void writeSettings(json::Writer &writer, const PowerSettings &settings)
 
 std::unique_ptr<Power> readPower(const Members &recording)
 {
+    const auto report = recording.members("powerReport");
     return std::make_unique<RecordedPower>(recording.dictionaries("powerSources"), readSettings(recording),
-                                           readSupplies(recording));
+                                           readSupplies(recording),
+                                           report ? std::optional(report->object()) : std::nullopt);
 }
 
 void write(json::Writer &writer, const Power &power)
@@ -103,6 +108,10 @@ void write(json::Writer &writer, const Power &power)
             writeProperties(writer, withoutIdentifiers(supply));
         }
         writer.endObject();
+    }
+    if (const auto report = power.powerReport()) {
+        writer.key("powerReport");
+        writeProperties(writer, withoutIdentifiers(*report));
     }
 }
 
