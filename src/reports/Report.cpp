@@ -25,6 +25,31 @@ QString title(PrivateText text)
 
 } // namespace
 
+RowFilter inSections(const QStringList &keys)
+{
+    if (keys.isEmpty())
+        return {};
+    return [keys](const inspection::CapabilitySection &section, const inspection::CapabilityItem &) {
+        return section.key && keys.contains(*section.key);
+    };
+}
+
+QString suggestedFileName(const Report &report, const QString &extension)
+{
+    constexpr qsizetype longestName = 60; // 255 bytes are the most that file systems take for the whole
+    auto name = singleLine(report.summary.deviceName).left(longestName);
+    for (QChar &c : name) {
+        if (QStringLiteral("/\\:*?\"<>|\uFFFD").contains(c))
+            c = u'-';
+    }
+    if (!name.isEmpty() && name.back().isHighSurrogate())
+        name.chop(1);
+    const auto day = report.date.value_or(QDateTime::currentDateTimeUtc()).toLocalTime().date();
+    QStringList parts = {QStringLiteral("Quillmark"), name.simplified(), day.toString(Qt::ISODate)};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" – ")) + u'.' + extension;
+}
+
 QString applicationVersion()
 {
     return QStringLiteral(QUILLMARK_VERSION);

@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -17,6 +18,9 @@ namespace quillmark::reports {
 
 /// Texts that tell whose machine it is or where it stands.
 enum class PrivateText { ComputerName, Addresses, VolumeNames };
+
+/// The word for it in files: "computerName", "addresses", "volumeNames".
+QString rawValue(PrivateText text);
 
 /// One inspection as it is written down. Every format walks this value, so that no two of them disagree.
 struct Report
@@ -30,6 +34,21 @@ struct Report
     /// What was taken out of the summary and the rows; a written report says so at its foot.
     QList<PrivateText> leftOut;
 };
+
+using RowFilter = decltype(Report::filter);
+
+/// Lets the rows of these sections through, named by their keys; those of all sections when none is named.
+RowFilter inSections(const QStringList &keys);
+
+/// The report with nothing in it that tells whose machine it is. Its rows stay, and so do counts and score:
+/// the value of a row that had such a text reads "Left out", rows of addresses no longer name their
+/// interface, and the headline has the model in place of the computer's name. Names and addresses that are
+/// not there are not called left out.
+Report withoutPrivateTexts(Report report);
+
+/// "Quillmark – Ada’s MacBook Pro – 2026-11-22.pdf": a name that every file system takes. `extension` is
+/// without its point. The day is that of the inspection in local time, or today.
+QString suggestedFileName(const Report &report, const QString &extension);
 
 /// The version of this program, "1.0.0".
 QString applicationVersion();

@@ -36,6 +36,7 @@ public:
         writeSummary(report.summary);
         m_writer.member("score", inspection::capabilityScore(report.sections));
         writeCounts(report.sections);
+        writeLeftOut(report.leftOut);
         m_writer.key("sections");
         m_writer.beginArray();
         for (const auto &section : filteredSections(report))
@@ -84,6 +85,17 @@ private:
             m_writer.member(rawValue(status).toStdString(),
                             std::int64_t{inspection::count(sections, status)});
         m_writer.endObject();
+    }
+
+    void writeLeftOut(const QList<PrivateText> &leftOut)
+    {
+        if (leftOut.isEmpty())
+            return;
+        m_writer.key("leftOut");
+        m_writer.beginArray();
+        for (const auto text : leftOut)
+            m_writer.string(rawValue(text).toStdString());
+        m_writer.endArray();
     }
 
     void writeSection(const CapabilitySection &section)

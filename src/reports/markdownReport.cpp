@@ -4,24 +4,48 @@
 #include "reports/Report.h"
 #include "reports/Text.h"
 
+#include <QRegularExpression>
+
 namespace quillmark::reports {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Issue trackers link mentions ("@ada"), references ("#12", "GH-12") and addresses, and turn ":tada:" into a
+/// picture, after Markdown has had its say, so that no escape keeps them from it. A word joiner, which nobody
+/// sees, does.
+QString withoutReferences(QString text)
+{
+    static const QRegularExpression reference(
+        u"([@#](?=\\w)|:(?=[\\w+-]+:)|\\bGH-(?=\\d)|:(?=//)|\\bwww(?=\\.))"_s,
+        QRegularExpression::UseUnicodePropertiesOption | QRegularExpression::CaseInsensitiveOption);
+    return text.replace(reference, u"\\1\u2060"_s);
+}
+
+/// Whether Markdown, or an extension of it that is in use, makes something of the character here.
+bool isSyntax(const QString &text, qsizetype place)
+{
+    if (u"\\`*_{}[]()#+!|~>$^="_s.contains(text.at(place)))
+        return true;
+    static const QRegularExpression listItem(u"^(-|\\d{1,9}\\.)( |$)"_s);
+    return place < 10 && place + 1 == listItem.match(text).capturedLength(1);
+}
+
 /// The text with everything defused that Markdown, or the HTML within it, would take for its own.
 QString escaped(const QString &text)
 {
+    const auto line = withoutReferences(singleLine(text).trimmed());
     QString result;
-    result.reserve(text.size());
-    for (const QChar c : singleLine(text)) {
+    result.reserve(line.size());
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        const QChar c = line.at(i);
         if (c == u'&') {
             result += u"&amp;"_s;
         } else if (c == u'<') {
             result += u"&lt;"_s;
         } else {
-            if (u"\\`*_{}[]()#+!|~>"_s.contains(c))
+            if (isSyntax(line, i))
                 result += u'\\';
             result += c;
         }
@@ -57,6 +81,8 @@ QString markdown(const Report &report)
     }
     if (tables.isEmpty() && report.filter)
         tables = u'\n' + escaped(nothingMatches()) + u'\n';
+    if (const auto note = leftOutNote(report); !note.isEmpty())
+        tables += u'\n' + escaped(note) + u'\n';
     return text + tables;
 }
 

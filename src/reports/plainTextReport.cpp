@@ -58,6 +58,8 @@ QString plainText(const Report &report)
     }
     if (rows.isEmpty() && report.filter)
         rows = u'\n' + nothingMatches() + u'\n';
+    if (const auto note = leftOutNote(report); !note.isEmpty())
+        rows += u'\n' + note + u'\n';
     return headline(report) + rows;
 }
 

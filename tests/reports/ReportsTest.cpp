@@ -4,10 +4,9 @@
 #include "inspection/DeviceProbe.h"
 #include "reports/Report.h"
 #include "support/Recordings.h"
+#include "support/ReportRows.h"
 #include "support/Rows.h"
 
-#include <QJsonArray>
-#include <QRegularExpression>
 #include <QTest>
 #include <QTimeZone>
 
@@ -27,53 +26,23 @@ reports::Report reportOf(const platform::Machine &machine)
             .sections = DeviceProbe::sections(machine, english, machine.network().currentPath())};
 }
 
-/// "title | label | value" of every row, in order.
-QStringList rowsOf(const reports::Report &report)
+/// A Mac to whose owner everything in it points, in every place where a name or an address may stand.
+QByteArray adasRecording()
 {
-    QStringList rows;
-    for (const auto &section : report.sections) {
-        for (const auto &item : section.items)
-            rows += QStringList{section.title, item.label, item.value}.join(u" | "_s);
-    }
-    return rows;
-}
-
-/// The same from the report as plain text; a status in brackets belongs to the format.
-QStringList rowsOfPlainText(const QString &text)
-{
-    static const QRegularExpression status(u" \\[(Supported|Not supported|Warning)\\]$"_s);
-    QStringList rows;
-    QString title;
-    for (auto line : text.split(u'\n')) {
-        if (!line.startsWith(u"  "_s)) {
-            title = line;
-            continue;
-        }
-        line = line.mid(2).remove(status);
-        const auto colon = line.indexOf(u": "_s);
-        rows += QStringList{title, line.left(colon), line.mid(colon + 2)}.join(u" | "_s);
-    }
-    return rows;
-}
-
-/// The same from the tables of the report as Markdown, as a reader of Markdown sees them.
-QStringList rowsOfMarkdown(const QString &text)
-{
-    static const QRegularExpression row(u"^\\| (.*?[^\\\\]) \\| (.*?[^\\\\]) \\| (.*) \\|$"_s);
-    const auto read = [](QString cell) {
-        static const QRegularExpression escape(u"\\\\(.)"_s);
-        return cell.replace(escape, u"\\1"_s).replace(u"&lt;"_s, u"<"_s).replace(u"&amp;"_s, u"&"_s);
-    };
-    QStringList rows;
-    QString title;
-    for (const auto &line : text.split(u'\n')) {
-        if (line.startsWith(u"## "_s))
-            title = read(line.mid(3));
-        const auto match = row.match(line);
-        if (match.hasMatch() && match.captured(1) != u"Capability" && match.captured(1) != u"---")
-            rows += QStringList{title, read(match.captured(1)), read(match.captured(2))}.join(u" | "_s);
-    }
-    return rows;
+    return changedRecording(R"({
+        "hostName": "Ada’s Mac",
+        "volume": {"name": "Ada Lovelace", "total": 494384795648, "available": 200000000000},
+        "volumes": [{"name": "Letters to Charles", "total": 1000000, "available": 1000, "isInternal": false},
+                    {"name": "", "total": 1000000}],
+        "interfaces": [
+            {"name": "en0", "family": "ipv4", "up": true, "address": "192.0.2.17"},
+            {"name": "enx0a1b2c3d4e5f", "family": "ipv4", "up": true, "address": "198.51.100.7"},
+            {"name": "wg-lovelace", "family": "ipv4", "up": true, "address": "169.254.0.9"}],
+        "displays": [{"localizedName": "Ada\u0027s Mac", "isMain": true}, {"localizedName": "Studio Display"},
+                     {"localizedName": "Canada’s Machine"}],
+        "cameras": [{"localizedName": "ADA’S MAC Camera", "deviceType": "External"}],
+        "audioDefaults": {"output": 1, "input": 1},
+        "audioDevices": [{"id": 1, "name": "Speakers of Ada’s Mac", "transport": "usb ", "outputChannels": 2}]})");
 }
 
 } // namespace
@@ -92,6 +61,15 @@ private Q_SLOTS:
     void filtered();
     void oddNames_data();
     void oddNames();
+    void referencesInMarkdown_data();
+    void referencesInMarkdown();
+    void privateTexts_data();
+    void privateTexts();
+    void whatIsLeftOut();
+    void fileNames_data();
+    void fileNames();
+    void schema_data();
+    void schema();
 };
 
 void ReportsTest::allFormsHoldTheSameRows_data()
@@ -110,15 +88,7 @@ void ReportsTest::allFormsHoldTheSameRows()
     QVERIFY(sameLines(rowsOfPlainText(reports::plainText(report)), rows));
     QVERIFY(sameLines(rowsOfMarkdown(reports::markdown(report)), rows));
 
-    QStringList written;
-    const auto json = QJsonDocument::fromJson(reports::json(report)).object();
-    for (const auto &section : json[u"sections"_s].toArray()) {
-        for (const auto &item : section[u"items"_s].toArray())
-            written += QStringList{section[u"title"_s].toString(), item[u"label"_s].toString(),
-                                   item[u"value"_s].toString()}
-                           .join(u" | "_s);
-    }
-    QVERIFY(sameLines(written, rows));
+    QVERIFY(sameLines(rowsOfJson(validReport(reports::json(report))), rows));
 }
 
 void ReportsTest::plainText()
@@ -164,9 +134,7 @@ void ReportsTest::json()
     const auto report = reportOf(*machineFrom(recordingText(u"macbook-pro-m2-rosetta"_s)));
     const auto bytes = reports::json(report);
     QVERIFY(bytes.endsWith("}\n"));
-    QJsonParseError error;
-    const auto root = QJsonDocument::fromJson(bytes, &error).object();
-    QCOMPARE(error.error, QJsonParseError::NoError);
+    const auto root = validReport(bytes);
     QCOMPARE(root.keys(), (QStringList{u"application"_s, u"counts"_s, u"date"_s, u"language"_s, u"schema"_s,
                                        u"score"_s, u"sections"_s, u"summary"_s}));
     QCOMPARE(root[u"schema"_s].toString(), u"report-v1"_s);
@@ -203,7 +171,7 @@ void ReportsTest::json()
     thirds.sections = {{.items = {{.status = CapabilityStatus::Supported},
                                   {.status = CapabilityStatus::Warning},
                                   {.status = CapabilityStatus::Unsupported}}}};
-    const auto third = QJsonDocument::fromJson(reports::json(thirds)).object();
+    const auto third = validReport(reports::json(thirds));
     QCOMPARE(third[u"score"_s].toDouble(), 1.0 / 3.0);
     QVERIFY(!third[u"sections"_s][0].toObject().contains(
         u"key"_s)); // a row or section without a key has none here
@@ -214,7 +182,7 @@ void ReportsTest::beforeTheFirstInspection()
 {
     const reports::Report report{.language = u"en"_s};
     QCOMPARE(reports::plainText(report), u"Quillmark report\n"_s);
-    const auto root = QJsonDocument::fromJson(reports::json(report)).object();
+    const auto root = validReport(reports::json(report));
     QVERIFY(!root.contains(u"date"_s) && root[u"sections"_s].toArray().isEmpty());
     QCOMPARE(root[u"score"_s].toDouble(-1), 0.0);
 }
@@ -224,12 +192,12 @@ void ReportsTest::beforeTheFirstInspection()
 void ReportsTest::filtered()
 {
     auto report = reportOf(*changedMachine());
-    const auto all = QJsonDocument::fromJson(reports::json(report)).object();
+    const auto all = validReport(reports::json(report));
     const auto scoreLine = reports::plainText(report).section(u'\n', 2, 2);
     report.filter = [](const CapabilitySection &section, const CapabilityItem &item) {
         return section.key == u"graphics" && item.status == CapabilityStatus::Unsupported;
     };
-    const auto some = QJsonDocument::fromJson(reports::json(report)).object();
+    const auto some = validReport(reports::json(report));
     QCOMPARE(some[u"counts"_s], all[u"counts"_s]);
     QCOMPARE(some[u"score"_s], all[u"score"_s]);
     QCOMPARE(some[u"sections"_s].toArray().size(), all[u"sections"_s].toArray().size());
@@ -260,10 +228,172 @@ void ReportsTest::oddNames()
     QVERIFY2(reports::plainText(report).contains(u"\n  GPU: %1\n"_s.arg(inPlainText)),
              qPrintable(reports::plainText(report)));
     QVERIFY(rowsOfMarkdown(reports::markdown(report)).contains(u"Graphics & Metal | GPU | "_s + inPlainText));
-    const auto root = QJsonDocument::fromJson(reports::json(report));
+    const auto root = validReport(reports::json(report));
     QCOMPARE(
         root[u"sections"_s][2][u"items"_s][0][u"value"_s].toString(),
         QString::fromStdString(machine->graphics().read().devices.front().name)); // nothing is changed there
+}
+
+void ReportsTest::referencesInMarkdown_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("written"); // ^ stands for the word joiner
+    const auto row = [](const QString &name, const QString &written) {
+        QTest::newRow(qPrintable(name)) << name << written;
+    };
+    row(u"@ada, see #12"_s, u"@^ada, see \\#^12"_s);
+    row(u"ada@example.com"_s, u"ada@^example.com"_s);
+    row(u"https://example.com"_s, u"https:^//example.com"_s);
+    row(u"www.example.com"_s, u"www^.example.com"_s);
+    row(u"GH-12 :tada: 10:30"_s, u"GH-^12 :^tada: 10:30"_s);
+    row(u"$1$ 2^3 ==x=="_s, u"\\$1\\$ 2\\^3 \\=\\=x\\=\\="_s);
+    row(u"1. first"_s, u"1\\. first"_s);
+    row(u"- first"_s, u"\\- first"_s);
+    row(u"1.5 m - 2"_s, u"1.5 m - 2"_s);
+}
+
+/// Trackers link these after Markdown has been read, so that escaping does not help; the rest is syntax.
+void ReportsTest::referencesInMarkdown()
+{
+    QFETCH(const QString, name);
+    QFETCH(QString, written);
+    written.replace(u'^', u'\u2060').replace(u"\\\u2060"_s, u"\\^"_s);
+    auto report = reportOf(*changedMachine());
+    report.summary.deviceName = name;
+    report.sections[0].items[0].value = name;
+    const auto text = reports::markdown(report);
+    QCOMPARE(text.section(u'\n', 0, 0), u"# "_s + written);
+    QVERIFY(text.contains(u"\n| Device name | %1 | Info |\n"_s.arg(written)));
+    QVERIFY(rowsOfMarkdown(text).contains(rowLine(u"System"_s, u"Device name"_s, name)));
+}
+
+void ReportsTest::privateTexts_data()
+{
+    QTest::addColumn<QByteArray>("recording");
+    for (const auto &name : recordingNames())
+        QTest::newRow(qPrintable(name)) << recordingText(name);
+    QTest::newRow("named throughout") << adasRecording();
+}
+
+/// Nothing that the machine calls its own stands anywhere in a report that leaves it out, whatever its form.
+void ReportsTest::privateTexts()
+{
+    QFETCH(const QByteArray, recording);
+    const auto report = reportOf(*machineFrom(recording));
+    const auto publicReport = withoutPrivateTexts(report);
+    const auto machine = QJsonDocument::fromJson(recording);
+    QStringList secrets = {machine[u"hostName"_s].toString(), machine[u"volume"_s][u"name"_s].toString()};
+    for (const auto &volume : machine[u"volumes"_s].toArray())
+        secrets += volume[u"name"_s].toString();
+    for (const auto &entry : machine[u"interfaces"_s].toArray()) {
+        if (!entry[u"loopback"_s].toBool())
+            secrets += entry[u"address"_s].toString();
+    }
+    secrets.removeIf(
+        [](const QString &text) { return text.size() <= 1; }); // the root folder "/" stands for a name
+
+    const auto forms = [](const reports::Report &of) {
+        return QStringList{reports::plainText(of), reports::markdown(of),
+                           QString::fromUtf8(reports::json(of)), reports::suggestedFileName(of, u"pdf"_s)};
+    };
+    for (const auto &form : forms(publicReport)) {
+        for (const auto &secret : secrets) {
+            const QRegularExpression word(u"(?<!\\w)%1(?!\\w)"_s.arg(QRegularExpression::escape(secret)),
+                                          QRegularExpression::CaseInsensitiveOption);
+            QVERIFY2(!form.contains(word), qPrintable(secret + u'\n' + form));
+        }
+    }
+    for (const auto &form : forms(report).first(3)) // the address is there all along
+        QVERIFY(std::ranges::any_of(secrets, [&](const QString &secret) { return form.contains(secret); }));
+
+    // Everything else is as it was.
+    for (qsizetype i = 0; i < report.sections.size(); ++i) {
+        const auto &before = report.sections[i].items;
+        const auto &after = publicReport.sections[i].items;
+        QCOMPARE(after.size(), before.size());
+        for (qsizetype row = 0; row < after.size(); ++row) {
+            QCOMPARE(after[row].key, before[row].key);
+            QCOMPARE(after[row].status, before[row].status);
+            QVERIFY(after[row].value == u"Left out" || after[row] == before[row]);
+        }
+    }
+    QCOMPARE(reports::json(withoutPrivateTexts(publicReport)), reports::json(publicReport));
+}
+
+void ReportsTest::whatIsLeftOut()
+{
+    const auto report = withoutPrivateTexts(reportOf(*machineFrom(adasRecording())));
+    const auto all = rowsOf(report);
+    for (const auto &row :
+         {u"System | Device name | Left out"_s, u"Displays | Display 1 | Left out"_s,
+          u"Displays | Display 2 | Studio Display"_s, u"Displays | Display 3 | Canada’s Machine"_s,
+          u"Camera & Audio | Camera | Left out"_s, u"Camera & Audio | Sound output | Left out"_s,
+          u"Storage | Start-up volume | Left out"_s, u"Storage | Volume 1 | Left out"_s,
+          u"Network | Address 1 | Left out"_s, u"Network | Address 3 | Left out"_s})
+        QVERIFY2(all.contains(row), qPrintable(row + u'\n' + all.join(u'\n')));
+    QVERIFY(!all.join(u'\n').contains(u"enx"_s) && !all.join(u'\n').contains(u"lovelace"_s));
+    QCOMPARE(report.summary.deviceName, u"Mac15,3"_s);
+
+    const auto note = u"\nLeft out of this report: computer name, addresses, and volume names.\n"_s;
+    QVERIFY(reports::plainText(report).endsWith(note));
+    QVERIFY(reports::markdown(report).endsWith(note));
+    const auto json = validReport(reports::json(report));
+    QCOMPARE(json[u"leftOut"_s].toArray(), (QJsonArray{u"computerName"_s, u"addresses"_s, u"volumeNames"_s}));
+
+    // What is not there is not left out; a name that many machines have does not blot out their system's.
+    const auto nameless =
+        withoutPrivateTexts(reportOf(*changedMachine(R"({"hostName": null, "volume": null})")));
+    QCOMPARE(nameless.summary.deviceName, u"Mac"_s);
+    QVERIFY(rowsOf(nameless).contains(u"System | Device name | —"_s));
+    QVERIFY(leftOutNote(nameless).isEmpty() && !validReport(reports::json(nameless)).contains(u"leftOut"_s));
+    const auto debian = withoutPrivateTexts(reportOf(
+        *changedMachine(R"({"hostName": "debian", "words": {"operatingSystem": "Debian GNU/Linux 12"}})")));
+    QVERIFY(rowsOf(debian).contains(u"System | Operating system | Debian GNU/Linux 12"_s));
+}
+
+void ReportsTest::fileNames_data()
+{
+    QTest::addColumn<QString>("deviceName");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("plain") << u"Nora’s MacBook Pro"_s << u"Quillmark – Nora’s MacBook Pro – 2026-11-22.pdf"_s;
+    QTest::newRow("folders") << u" ../a\\b:c\n*"_s << u"Quillmark – ..-a-b-c - – 2026-11-22.pdf"_s;
+    QTest::newRow("none") << QString() << u"Quillmark – 2026-11-22.pdf"_s;
+    QTest::newRow("too long") << QString(300, u'é')
+                              << u"Quillmark – %1 – 2026-11-22.pdf"_s.arg(QString(60, u'é'));
+    QTest::newRow("half a character")
+        << QString(59, u'a') + u"😀"_s << u"Quillmark – %1 – 2026-11-22.pdf"_s.arg(QString(59, u'a'));
+}
+
+void ReportsTest::fileNames()
+{
+    QFETCH(const QString, deviceName);
+    qputenv("TZ", "UTC");
+    const reports::Report report{.date = QDateTime({2026, 11, 22}, {22, 35, 32}, QTimeZone::utc()),
+                                 .summary = {.deviceName = deviceName}};
+    QTEST(reports::suggestedFileName(report, u"pdf"_s), "expected");
+}
+
+void ReportsTest::schema_data()
+{
+    QTest::addColumn<QByteArray>("changes");
+    for (const char *changes :
+         {R"({"schema": "report-v2"})", R"({"score": 1.5})", R"({"score": null})",
+          R"({"date": "2026-11-22"})", R"({"counts": {"info": 0.5}})", R"({"more": 1})", R"({"leftOut": []})",
+          R"({"leftOut": ["addresses", "addresses"]})", R"({"summary": {"hasBattery": "yes"}})",
+          R"({"sections": [{"items": []}]})",
+          R"({"sections": [{"title": "", "symbol": "", "items": [], "key": "other"}]})"})
+        QTest::newRow(changes) << QByteArray(changes);
+}
+
+/// The schema has something against each of these.
+void ReportsTest::schema()
+{
+    QFETCH(const QByteArray, changes);
+    JsonSchema schema(contents(sourcePath(u"docs/report-v1.schema.json"_s)));
+    const auto good = QJsonDocument::fromJson(reports::json(reportOf(*changedMachine()))).object();
+    QCOMPARE(schema.errors(good), QStringList());
+    QVERIFY(!schema.errors(merged(good, QJsonDocument::fromJson(changes).object())).isEmpty());
+    QVERIFY(!JsonSchema(R"({"type": "object", "maxProperties": 99})").errors(good).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(ReportsTest)
