@@ -4,6 +4,7 @@
 #pragma once
 
 #include "cli/CommandLine.h"
+#include "cli/TerminalPage.h"
 #include "language/LanguageManager.h"
 
 #include <expected>
@@ -28,6 +29,11 @@ public:
 
     const Output &output() const { return m_output; }
     bool usesColor() const { return m_output.colorIsWelcome && !m_options.noColor; }
+    /// How to lay text out for people: within the terminal, or without end where there is none.
+    TerminalStyle terminalStyle() const
+    {
+        return {.columns = m_output.isTerminal ? m_output.columns : 0, .color = usesColor()};
+    }
     const language::LanguageManager &language() const { return m_language; }
 
     /// The machine to inspect: the recording that was named, else this one.

@@ -3,17 +3,12 @@
 
 #pragma once
 
+#include "cli/TerminalPage.h"
 #include "reports/Report.h"
 
 #include <QString>
 
 namespace quillmark::cli {
-
-struct TerminalStyle
-{
-    int columns = 0; ///< to lay the text out in; 0: no limit, so that no value is broken
-    bool color = false;
-};
 
 /// The report as it is read on a terminal: headline, score, then each section's rows in aligned columns with
 /// a mark and a word for the status.

@@ -88,8 +88,7 @@ std::expected<void, Failure> inspect(const Session &session, const InspectOption
     else if (options.text)
         output.write(reports::plainText(report));
     else
-        output.write(terminalReport(
-            report, {.columns = output.isTerminal ? output.columns : 0, .color = session.usesColor()}));
+        output.write(terminalReport(report, session.terminalStyle()));
     return {};
 }
 
