@@ -89,6 +89,8 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     addCommonOptions(program, options);
     Command command;
     addInspect(program, command);
+    addBattery(program, command);
+    addExport(program, command);
     addMachine(program, command);
 
     try {

@@ -1,59 +1,22 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "cli/CommandLine.h"
 #include "reports/Report.h"
 #include "support/Recordings.h"
+#include "support/ReportRows.h"
 #include "support/Rows.h"
+#include "support/runWith.h"
 
 #include <QJsonArray>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sstream>
-
 using namespace quillmark;
 using namespace quillmark::support;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Terminal
-{
-    int columns = 0; ///< 0: the output is none
-    bool color = false;
-};
-
-struct Outcome
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-/// Runs the program on the small Mac of the tests, with `arguments` divided at spaces; "~" in one stands for
-/// a space.
-Outcome runWith(const QString &arguments, const Terminal &terminal = {})
-{
-    std::vector<std::string> texts = {"quillmark"};
-    for (auto argument : arguments.split(u' ', Qt::SkipEmptyParts))
-        texts.push_back(argument.replace(u'~', u' ').toStdString());
-    std::vector<const char *> pointers;
-    for (const auto &text : texts)
-        pointers.push_back(text.c_str());
-
-    std::ostringstream out;
-    std::ostringstream err;
-    const cli::Output output{.out = out,
-                             .err = err,
-                             .isTerminal = terminal.columns > 0,
-                             .columns = terminal.columns,
-                             .colorIsWelcome = terminal.color};
-    const int status =
-        cli::run(static_cast<int>(pointers.size()), pointers.data(), output, [] { return changedMachine(); });
-    return {status, QString::fromStdString(out.str()), QString::fromStdString(err.str())};
-}
 
 /// The text of a Mac whose names hold everything that a terminal has trouble with.
 QByteArray troublesomeRecording()
@@ -200,6 +163,14 @@ void CliTest::wrongCommandLines_data()
     row(u"machine play"_s, u"quillmark machine"_s);
     row(u"machine record --output"_s, u"quillmark machine record"_s);
     row(u"machine record file.json"_s, u"quillmark machine record"_s);
+    row(u"battery extra"_s, u"quillmark battery"_s);
+    row(u"export"_s, u"quillmark export"_s);
+    row(u"export --format text"_s, u"quillmark export"_s);
+    row(u"export --output report"_s, u"quillmark export"_s);
+    row(u"export --output -"_s, u"quillmark export"_s);
+    row(u"export --output report.docx"_s, u"quillmark export"_s);
+    row(u"export --output report.txt --format docx"_s, u"quillmark export"_s);
+    row(u"export --output report.txt --section nope"_s, u"quillmark export"_s);
 }
 
 void CliTest::wrongCommandLines()
@@ -228,13 +199,14 @@ void CliTest::failures_data()
         << u"inspect --machine %1/steering.json"_s
         << u"%1/steering.json: \"sysctl.a\uFFFD[2J b\" must be a text, a whole number or an "
            "object, not true or false"_s;
-    QTest::newRow("output exists") << u"machine record --output %1/text"_s
-                                   << u"%1/text: already exists (--force replaces it)"_s;
-    QTest::newRow("output is a folder") << u"machine record --output %1"_s << u"%1: is a folder"_s;
+    QTest::newRow("output exists")
+        << u"machine record --output %1/text"_s
+        << u"%1/text: There is a file with this name already. (--force replaces it)"_s;
+    QTest::newRow("output is a folder") << u"machine record --output %1"_s << u"%1: This is a folder."_s;
     QTest::newRow("output is a folder, by force")
-        << u"machine record --force --output %1"_s << u"%1: is a folder"_s;
+        << u"machine record --force --output %1"_s << u"%1: This is a folder."_s;
     QTest::newRow("output in no folder") << u"machine record --output %1/missing/file.json"_s
-                                         << u"%1/missing/file.json: No such file or directory"_s;
+                                         << u"%1/missing/file.json: The folder does not exist."_s;
 }
 
 /// One line that says why, and no half of an answer.
@@ -258,6 +230,8 @@ void CliTest::helpAndVersion_data()
     QTest::newRow("version") << u"--version"_s << u"quillmark %1\n"_s.arg(reports::applicationVersion());
     QTest::newRow("help") << u"--help"_s << u"inspect"_s;
     QTest::newRow("inspect") << u"inspect --help"_s << u"--status"_s;
+    QTest::newRow("battery") << u"battery --help"_s << u"--json"_s;
+    QTest::newRow("export") << u"export --help"_s << u"--with-names"_s;
     QTest::newRow("machine") << u"machine --help"_s << u"record"_s;
     QTest::newRow("record") << u"machine record --help"_s << u"--with-names"_s;
 }
@@ -277,7 +251,7 @@ void CliTest::helpAndVersion()
 void CliTest::forms()
 {
     const auto json = runWith(u"inspect --json"_s);
-    const auto report = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    const auto report = validReport(json.out.toUtf8());
     QCOMPARE(report[u"schema"_s].toString(), u"report-v1"_s);
     QCOMPARE(report[u"summary"_s][u"deviceName"_s].toString(), u"Test Mac"_s);
     QVERIFY(rowKeys(report).contains(u"graphics.metal4"_s));
@@ -330,14 +304,14 @@ void CliTest::filters()
         {"devices": [{"name": "Straße", "supportsRaytracing": true, "families": [1009, 5001]}]}})"));
     const auto outcome = runWith(u"inspect --json --machine %1 %2"_s.arg(file, arguments));
     QCOMPARE(outcome.status, 0);
-    QCOMPARE(rowKeys(QJsonDocument::fromJson(outcome.out.toUtf8()).object()).join(u' '), expected);
+    QCOMPARE(rowKeys(validReport(outcome.out.toUtf8())).join(u' '), expected);
 }
 
 /// A filter takes rows away, and nothing else: sections, counts and score are those of the inspection.
 void CliTest::filteredJson()
 {
     const auto reportOf = [](const QString &filter) {
-        auto report = QJsonDocument::fromJson(runWith(u"inspect --json "_s + filter).out.toUtf8()).object();
+        auto report = validReport(runWith(u"inspect --json "_s + filter).out.toUtf8());
         report.remove(u"date"_s);
         return report;
     };

@@ -21,6 +21,8 @@ inline constexpr auto commonOptionsHint =
     "'quillmark --help'.\n";
 
 // Each adds its sub-command to the program; when that one is typed, `chosen` becomes what to do.
+void addBattery(CLI::App &program, Command &chosen);
+void addExport(CLI::App &program, Command &chosen);
 void addInspect(CLI::App &program, Command &chosen);
 void addMachine(CLI::App &program, Command &chosen);
 

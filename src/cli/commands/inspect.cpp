@@ -3,11 +3,11 @@
 
 #include "cli/TerminalReport.h"
 #include "cli/commands/Command.h"
+#include "cli/commands/options.h"
+#include "cli/inspectMachine.h"
 #include "inspection/DeviceProbe.h"
 #include "language/folding.h"
 #include "reports/Report.h"
-
-#include <CLI/Validators.hpp>
 
 #include <memory>
 #include <string>
@@ -65,14 +65,6 @@ private:
     QString m_search;
 };
 
-reports::Report inspectMachine(const platform::Machine &machine, const language::Formats &formats)
-{
-    return {.date = QDateTime::currentDateTimeUtc(),
-            .language = formats.language(),
-            .summary = inspection::DeviceProbe::summary(machine, formats),
-            .sections = inspection::DeviceProbe::sections(machine, formats, machine.network().currentPath())};
-}
-
 std::expected<void, Failure> inspect(const Session &session, const InspectOptions &options)
 {
     const auto machine = session.openMachine();
@@ -100,19 +92,6 @@ QStringList statusNames()
     return names;
 }
 
-/// Lets one of the names through; otherwise says what there is.
-CLI::Validator isOneOf(const QStringList &names, const std::string &kind)
-{
-    return CLI::Validator(
-        [names, kind](const std::string &given) {
-            if (names.contains(QString::fromStdString(given)))
-                return std::string();
-            return "there is no " + kind + " '" + given +
-                   "'; there are: " + names.join(u", "_s).toStdString();
-        },
-        "");
-}
-
 } // namespace
 
 void addInspect(CLI::App &program, Command &chosen)
@@ -125,10 +104,7 @@ void addInspect(CLI::App &program, Command &chosen)
     command->add_flag("--markdown", options->markdown, "Print the report as Markdown");
     command->add_flag("--text", options->text, "Print the report as plain text");
 
-    command->add_option("--section", options->sections, "Only this section (repeatable)")
-        ->check(isOneOf(inspection::DeviceProbe::sectionKeys(), "section"))
-        ->allow_extra_args(false)
-        ->type_name("KEY");
+    addSectionOption(*command, options->sections);
     command->add_option("--status", options->statuses, "Only rows with this status (repeatable)")
         ->check(isOneOf(statusNames(), "status"))
         ->allow_extra_args(false)

@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "cli/commands/Command.h"
+#include "cli/commands/options.h"
 #include "platform/recorded/recordMachine.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 #include <memory>
 #include <string>
@@ -17,38 +14,9 @@ namespace {
 
 struct RecordOptions
 {
-    std::string output = "-";
+    OutputFile output = {.path = "-"};
     bool withNames = false;
-    bool force = false;
 };
-
-bool writeAll(QIODevice &target, QIODevice::OpenMode mode, const QByteArray &text)
-{
-    return target.open(mode) && target.write(text) == text.size();
-}
-
-/// Writes the whole file or nothing. A device or a pipe is written to, not replaced.
-std::expected<void, Failure> save(const QString &path, const QByteArray &text, bool mayReplace)
-{
-    const auto failure = [&path](const QString &reason) {
-        return std::unexpected(Failure{QStringLiteral("%1: %2").arg(path, reason)});
-    };
-    const QFileInfo target(path);
-    if (target.isDir())
-        return failure(QStringLiteral("is a folder"));
-    if (target.exists() && !target.isFile()) {
-        QFile file(path);
-        if (!writeAll(file, QIODevice::WriteOnly | QIODevice::Unbuffered, text))
-            return failure(file.errorString());
-        return {};
-    }
-    if (target.exists() && !mayReplace)
-        return failure(QStringLiteral("already exists (--force replaces it)"));
-    QSaveFile file(path);
-    if (!writeAll(file, QIODevice::WriteOnly, text) || !file.commit())
-        return failure(file.errorString());
-    return {};
-}
 
 std::expected<void, Failure> record(const Session &session, const RecordOptions &options)
 {
@@ -57,10 +25,8 @@ std::expected<void, Failure> record(const Session &session, const RecordOptions 
         return std::unexpected(machine.error());
     const auto names = options.withNames ? platform::RecordedNames::Keep : platform::RecordedNames::LeaveOut;
     const auto recording = QByteArray::fromStdString(platform::recordMachine(**machine, names));
-    if (options.output != "-")
-        return save(QString::fromStdString(options.output), recording, options.force);
-    session.output().write(recording);
-    return {};
+    const auto saved = options.output.save(session.output(), recording);
+    return saved ? std::expected<void, Failure>() : std::unexpected(Failure{reasonFor(saved.error())});
 }
 
 } // namespace
@@ -72,12 +38,9 @@ void addMachine(CLI::App &program, Command &chosen)
     machine->require_subcommand(1);
     auto *command =
         machine->add_subcommand("record", "Write this machine's raw readings as a recorded machine");
-    command->add_option("--output", options->output, "The file to write; - is standard output")
-        ->type_name("FILE")
-        ->check([](const std::string &file) { return std::string(file.empty() ? "names no file" : ""); });
+    addOutputOptions(*command, options->output);
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
-    command->add_flag("--force", options->force, "Replace the file if it exists");
     command->footer(std::string(commonOptionsHint) + "\nExamples:\n"
                                                      "  quillmark machine record --output my-machine.json\n"
                                                      "  quillmark inspect --machine my-machine.json");

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "battery/BatteryJudgement.h"
+#include "battery/batteryTexts.h"
+#include "cli/TerminalPage.h"
+#include "cli/batteryJson.h"
+#include "cli/commands/Command.h"
+#include "inspection/DeviceProbe.h"
+#include "inspection/batteryItems.h"
+#include "inspection/values.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+#include <vector>
+
+namespace quillmark::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using battery::BatteryReading;
+using Weight = TerminalPage::Weight;
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Terminal)
+};
+
+/// What a row says in one word: the judgement's own where it has one, else that of its status.
+QString wordOf(const inspection::CapabilityItem &item, const battery::BatteryJudgement &judgement)
+{
+    if (item.key == u"batteryHealth"_s && judgement.health != battery::Health::NotReported)
+        return title(judgement.health);
+    if (item.key == u"batteryTemperature"_s)
+        return title(judgement.warmth);
+    return item.key == u"batteryCondition"_s ? QString() : title(item.status);
+}
+
+/// The verdict, the battery's health by the gauge and by the system, and every figure.
+void addBattery(TerminalPage &page, const BatteryReading &reading, bool onMac,
+                const language::Formats &formats)
+{
+    const auto judgement = judge(reading);
+    page.addParagraph(headline(judgement), Weight::Bold);
+    if (const auto cause = causeText(judgement); !cause.isEmpty())
+        page.addParagraph(cause);
+
+    const auto items = inspection::batteryItems(reading, onMac, formats);
+    if (judgement.healthPercent || reading.reportedMaximumPercent)
+        page.addGap();
+    if (judgement.healthPercent)
+        page.addBar(Text::tr("Battery health"), *judgement.healthPercent / 100.0,
+                    inspection::statusOf(judgement.overall),
+                    battery::ofDesignCapacity(inspection::percentText(*judgement.healthPercent, formats)));
+    if (const auto reported = reading.reportedMaximumPercent) {
+        page.addParagraph(battery::reportedBySystem(inspection::percentText(*reported, formats)));
+        if (judgement.healthPercent)
+            page.addParagraph(battery::reportedNote(), Weight::Faint);
+    }
+    TerminalBlock block;
+    for (const auto &item : items)
+        block.rows.append({item.status, item.label, item.value, wordOf(item, judgement)});
+    page.addBlocks({block});
+}
+
+QString batteryText(const std::vector<BatteryReading> &batteries, bool onMac,
+                    const language::Formats &formats, const TerminalStyle &style)
+{
+    TerminalPage page(style);
+    if (batteries.empty()) {
+        page.addParagraph(battery::noBattery(onMac), Weight::Bold);
+        page.addParagraph(battery::noBatteryNote(onMac));
+    }
+    for (const auto &reading : batteries) {
+        if (&reading != &batteries.front())
+            page.addGap();
+        if (batteries.size() > 1 && reading.name)
+            page.addParagraph(QString::fromStdString(*reading.name), Weight::Faint);
+        addBattery(page, reading, onMac, formats);
+    }
+    return page.text();
+}
+
+std::expected<void, Failure> showBattery(const Session &session, bool asJson)
+{
+    const auto machine = session.openMachine();
+    if (!machine)
+        return std::unexpected(machine.error());
+    using namespace inspection::DeviceProbe;
+    auto batteries = battery::readBatteries(**machine, isAppleSilicon(**machine));
+    if (!batteries.empty())
+        batteries.front().reportedMaximumPercent = battery::reportedMaximumPercent(**machine);
+    const auto &output = session.output();
+    if (asJson)
+        output.write(batteryJson(batteries));
+    else
+        output.write(
+            batteryText(batteries, isMac(**machine), session.language().formats(), session.terminalStyle()));
+    return {};
+}
+
+} // namespace
+
+void addBattery(CLI::App &program, Command &chosen)
+{
+    const auto asJson = std::make_shared<bool>(false);
+    auto *command = program.add_subcommand("battery", "Show the battery's health and figures");
+    command->add_flag("--json", *asJson, "Print the figures as JSON (battery-v1)");
+    command->footer(std::string(commonOptionsHint) +
+                    "\nExamples:\n"
+                    "  quillmark battery\n"
+                    "  quillmark battery --json | jq '.batteries[].healthPercent'");
+    command->callback([asJson, &chosen] {
+        chosen = [asJson](const Session &session) { return showBattery(session, *asJson); };
+    });
+}
+
+} // namespace quillmark::cli

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "cli/Output.h"
+#include "reports/saveFile.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Validators.hpp>
+#include <QByteArray>
+#include <QStringList>
+
+#include <expected>
+#include <string>
+#include <vector>
+
+// Options that several commands take.
+
+namespace quillmark::cli {
+
+/// Lets one of the names through; otherwise says what there is.
+CLI::Validator isOneOf(const QStringList &names, const std::string &kind);
+
+/// --section KEY, any number of them.
+void addSectionOption(CLI::App &command, std::vector<std::string> &sections);
+
+/// Where --output and --force send what a command writes.
+struct OutputFile
+{
+    std::string path; ///< "-": standard output; empty: not given
+    bool mayReplace = false;
+
+    bool isStandardOutput() const { return path == "-"; }
+    std::expected<void, reports::SaveError> save(const Output &output, const QByteArray &bytes) const;
+};
+
+void addOutputOptions(CLI::App &command, OutputFile &file);
+
+/// "PATH: You don’t have permission to write there.", with what helps where an option does.
+QString reasonFor(const reports::SaveError &error);
+
+} // namespace quillmark::cli

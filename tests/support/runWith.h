@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "cli/CommandLine.h"
+#include "support/Recordings.h"
+
+#include <QStringList>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace quillmark::support {
+
+struct Terminal
+{
+    int columns = 0; ///< 0: the output is none
+    bool color = false;
+};
+
+struct Outcome
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+/// Runs the program on the small Mac of the tests, with `arguments` divided at spaces; "~" in one stands for
+/// a space.
+inline Outcome runWith(const QString &arguments, const Terminal &terminal = {})
+{
+    std::vector<std::string> texts = {"quillmark"};
+    for (auto argument : arguments.split(u' ', Qt::SkipEmptyParts))
+        texts.push_back(argument.replace(u'~', u' ').toStdString());
+    std::vector<const char *> pointers;
+    for (const auto &text : texts)
+        pointers.push_back(text.c_str());
+
+    std::ostringstream out;
+    std::ostringstream err;
+    const cli::Output output{.out = out,
+                             .err = err,
+                             .isTerminal = terminal.columns > 0,
+                             .columns = terminal.columns,
+                             .colorIsWelcome = terminal.color};
+    const int status =
+        cli::run(static_cast<int>(pointers.size()), pointers.data(), output, [] { return changedMachine(); });
+    return {status, QString::fromStdString(out.str()), QString::fromStdString(err.str())};
+}
+
+} // namespace quillmark::support
