@@ -45,23 +45,33 @@ void openRecording(benchmark::State &state)
         benchmark::DoNotOptimize(recordedLaptop());
 }
 
-void jsonReport(benchmark::State &state)
+reports::Report laptopReport()
 {
     const auto machine = recordedLaptop();
     const language::Formats formats(QStringLiteral("en"));
-    const reports::Report report{
-        .date = QDateTime::currentDateTimeUtc(),
-        .language = formats.language(),
-        .summary = inspection::DeviceProbe::summary(*machine, formats),
-        .sections = inspection::DeviceProbe::sections(*machine, formats, machine->network().currentPath())};
+    return {.date = QDateTime::currentDateTimeUtc(),
+            .language = formats.language(),
+            .summary = inspection::DeviceProbe::summary(*machine, formats),
+            .sections =
+                inspection::DeviceProbe::sections(*machine, formats, machine->network().currentPath())};
+}
+
+/// One form of the report of a whole inspection.
+template <typename Form>
+void report(benchmark::State &state, Form form)
+{
+    const auto laptop = laptopReport();
     for (auto _ : state)
-        benchmark::DoNotOptimize(reports::json(report));
+        benchmark::DoNotOptimize(form(laptop));
 }
 
 BENCHMARK_CAPTURE(refresh, this_machine, platform::thisMachine())->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(refresh, recorded_laptop, recordedLaptop())->Unit(benchmark::kMicrosecond);
 BENCHMARK(openRecording)->Unit(benchmark::kMicrosecond);
-BENCHMARK(jsonReport)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(report, plain_text, reports::plainText)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(report, markdown, reports::markdown)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(report, json, reports::json)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(report, without_private_texts, reports::withoutPrivateTexts)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

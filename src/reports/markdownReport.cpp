@@ -17,25 +17,33 @@ namespace {
 /// sees, does.
 QString withoutReferences(QString text)
 {
+    const bool mayHaveSome = text.contains(u'@') || text.contains(u'#') || text.contains(u':') ||
+                             text.contains(u"gh-"_s, Qt::CaseInsensitive) ||
+                             text.contains(u"www."_s, Qt::CaseInsensitive);
+    if (!mayHaveSome) // almost always; the expression would take longer than the rest of a report
+        return text;
     static const QRegularExpression reference(
         u"([@#](?=\\w)|:(?=[\\w+-]+:)|\\bGH-(?=\\d)|:(?=//)|\\bwww(?=\\.))"_s,
         QRegularExpression::UseUnicodePropertiesOption | QRegularExpression::CaseInsensitiveOption);
     return text.replace(reference, u"\\1\u2060"_s);
 }
 
-/// Whether Markdown, or an extension of it that is in use, makes something of the character here.
-bool isSyntax(const QString &text, qsizetype place)
+/// Where a text that looks like the item of a list has what makes it one: the hyphen or the point after the
+/// number.
+qsizetype listMark(const QString &text)
 {
-    if (u"\\`*_{}[]()#+!|~>$^="_s.contains(text.at(place)))
-        return true;
-    static const QRegularExpression listItem(u"^(-|\\d{1,9}\\.)( |$)"_s);
-    return place < 10 && place + 1 == listItem.match(text).capturedLength(1);
+    if (text.isEmpty() || !(text.front() == u'-' || text.front().isDigit()))
+        return -1;
+    static const QRegularExpression item(u"^(-|\\d{1,9}\\.)( |$)"_s);
+    return item.match(text).capturedLength(1) - 1;
 }
 
-/// The text with everything defused that Markdown, or the HTML within it, would take for its own.
+/// The text with everything defused that Markdown, extensions of it that are in use, or the HTML within it
+/// would take for its own.
 QString escaped(const QString &text)
 {
     const auto line = withoutReferences(singleLine(text).trimmed());
+    const auto mark = listMark(line);
     QString result;
     result.reserve(line.size());
     for (qsizetype i = 0; i < line.size(); ++i) {
@@ -45,7 +53,7 @@ QString escaped(const QString &text)
         } else if (c == u'<') {
             result += u"&lt;"_s;
         } else {
-            if (isSyntax(line, i))
+            if (i == mark || u"\\`*_{}[]()#+!|~>$^="_s.contains(c))
                 result += u'\\';
             result += c;
         }
