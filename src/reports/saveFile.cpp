@@ -13,7 +13,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -108,18 +107,12 @@ private:
 class TemporaryFile
 {
 public:
-    explicit TemporaryFile(const std::filesystem::path &folder)
-    {
-        constexpr int attempts = 100;
-        for (int i = 0; i < attempts && m_descriptor < 0; ++i) {
-            const auto number = QRandomGenerator::global()->generate64();
-            m_path = folder / (".quillmark-" + std::to_string(number));
-            m_descriptor = ::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-            if (m_descriptor < 0 && errno != EEXIST)
-                break;
-        }
-        m_isThere = m_descriptor >= 0;
-    }
+    /// `mode`: who may open it from the beginning, less what the process takes away.
+    TemporaryFile(const std::filesystem::path &folder, mode_t mode)
+        : m_path(folder / (".quillmark-" + std::to_string(QRandomGenerator::global()->generate64())))
+        , m_file(::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode))
+        , m_isThere(m_file.isOpen())
+    {}
     TemporaryFile(const TemporaryFile &) = delete;
     TemporaryFile &operator=(const TemporaryFile &) = delete;
     ~TemporaryFile()
@@ -130,18 +123,22 @@ public:
 
     bool isThere() const { return m_isThere; }
 
-    /// Writes the bytes down to the disk; `mode`: permissions other than those that a new file gets.
-    Result fill(const QByteArray &bytes, std::optional<mode_t> mode)
+    /// Writes the bytes down to the disk, for the same people as the file that is to be replaced, if there is
+    /// one.
+    Result fill(const QByteArray &bytes, const struct stat *replaced)
     {
-        Descriptor file(m_descriptor);
-        if (mode && ::fchmod(file.number(), *mode & 0777) != 0)
-            return failure();
-        if (const auto written = file.write(bytes); !written)
+        if (replaced) {
+            // Only root may give a file away, and only root has to.
+            [[maybe_unused]] const int owned = ::fchown(m_file.number(), replaced->st_uid, replaced->st_gid);
+            if (::fchmod(m_file.number(), replaced->st_mode & 0777) != 0)
+                return failure();
+        }
+        if (const auto written = m_file.write(bytes); !written)
             return written;
         // Not every file system can.
-        if (::fsync(file.number()) != 0 && errno != EINVAL && errno != ENOTSUP)
+        if (::fsync(m_file.number()) != 0 && errno != EINVAL && errno != ENOTSUP)
             return failure();
-        return file.close();
+        return m_file.close();
     }
 
     Result replace(const std::filesystem::path &file)
@@ -166,8 +163,8 @@ public:
 
 private:
     std::filesystem::path m_path;
-    int m_descriptor = -1;
-    bool m_isThere = false;
+    Descriptor m_file;
+    bool m_isThere;
 };
 
 Result writeInto(const std::filesystem::path &device, const QByteArray &bytes)
@@ -180,13 +177,14 @@ Result writeInto(const std::filesystem::path &device, const QByteArray &bytes)
     return file.close();
 }
 
-Result writeWhole(const std::filesystem::path &file, const QByteArray &bytes, std::optional<mode_t> mode,
+/// `replaced`: the file that stands there, if any.
+Result writeWhole(const std::filesystem::path &file, const QByteArray &bytes, const struct stat *replaced,
                   Existing existing)
 {
-    TemporaryFile temporary(file.has_parent_path() ? file.parent_path() : ".");
+    TemporaryFile temporary(file.has_parent_path() ? file.parent_path() : ".", replaced ? 0600 : 0666);
     if (!temporary.isThere())
         return failure();
-    if (const auto filled = temporary.fill(bytes, mode); !filled)
+    if (const auto filled = temporary.fill(bytes, replaced); !filled)
         return filled;
     return existing == Existing::Replace ? temporary.replace(file) : temporary.becomeNew(file);
 }
@@ -215,7 +213,7 @@ Result save(const std::filesystem::path &given, const QByteArray &bytes, Existin
     if (::stat(file->c_str(), &there) != 0) {
         if (errno != ENOENT)
             return failure();
-        return writeWhole(*file, bytes, {}, existing);
+        return writeWhole(*file, bytes, nullptr, existing);
     }
     if (S_ISDIR(there.st_mode))
         return std::unexpected(EISDIR);
@@ -226,7 +224,7 @@ Result save(const std::filesystem::path &given, const QByteArray &bytes, Existin
     // A folder in which one may write would let a protected file be replaced.
     if (::faccessat(AT_FDCWD, file->c_str(), W_OK, AT_EACCESS) != 0)
         return failure();
-    return writeWhole(*file, bytes, there.st_mode, Existing::Replace);
+    return writeWhole(*file, bytes, &there, Existing::Replace);
 }
 
 /// The name that people know it by, or else where it is mounted.

@@ -7,10 +7,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QSet>
 #include <QStringList>
 
 #include <cmath>
+#include <utility>
 
 namespace quillmark::support {
 
@@ -23,84 +23,80 @@ class JsonSchema
 public:
     explicit JsonSchema(const QByteArray &schema)
         : m_root(QJsonDocument::fromJson(schema).object())
-    {
-        if (m_root.isEmpty())
-            m_errors += QStringLiteral("the schema is no JSON object");
-    }
+    {}
 
     /// What is wrong with the value; empty when nothing is.
     QStringList errors(const QJsonValue &value)
     {
-        check(value, m_root, QStringLiteral("report"));
+        expect(!m_root.isEmpty(), QStringLiteral("the schema"), "is no JSON object");
+        check(value, m_root, QStringLiteral("the value"));
         return std::exchange(m_errors, {});
     }
 
 private:
     void check(const QJsonValue &value, const QJsonObject &schema, const QString &path)
     {
-        static const QSet<QString> known = {
-            QStringLiteral("$schema"),    QStringLiteral("$defs"),       QStringLiteral("$ref"),
-            QStringLiteral("title"),      QStringLiteral("description"), QStringLiteral("type"),
-            QStringLiteral("const"),      QStringLiteral("enum"),        QStringLiteral("required"),
-            QStringLiteral("properties"), QStringLiteral("items"),       QStringLiteral("minItems"),
-            QStringLiteral("minimum"),    QStringLiteral("maximum"),     QStringLiteral("minLength"),
-            QStringLiteral("pattern"),    QStringLiteral("uniqueItems")};
-        for (const auto &keyword : schema.keys())
-            expect(known.contains(keyword), path,
-                   QStringLiteral("is checked by the unknown keyword ") + keyword);
-        const auto rule = [&schema](const char *keyword) { return schema.value(QLatin1StringView(keyword)); };
-
-        if (schema.contains(QStringLiteral("$ref")))
-            check(value, referenced(rule("$ref").toString()), path);
-        if (schema.contains(QStringLiteral("type")))
-            expect(hasType(value, rule("type").toString()), path,
-                   QStringLiteral("is no ") + rule("type").toString());
-        if (schema.contains(QStringLiteral("const")))
-            expect(value == rule("const"), path, QStringLiteral("is not the constant"));
-        if (schema.contains(QStringLiteral("enum")))
-            expect(rule("enum").toArray().contains(value), path, QStringLiteral("is not one of the words"));
-        if (value.isObject())
-            checkObject(value.toObject(), schema, path);
-        if (value.isArray())
-            checkArray(value.toArray(), schema, path);
-        if (value.isDouble()) {
-            const auto number = value.toDouble();
-            expect(number >= rule("minimum").toDouble(-HUGE_VAL) &&
-                       number <= rule("maximum").toDouble(HUGE_VAL),
-                   path, QStringLiteral("is out of range"));
-        }
-        if (value.isString()) {
-            expect(value.toString().size() >= rule("minLength").toInt(), path,
-                   QStringLiteral("is too short"));
-            expect(QRegularExpression(rule("pattern").toString()).match(value.toString()).hasMatch(), path,
-                   QStringLiteral("does not match the pattern"));
+        for (auto rule = schema.begin(); rule != schema.end(); ++rule) {
+            const auto keyword = rule.key().toLatin1();
+            if (keyword == "$ref")
+                check(value, referenced(rule->toString()), path);
+            else if (keyword == "type")
+                expect(hasType(value, rule->toString().toLatin1()), path, "has another type");
+            else if (keyword == "const")
+                expect(value == *rule, path, "is not the constant");
+            else if (keyword == "enum")
+                expect(rule->toArray().contains(value), path, "is not one of the words");
+            else if (keyword == "minimum" || keyword == "maximum")
+                expect(keyword == "minimum" ? value.toDouble() >= rule->toDouble()
+                                            : value.toDouble() <= rule->toDouble(),
+                       path, "is out of range");
+            else if (keyword == "minLength")
+                expect(value.toString().size() >= rule->toInt(), path, "is too short");
+            else if (keyword == "pattern")
+                expect(value.toString().contains(QRegularExpression(rule->toString())), path,
+                       "looks otherwise");
+            else if (keyword == "required")
+                checkRequired(value.toObject(), rule->toArray(), path);
+            else if (keyword == "properties")
+                checkProperties(value.toObject(), rule->toObject(), path);
+            else if (keyword == "items")
+                checkItems(value.toArray(), rule->toObject(), path);
+            else if (keyword == "minItems")
+                expect(value.toArray().size() >= rule->toInt(), path, "has too few elements");
+            else if (keyword == "uniqueItems")
+                checkUnique(value.toArray(), path);
+            else
+                expect(keyword == "$schema" || keyword == "$defs" || keyword == "title" ||
+                           keyword == "description",
+                       path, "is checked by the unknown keyword " + keyword);
         }
     }
 
-    void checkObject(const QJsonObject &object, const QJsonObject &schema, const QString &path)
+    void checkRequired(const QJsonObject &object, const QJsonArray &names, const QString &path)
     {
-        for (const auto &name : schema.value(QStringLiteral("required")).toArray())
-            expect(object.contains(name.toString()), path, QStringLiteral("lacks ") + name.toString());
-        if (!schema.contains(QStringLiteral("properties")))
-            return;
-        const auto properties = schema.value(QStringLiteral("properties")).toObject();
+        for (const auto &name : names)
+            expect(object.contains(name.toString()), path, "lacks " + name.toString().toLatin1());
+    }
+
+    void checkProperties(const QJsonObject &object, const QJsonObject &properties, const QString &path)
+    {
         for (auto member = object.begin(); member != object.end(); ++member) {
-            expect(properties.contains(member.key()), path,
-                   QStringLiteral("has the undescribed ") + member.key());
+            expect(properties.contains(member.key()), path, "has the undescribed " + member.key().toLatin1());
             check(*member, properties.value(member.key()).toObject(), path + u'.' + member.key());
         }
     }
 
-    void checkArray(const QJsonArray &array, const QJsonObject &schema, const QString &path)
+    void checkItems(const QJsonArray &array, const QJsonObject &schema, const QString &path)
     {
-        expect(array.size() >= schema.value(QStringLiteral("minItems")).toInt(), path,
-               QStringLiteral("is too short"));
-        const bool isSet = schema.value(QStringLiteral("uniqueItems")).toBool();
+        for (qsizetype i = 0; i < array.size(); ++i)
+            check(array.at(i), schema, path + u'.' + QString::number(i));
+    }
+
+    void checkUnique(const QJsonArray &array, const QString &path)
+    {
         for (qsizetype i = 0; i < array.size(); ++i) {
-            check(array.at(i), schema.value(QStringLiteral("items")).toObject(),
-                  path + u'.' + QString::number(i));
-            for (qsizetype j = 0; isSet && j < i; ++j)
-                expect(array.at(i) != array.at(j), path, QStringLiteral("holds the same twice"));
+            for (qsizetype j = 0; j < i; ++j)
+                expect(array.at(i) != array.at(j), path, "holds the same twice");
         }
     }
 
@@ -108,30 +104,22 @@ private:
     QJsonObject referenced(const QString &reference)
     {
         const auto found = m_root.value(QStringLiteral("$defs")).toObject().value(reference.section(u'/', 2));
-        expect(reference.startsWith(QStringLiteral("#/$defs/")) && found.isObject(), reference,
-               QStringLiteral("leads nowhere"));
+        expect(found.isObject(), reference, "leads nowhere");
         return found.toObject();
     }
 
-    static bool hasType(const QJsonValue &value, const QString &type)
+    static bool hasType(const QJsonValue &value, const QByteArray &type)
     {
-        if (type == QStringLiteral("object"))
-            return value.isObject();
-        if (type == QStringLiteral("array"))
-            return value.isArray();
-        if (type == QStringLiteral("string"))
-            return value.isString();
-        if (type == QStringLiteral("boolean"))
-            return value.isBool();
-        if (type == QStringLiteral("integer"))
-            return value.isDouble() && std::floor(value.toDouble()) == value.toDouble();
-        return type == QStringLiteral("number") && value.isDouble();
+        return (type == "object" && value.isObject()) || (type == "array" && value.isArray()) ||
+               (type == "string" && value.isString()) || (type == "boolean" && value.isBool()) ||
+               (type == "number" && value.isDouble()) ||
+               (type == "integer" && value.isDouble() && std::floor(value.toDouble()) == value.toDouble());
     }
 
-    void expect(bool isSo, const QString &path, const QString &complaint)
+    void expect(bool isSo, const QString &path, const QByteArray &complaint)
     {
         if (!isSo)
-            m_errors += path + u' ' + complaint;
+            m_errors += path + u' ' + QString::fromLatin1(complaint);
     }
 
     QJsonObject m_root;
