@@ -54,7 +54,7 @@ bool isOwnBattery(const PropertyMap &supply)
 struct Surroundings
 {
     bool isLineOnline = false;
-    bool isABatteryDrained = false; ///< one of the machine's own, with no line online
+    bool runsOnBattery = false; ///< no line is online, and a battery of the machine's own is drained
 };
 
 Surroundings surroundingsOf(const Supplies &supplies)
@@ -64,13 +64,13 @@ Surroundings surroundingsOf(const Supplies &supplies)
     const bool isOneDrained = std::ranges::any_of(supplies, [](const auto &supply) {
         return isOwnBattery(supply.second) && textOf(supply.second, "STATUS") == "Discharging";
     });
-    return {.isLineOnline = isLineOnline, .isABatteryDrained = isOneDrained && !isLineOnline};
+    return {.isLineOnline = isLineOnline, .runsOnBattery = isOneDrained && !isLineOnline};
 }
 
 /// Whether the machine runs on power from outside; none when neither a line nor the battery tells.
 std::optional<bool> runsOnLine(std::string_view status, const Surroundings &surroundings)
 {
-    if (surroundings.isABatteryDrained)
+    if (surroundings.runsOnBattery)
         return false;
     if (surroundings.isLineOnline || status == "Charging" || status == "Not charging" || status == "Full")
         return true;
@@ -84,7 +84,7 @@ std::optional<ChargeState> chargeStateOf(std::string_view status, const Surround
     if (status == "Full")
         return ChargeState::Full;
     // Of two batteries one waits while the other is drained.
-    if (surroundings.isABatteryDrained && (status == "Discharging" || status == "Not charging"))
+    if (surroundings.runsOnBattery && (status == "Discharging" || status == "Not charging"))
         return ChargeState::OnBattery;
     // A battery may be drained on purpose, or help a weak adapter, while it is connected.
     return status == "Not charging" || status == "Discharging" ? std::optional(ChargeState::NotCharging)
@@ -123,6 +123,20 @@ std::optional<TimeRemaining> timeRemainingOf(const PropertyMap &supply, ChargeSt
     return timeRemaining(minutes, untilFull);
 }
 
+/// Drivers that do not tell it leave it to be worked out.
+std::optional<double> levelOf(const PropertyMap &supply)
+{
+    if (const auto percent = numberOf(supply, "CAPACITY"); percent && *percent >= 0)
+        return static_cast<double>(std::min<std::int64_t>(*percent, 100)) / 100;
+    for (const std::string kind : {"ENERGY", "CHARGE"}) {
+        const auto now = numberOf(supply, kind + "_NOW");
+        const auto full = positive(numberOf(supply, kind + "_FULL"));
+        if (now && full && *now >= 0)
+            return std::min(static_cast<double>(*now) / static_cast<double>(*full), 1.0);
+    }
+    return std::nullopt;
+}
+
 /// The kernel's sign differs from driver to driver.
 std::optional<std::int64_t> signedCurrent(const PropertyMap &supply, std::string_view status)
 {
@@ -144,8 +158,7 @@ BatteryReading readSupply(const std::string &name, const PropertyMap &supply,
     reading.temperature = temperature(numberOf(supply, "TEMP"), 0);
     reading.voltage = positive(thousandths(numberOf(supply, "VOLTAGE_NOW")));
     reading.current = signedCurrent(supply, status);
-    if (const auto percent = numberOf(supply, "CAPACITY"); percent && *percent >= 0)
-        reading.level = static_cast<double>(std::min<std::int64_t>(*percent, 100)) / 100;
+    reading.level = levelOf(supply);
     reading.chargeState = chargeStateOf(status, surroundings);
     if (reading.chargeState) {
         reading.isCharging = reading.chargeState == ChargeState::Charging;

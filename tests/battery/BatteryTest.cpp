@@ -205,6 +205,8 @@ void BatteryTest::readings_data()
     row("Linux, drained while connected",
         linuxBattery("STATUS=Discharging,CURRENT_NOW=700000,CHARGE_NOW=1000000,CAPACITY=x", "2"),
         {u"current -700"_s, u"charging no"_s, u"AC yes"_s, u"state connected"_s});
+    row("Linux, level not told", linuxBattery("CHARGE_NOW=3000000,CHARGE_FULL=4000000"),
+        {u"present 4000"_s, u"level 0.75"_s});
     row("Linux, state not known", linuxBattery("STATUS=Unknown,CAPACITY=-1"), {});
 }
 
