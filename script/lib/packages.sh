@@ -4,8 +4,10 @@
 
 # What Quillmark is built with, and how it gets onto this machine. Sourced by build.sh, whose say and fail it uses.
 
-debianPackages=(g++ cmake ninja-build ccache qt6-base-dev libicu-dev libcli11-dev)
-homebrewPackages=(cmake ninja ccache qt icu4c cli11)
+# Fonts: Noto has Latin, Greek, Cyrillic, Arabic and more, Sawarabi Japanese. poppler-utils reads PDF documents in tests.
+debianPackages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libicu-dev libcli11-dev
+    fonts-noto-core fonts-sawarabi-gothic poppler-utils)
+homebrewPackages=(cmake ninja ccache qt icu4c cli11 poppler)
 
 installDebianPackages() {
     local package installed missing=()

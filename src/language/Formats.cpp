@@ -3,12 +3,14 @@
 
 #include "language/Formats.h"
 
+#include <unicode/datefmt.h>
 #include <unicode/formattedvalue.h>
 #include <unicode/listformatter.h>
 #include <unicode/locid.h>
 #include <unicode/measunit.h>
 #include <unicode/numberformatter.h>
 #include <unicode/rbnf.h>
+#include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
 #include <algorithm>
@@ -205,6 +207,20 @@ QString Formats::number(double value, int fractionDigits) const
                           .formatDouble(value, status)
                           .toString(status);
     return U_SUCCESS(status) ? toQString(text) : QString::number(value, 'f', fractionDigits);
+}
+
+QString Formats::dateAndTime(const QDateTime &moment) const
+{
+    const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
+        icu::DateFormat::kLong, icu::DateFormat::kShort, localeOf(m_language)));
+    if (!format)
+        return moment.toString(Qt::ISODate);
+    // The clock on the wall, taken for Greenwich's, is written as it stands.
+    format->setTimeZone(*icu::TimeZone::getGMT());
+    const QDateTime wall(moment.date(), moment.time(), Qt::UTC);
+    icu::UnicodeString text;
+    auto result = toQString(format->format(static_cast<UDate>(wall.toMSecsSinceEpoch()), text));
+    return result.replace(QChar(0x202F), QChar::Nbsp); // many fonts lack the narrow one
 }
 
 } // namespace quillmark::language

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -39,6 +40,10 @@ public:
 
     /// "1,200", "14.2": grouped as the language groups, always with that many digits after the point.
     QString number(double value, int fractionDigits = 0) const;
+
+    /// "November 22, 2025 at 8:41 AM", "22. November 2025 um 08:41": a local date and time. The time zone of
+    /// `moment` is not converted.
+    QString dateAndTime(const QDateTime &moment) const;
 
 private:
     QString m_language;

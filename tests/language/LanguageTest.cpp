@@ -3,10 +3,12 @@
 
 #include "language/Formats.h"
 #include "language/LanguageManager.h"
+#include "language/Paper.h"
 #include "language/folding.h"
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimeZone>
 
 #include <algorithm>
 #include <limits>
@@ -43,6 +45,10 @@ private Q_SLOTS:
     void noUptime();
     void lists_data();
     void lists();
+    void datesAndTimes_data();
+    void datesAndTimes();
+    void papers_data();
+    void papers();
     void folds_data();
     void folds();
     void matches_data();
@@ -201,6 +207,41 @@ void LanguageTest::lists()
     QFETCH(const QString, language);
     QFETCH(const QStringList, items);
     QTEST(Formats(language).list(items), "text");
+}
+
+void LanguageTest::datesAndTimes_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("English") << u"en"_s << u"November 22, 2025 at 8:41 AM"_s;
+    QTest::newRow("German") << u"de"_s << u"22. November 2025 um 08:41"_s;
+    QTest::newRow("Japanese") << u"ja"_s << u"2025年11月22日 8:41"_s;
+}
+
+/// As the clock on the wall says, whichever zone it hangs in.
+void LanguageTest::datesAndTimes()
+{
+    QFETCH(const QString, language);
+    for (const int offset : {0, 9 * 3600, -8 * 3600}) {
+        auto text = Formats(language).dateAndTime(QDateTime({2025, 11, 22}, {8, 41}, QTimeZone(offset)));
+        QTEST(text.replace(QChar::Nbsp, u' '), "text");
+    }
+}
+
+void LanguageTest::papers_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<Paper>("paper");
+    for (const auto &locale : {u"en_US"_s, u"fr_CA"_s, u"es_MX"_s, u"fil_PH"_s})
+        QTest::newRow(qPrintable(locale)) << locale << Paper::Letter;
+    for (const auto &locale : {u"C"_s, u"en_GB"_s, u"de_DE"_s, u"ja_JP"_s, u"pt_BR"_s})
+        QTest::newRow(qPrintable(locale)) << locale << Paper::A4;
+}
+
+void LanguageTest::papers()
+{
+    QFETCH(const QString, locale);
+    QTEST(usualPaper(QLocale(locale)), "paper");
 }
 
 void LanguageTest::folds_data()
