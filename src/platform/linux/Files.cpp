@@ -22,6 +22,7 @@ constexpr std::size_t pageBytes = 4096;
 constexpr std::size_t tableLimit = std::size_t{1024} * 1024;
 constexpr std::size_t beginningLimit = std::size_t{64} * 1024;
 constexpr std::size_t beginningStep = 1024;
+constexpr int questionsBetweenListings = 9;
 
 ssize_t readSome(const FileDescriptor &file, char *buffer, std::size_t size)
 {
@@ -180,6 +181,27 @@ bool HeldFile::hasChanged()
         return true;
     pollfd file = {m_file.number(), POLLPRI, 0};
     return ::poll(&file, 1, 0) > 0 && (file.revents & (POLLPRI | POLLERR)) != 0;
+}
+
+HeldFolder::HeldFolder(Files files, std::string path, std::string prefix)
+    : m_files(std::move(files))
+    , m_path(std::move(path))
+    , m_prefix(std::move(prefix))
+{}
+
+bool HeldFolder::hasChanged()
+{
+    if (m_questionsUntilListing > 0) {
+        --m_questionsUntilListing;
+        return false;
+    }
+    m_questionsUntilListing = questionsBetweenListings;
+    std::vector<std::string> names = m_files.names(m_path, m_prefix);
+    std::ranges::sort(names);
+    if (names == m_names)
+        return false;
+    m_names = std::move(names);
+    return true;
 }
 
 } // namespace quillmark::platform

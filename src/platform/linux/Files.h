@@ -98,4 +98,25 @@ private:
     std::vector<char> m_buffer;
 };
 
+/// A folder of devices that is asked for its names again and again. Devices come and go seldom, and to list a
+/// folder costs more than to read a file in it: it is listed at the first question and at every tenth after.
+class HeldFolder
+{
+public:
+    HeldFolder(Files files, std::string path, std::string prefix = {});
+
+    /// Whether the names are others than at the last question.
+    bool hasChanged();
+
+    /// Those that begin with the prefix, in their order; empty before the first question.
+    const std::vector<std::string> &names() const { return m_names; }
+
+private:
+    Files m_files;
+    std::string m_path;
+    std::string m_prefix;
+    std::vector<std::string> m_names;
+    int m_questionsUntilListing = 0;
+};
+
 } // namespace quillmark::platform

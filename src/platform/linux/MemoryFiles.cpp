@@ -18,6 +18,9 @@ namespace {
 /// A share of the last ten seconds that is more than a passing stall, in percent: one second.
 constexpr int notableShare = 10;
 
+/// Half an exbibyte: more than any machine has, and little enough to be added up.
+constexpr std::uint64_t mostKilobytes = std::uint64_t{1} << 49;
+
 constexpr std::int32_t levelNormal = 1;
 constexpr std::int32_t levelWarning = 2;
 constexpr std::int32_t levelCritical = 4;
@@ -38,7 +41,7 @@ MemoryInfo parseMemInfo(std::string_view text)
         const LabelledValue line = splitLabel(takeUntil(text, '\n'), ':');
         std::string_view rest = line.value;
         const auto kilobytes = parseNumber<std::uint64_t>(takeWord(rest));
-        if (!kilobytes || trimmed(rest) != "kB")
+        if (!kilobytes || *kilobytes > mostKilobytes || trimmed(rest) != "kB")
             continue;
         const std::uint64_t bytes = *kilobytes * 1024;
         if (line.label == "MemTotal")
