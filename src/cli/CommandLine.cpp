@@ -90,6 +90,7 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     Command command;
     addInspect(program, command);
     addMachine(program, command);
+    addMonitor(program, command);
 
     try {
         program.parse(argumentCount, arguments);

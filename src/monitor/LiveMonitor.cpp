@@ -121,9 +121,7 @@ void LiveMonitor::append(const MonitorSample &sample)
 {
     if (m_clients < 1)
         return; // the last view went away while this was on its way
-    m_samples.push_back(sample);
-    if (m_samples.size() > maximumSamples)
-        m_samples.erase(m_samples.begin(), m_samples.end() - static_cast<std::ptrdiff_t>(maximumSamples));
+    appendSample(m_samples, sample);
     m_latest = sample;
     Q_EMIT samplesChanged();
 }

@@ -27,8 +27,6 @@ class LiveMonitor final : public QObject
     Q_OBJECT
 
 public:
-    static constexpr std::size_t maximumSamples = 120;
-
     /// Reads the machine, which must outlive this. Tests are in more of a hurry than a second.
     explicit LiveMonitor(const platform::Machine &machine,
                          std::chrono::milliseconds interval = std::chrono::seconds(1));

@@ -5,8 +5,16 @@
 
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace quillmark::monitor {
+
+void appendSample(std::vector<MonitorSample> &history, MonitorSample sample)
+{
+    history.push_back(std::move(sample));
+    if (history.size() > maximumSamples)
+        history.erase(history.begin(), history.end() - static_cast<std::ptrdiff_t>(maximumSamples));
+}
 
 std::string isoText(Date date)
 {

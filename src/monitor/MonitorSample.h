@@ -45,6 +45,12 @@ struct MonitorSample
     bool operator==(const MonitorSample &) const = default;
 };
 
+/// Two minutes of samples.
+inline constexpr std::size_t maximumSamples = 120;
+
+/// Adds the newest to a history, oldest first, which drops what it then has too many of.
+void appendSample(std::vector<MonitorSample> &history, MonitorSample sample);
+
 /// "2026-03-01T09:00:00.250Z"
 std::string isoText(Date date);
 

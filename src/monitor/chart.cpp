@@ -3,8 +3,6 @@
 
 #include "monitor/chart.h"
 
-#include "monitor/Text.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -21,20 +19,6 @@ constexpr int samplesBeforeShrinking = 5;
 void raise(std::optional<double> &column, double value)
 {
     column = std::max(column.value_or(value), value);
-}
-
-QString rateInUnit(const QString &number, int unit)
-{
-    switch (unit) {
-    case 0:
-        return Text::tr("%1 KB/s").arg(number);
-    case 1:
-        return Text::tr("%1 MB/s").arg(number);
-    case 2:
-        return Text::tr("%1 GB/s").arg(number);
-    default:
-        return Text::tr("%1 TB/s").arg(number);
-    }
 }
 
 } // namespace
@@ -107,31 +91,6 @@ double NetworkAxis::update(double highestRate)
         m_samplesBelow = 0;
     }
     return m_top;
-}
-
-QString rateText(double bytesPerSecond, const language::Formats &formats)
-{
-    // From these on, a number rounded to three digits would be a whole one of the next unit, or have one
-    // digit more before its point.
-    constexpr double nextUnitFrom = 999.5;
-    constexpr std::array<std::pair<double, int>, 4> digitsFrom = {
-        {{99.95, 0}, {9.995, 1}, {0.9995, 2}, {0, 3}}};
-    constexpr int lastUnit = 3;
-    constexpr double leastShown = 0.0005;
-    double number = bytesPerSecond / 1000;
-    int unit = 0;
-    for (; number >= nextUnitFrom && unit < lastUnit; ++unit)
-        number /= 1000;
-    if (number < leastShown)
-        return rateInUnit(formats.number(0), unit);
-    const auto digits =
-        std::ranges::find_if(digitsFrom, [=](const auto &entry) { return number >= entry.first; });
-    return rateInUnit(formats.number(number, digits->second), unit);
-}
-
-QString percentText(double share)
-{
-    return Text::tr("%1%").arg(std::lround(share * 100));
 }
 
 } // namespace quillmark::monitor

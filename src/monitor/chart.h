@@ -3,10 +3,7 @@
 
 #pragma once
 
-#include "language/Formats.h"
 #include "monitor/MonitorModel.h"
-
-#include <QString>
 
 #include <optional>
 #include <span>
@@ -60,11 +57,5 @@ private:
     double m_top = 0;
     int m_samplesBelow = 0;
 };
-
-/// "1.24 MB/s", "186 KB/s", "0 KB/s": three significant digits, powers of 1000.
-QString rateText(double bytesPerSecond, const language::Formats &formats);
-
-/// "23%"
-QString percentText(double share);
 
 } // namespace quillmark::monitor

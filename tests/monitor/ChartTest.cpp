@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "monitor/chart.h"
+#include "monitor/texts.h"
 
 #include "monitor/MonitorModel.h"
 #include "monitor/verdicts.h"

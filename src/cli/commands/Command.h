@@ -23,5 +23,6 @@ inline constexpr auto commonOptionsHint =
 // Each adds its sub-command to the program; when that one is typed, `chosen` becomes what to do.
 void addInspect(CLI::App &program, Command &chosen);
 void addMachine(CLI::App &program, Command &chosen);
+void addMonitor(CLI::App &program, Command &chosen);
 
 } // namespace quillmark::cli

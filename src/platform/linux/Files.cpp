@@ -24,6 +24,10 @@ constexpr std::size_t beginningLimit = std::size_t{64} * 1024;
 constexpr std::size_t beginningStep = 1024;
 constexpr int questionsBetweenListings = 9;
 
+/// The kernel writes tables into a page, whole lines at a time: where more than a line was left free, there
+/// was no further one.
+constexpr std::size_t longestLine = 1024;
+
 ssize_t readSome(const FileDescriptor &file, char *buffer, std::size_t size)
 {
     ssize_t count = 0;
@@ -165,9 +169,10 @@ std::optional<std::string_view> HeldFile::read()
             m_file = FileDescriptor();
             return std::nullopt;
         }
+        const bool isWhole = used == 0 && static_cast<std::size_t>(count) + longestLine <= pageBytes;
         used += static_cast<std::size_t>(count);
         const bool isFull = used == m_buffer.size();
-        if (count == 0 || (isFull && used >= tableLimit))
+        if (count == 0 || isWhole || (isFull && used >= tableLimit))
             break;
         if (isFull)
             m_buffer.resize(used * 2);
