@@ -67,6 +67,20 @@ void writeAll(std::string_view text)
     }
 }
 
+constexpr char escape = '\x1b';
+
+/// How much of what was typed is the first key: a character, Esc and a character, or a sequence as arrows
+/// send it, which ends with a letter.
+std::size_t keyLength(std::string_view keys)
+{
+    if (keys.front() != escape || keys.size() < 2)
+        return 1;
+    if (keys[1] != '[' && keys[1] != 'O')
+        return 2;
+    const auto end = std::find_if(keys.begin() + 2, keys.end(), [](char c) { return c >= '@' && c <= '~'; });
+    return end == keys.end() ? keys.size() : static_cast<std::size_t>(end - keys.begin()) + 1;
+}
+
 bool isDumb()
 {
     const char *terminal = std::getenv("TERM");
@@ -247,7 +261,6 @@ bool TerminalConsole::handleSignals(Event &event)
 /// Whether one of the keys that were pressed asks for the end.
 bool TerminalConsole::asksForEnd()
 {
-    constexpr char escape = '\x1b';
     constexpr timespec patience = {.tv_sec = 0, .tv_nsec = 50'000'000};
     std::array<char, 64> buffer{};
     const auto count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
@@ -255,11 +268,16 @@ bool TerminalConsole::asksForEnd()
         m_readsKeys = count < 0 && errno == EINTR;
         return false;
     }
-    const std::string_view keys(buffer.data(), static_cast<std::size_t>(count));
-    // Other keys send Esc and more; over a slow line the rest comes a little later.
-    if (keys.back() == escape)
-        return !hasInput(patience);
-    return !keys.starts_with(escape) && keys.find_first_of("qQ") != std::string_view::npos;
+    std::string_view keys(buffer.data(), static_cast<std::size_t>(count));
+    while (!keys.empty()) {
+        // Other keys send Esc and more; over a slow line the rest comes a little later.
+        if (keys.front() == escape && keys.size() == 1)
+            return !hasInput(patience);
+        if (keys.front() == 'q' || keys.front() == 'Q')
+            return true;
+        keys.remove_prefix(keyLength(keys));
+    }
+    return false;
 }
 
 Console::Event TerminalConsole::waitUntil(Time time)
