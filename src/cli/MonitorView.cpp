@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <numeric>
 #include <utility>
 
@@ -71,20 +70,6 @@ QString markOf(Concern concern)
         break;
     }
     return u"✗ "_s;
-}
-
-/// The left eighths of a cell, from none to all.
-constexpr std::u32string_view leftEighths = U" ▏▎▍▌▋▊▉█";
-/// Its lower eighths.
-constexpr std::u32string_view lowerEighths = U" ▁▂▃▄▅▆▇█";
-
-/// A cell of Braille dots, two columns of four, with so many lit from below in each.
-char32_t dots(int left, int right)
-{
-    constexpr std::array<char32_t, 5> leftDots = {0, 0x40, 0x44, 0x46, 0x47};
-    constexpr std::array<char32_t, 5> rightDots = {0, 0x80, 0xA0, 0xB0, 0xB8};
-    const auto lit = leftDots[static_cast<std::size_t>(left)] | rightDots[static_cast<std::size_t>(right)];
-    return lit == 0 ? U' ' : 0x2800 + lit;
 }
 
 /// Writes the words one after the other; the column after them.
@@ -223,7 +208,8 @@ void MonitorView::drawProcessor(Screen &screen, Area area) const
 void MonitorView::drawCores(Screen &screen, Area area) const
 {
     const auto cores = static_cast<int>(m_model.perCore.size());
-    const std::array<Words, 1> figure = {{{Text::tr("%n cores", nullptr, cores), Role::Quiet}}};
+    const auto count = cores == 1 ? Text::tr("1 core") : Text::tr("%n cores", nullptr, cores);
+    const std::array<Words, 1> figure = {{{count, Role::Quiet}}};
     putTitle(screen, area.row, area.column, area.width, Text::tr("Per core"), figure);
     const Area rest = {area.row + 1, area.column, area.width, area.height - 1};
     if (cores == 0 || rest.height < 1)
@@ -250,13 +236,7 @@ void MonitorView::drawCoreBars(Screen &screen, Area area, int barColumns) const
         const int row = area.row + core % rows;
         const int column = area.column + core / rows * (width + 1);
         screen.put(row, column, QString::number(core + 1).rightJustified(numberWidth), Role::Quiet);
-        const int eighths = static_cast<int>(std::lround(load * barWidth * 8));
-        for (int cell = 0; cell < barWidth; ++cell) {
-            const int lit = std::clamp(eighths - 8 * cell, 0, 8);
-            screen.put(row, column + numberWidth + 1 + cell,
-                       lit > 0 ? leftEighths[static_cast<std::size_t>(lit)] : U'·',
-                       lit > 0 ? Role::Processor : Role::Quiet);
-        }
+        drawBar(screen, row, column + numberWidth + 1, barWidth, load, Role::Processor);
         screen.put(row, column + width - figureWidth, monitor::percentText(load).rightJustified(figureWidth));
     }
 }
@@ -277,13 +257,7 @@ void MonitorView::drawCoreColumns(Screen &screen, Area area) const
         const auto first = m_model.perCore.begin() + column * group;
         const double load = *std::max_element(first, first + std::min(group, cores - column * group));
         const int bottom = area.row + (column / perBand + 1) * height - 1;
-        // An idle core shows as well.
-        const int eighths = std::max(static_cast<int>(std::lround(load * height * 8)), 1);
-        for (int cell = 0; cell < height; ++cell) {
-            const int lit = std::clamp(eighths - 8 * cell, 0, 8);
-            screen.put(bottom - cell, area.column + column % perBand * step,
-                       lowerEighths[static_cast<std::size_t>(lit)], Role::Processor);
-        }
+        drawUprightBar(screen, bottom, area.column + column % perBand * step, height, load, Role::Processor);
     }
 }
 
@@ -302,7 +276,7 @@ void MonitorView::drawMemory(Screen &screen, Area area) const
     const auto verdict = monitor::pressureVerdict(m_model.pressure);
     const auto concern = monitor::concernOf(verdict);
     const QString space(2, u' ');
-    const std::array<Words, 8> legend = {
+    const std::array<Words, 7> legend = {
         {{Text::tr("Used"), Role::Memory},
          {u" "_s + monitor::percentText(m_model.points.back().memory), Role::Text},
          {space + Text::tr("Pressure"), Role::Pressure},
@@ -342,7 +316,11 @@ void MonitorView::drawCharts(Screen &screen, Area area, std::span<const Curve> c
     for (int i = 0; i < count; ++i) {
         const Curve &curve = curves[static_cast<std::size_t>(i)];
         chart.height = ceilDivided(left, count - i);
-        drawCurve(screen, chart, curve);
+        auto values = monitor::columns(monitor::series(m_model.points, curve.value),
+                                       static_cast<std::size_t>(std::max(chart.width, 0) * dotsAcross));
+        for (auto &value : values)
+            value = value ? std::optional(*value / curve.top) : std::nullopt;
+        drawCurve(screen, chart, values, curve.role);
         if (axisWidth > 0)
             screen.put(chart.row, chart.column + chart.width + 1, curve.topLabel, Role::Quiet);
         if (axisWidth > 0 && chart.height > 1)
@@ -357,33 +335,6 @@ void MonitorView::drawCharts(Screen &screen, Area area, std::span<const Curve> c
     screen.put(chart.row, chart.column, Text::tr("2 min"), Role::Quiet);
     screen.put(chart.row, chart.column + (chart.width - textWidth(minute)) / 2, minute, Role::Quiet);
     screen.put(chart.row, chart.column + chart.width - textWidth(now), now, Role::Quiet);
-}
-
-void MonitorView::drawCurve(Screen &screen, Area area, const Curve &curve) const
-{
-    constexpr int dotsDown = 4;
-    constexpr int dotsAcross = 2;
-    if (area.width < 1)
-        return;
-    const auto line = monitor::series(m_model.points, curve.value);
-    const auto heights = monitor::columns(line, static_cast<std::size_t>(area.width * dotsAcross));
-    const int most = area.height * dotsDown;
-    const auto litIn = [&](int dotColumn) {
-        const auto &value = heights[static_cast<std::size_t>(dotColumn)];
-        // Even nothing is drawn, as a line along the base; only what was not sampled is empty.
-        return value ? std::clamp(static_cast<int>(std::lround(*value / curve.top * most)), 1, most) : 0;
-    };
-    for (int cell = 0; cell < area.width; ++cell) {
-        const int left = litIn(dotsAcross * cell);
-        const int right = litIn(dotsAcross * cell + 1);
-        for (int level = 0; level < area.height; ++level) {
-            const int below = level * dotsDown;
-            const char32_t character =
-                dots(std::clamp(left - below, 0, dotsDown), std::clamp(right - below, 0, dotsDown));
-            if (character != U' ')
-                screen.put(area.row + area.height - 1 - level, area.column + cell, character, curve.role);
-        }
-    }
 }
 
 std::vector<std::vector<std::vector<MonitorView::Words>>> MonitorView::tiles(int width) const

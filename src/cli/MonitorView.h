@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "cli/Screen.h"
+#include "cli/TerminalChart.h"
 #include "language/Formats.h"
 #include "monitor/MonitorModel.h"
 #include "monitor/chart.h"
@@ -30,13 +30,6 @@ public:
     void draw(Screen &screen) const;
 
 private:
-    struct Area
-    {
-        int row = 0;
-        int column = 0;
-        int width = 0;
-        int height = 0;
-    };
     /// A few words of one colour.
     struct Words
     {
@@ -62,7 +55,6 @@ private:
     void drawMemory(Screen &screen, Area area) const;
     void drawNetwork(Screen &screen, Area area) const;
     void drawCharts(Screen &screen, Area area, std::span<const Curve> curves) const;
-    void drawCurve(Screen &screen, Area area, const Curve &curve) const;
 
     /// Rows of tiles, each tile as wide as its words.
     std::vector<std::vector<std::vector<Words>>> tiles(int width) const;
