@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "monitor/chart.h"
-#include "monitor/texts.h"
 
 #include "monitor/MonitorModel.h"
+#include "monitor/texts.h"
 #include "monitor/verdicts.h"
 
 #include <QTest>
@@ -33,12 +33,10 @@ class ChartTest : public QObject
 
 private Q_SLOTS:
     void model();
-    void agesAndGaps_data();
     void agesAndGaps();
     void columns_data();
     void columns();
     void networkAxis();
-    void rates_data();
     void rates();
     void words();
 };
@@ -72,27 +70,23 @@ void ChartTest::model()
     QCOMPARE(MonitorModel::sample().points.size(), std::size_t(120));
 }
 
-void ChartTest::agesAndGaps_data()
-{
-    QTest::addColumn<QList<double>>("seconds");
-    QTest::addColumn<QString>("expected"); // ages, with a bar where the line is broken
-    QTest::newRow("none") << QList<double>() << QString();
-    QTest::newRow("one") << QList<double>{5} << u"|0"_s;
-    QTest::newRow("steady") << QList<double>{0, 1, 2.25} << u"|2.25 1.25 0"_s;
-    QTest::newRow("late, and a gap") << QList<double>{0, 2.5, 5.25, 6.25} << u"|6.25 3.75 |1 0"_s;
-    QTest::newRow("clock stood, then was set back") << QList<double>{10, 10, 3, 4} << u"|3 2 1 0"_s;
-}
-
 void ChartTest::agesAndGaps()
 {
-    QFETCH(const QList<double>, seconds);
-    QList<std::pair<double, double>> loads;
-    for (const double second : seconds)
-        loads.append({second, 0});
-    QStringList ages;
-    for (const auto &point : series(history(loads), &MonitorModel::Point::cpu))
-        ages += (point.joinsPrevious ? QString() : u"|"_s) + QString::number(point.age);
-    QTEST(ages.join(u' '), "expected");
+    // With a bar where the line is broken.
+    const QList<std::pair<QList<double>, QString>> histories = {{{}, QString()},
+                                                                {{5}, u"|0"_s},
+                                                                {{0, 1, 2.25}, u"|2.25 1.25 0"_s},
+                                                                {{0, 2.5, 5.25, 6.25}, u"|6.25 3.75 |1 0"_s},
+                                                                {{10, 10, 3, 4}, u"|3 2 1 0"_s}};
+    for (const auto &[seconds, expected] : histories) {
+        QList<std::pair<double, double>> loads;
+        for (const double second : seconds)
+            loads.append({second, 0});
+        QStringList ages;
+        for (const auto &point : series(history(loads), &MonitorModel::Point::cpu))
+            ages += (point.joinsPrevious ? QString() : u"|"_s) + QString::number(point.age);
+        QCOMPARE(ages.join(u' '), expected);
+    }
 }
 
 void ChartTest::columns_data()
@@ -143,32 +137,15 @@ void ChartTest::networkAxis()
     QCOMPARE(axis.update(3e6), 5e6);
 }
 
-void ChartTest::rates_data()
-{
-    QTest::addColumn<double>("rate");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](double rate, const char *expected) {
-        QTest::newRow(expected) << rate << QString::fromUtf8(expected);
-    };
-    row(0, "0 KB/s");
-    row(12.3, "0.012 KB/s");
-    row(999.6, "1.00 KB/s");
-    row(18640, "18.6 KB/s");
-    row(99960, "100 KB/s");
-    row(186400, "186 KB/s");
-    row(999400, "999 KB/s");
-    row(999500, "1.00 MB/s");
-    row(1.24e6, "1.24 MB/s");
-    row(9.996e6, "10.0 MB/s");
-    row(12.34e9, "12.3 GB/s");
-    row(5e16, "50,000 TB/s");
-}
-
 void ChartTest::rates()
 {
-    QFETCH(const double, rate);
-    QFETCH(QString, expected);
-    QCOMPARE(rateText(rate, quillmark::language::Formats(u"en"_s)), expected.replace(u' ', QChar::Nbsp));
+    const QList<std::pair<double, QString>> rates = {
+        {0, u"0 KB/s"_s},          {12.3, u"0.012 KB/s"_s},   {999.6, u"1.00 KB/s"_s},
+        {18640, u"18.6 KB/s"_s},   {99960, u"100 KB/s"_s},    {186400, u"186 KB/s"_s},
+        {999400, u"999 KB/s"_s},   {999500, u"1.00 MB/s"_s},  {1.24e6, u"1.24 MB/s"_s},
+        {9.996e6, u"10.0 MB/s"_s}, {12.34e9, u"12.3 GB/s"_s}, {5e16, u"50,000 TB/s"_s}};
+    for (const auto &[rate, text] : rates)
+        QCOMPARE(rateText(rate, quillmark::language::Formats(u"en"_s)).replace(QChar::Nbsp, u' '), text);
 }
 
 void ChartTest::words()

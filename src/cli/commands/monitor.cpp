@@ -38,8 +38,8 @@ struct MonitorOptions
     std::int64_t samples = 0; ///< 0: until somebody ends it
 };
 
-/// Moments a second apart, however long it took to use the one before. One that was missed is not made up
-/// for.
+/// Moments a second apart, however long it took to use the one before. After one that came late, or not at
+/// all, they begin anew: two samples close together would tell nothing.
 class Pace
 {
 public:
@@ -52,7 +52,12 @@ public:
 
     void begin() { m_next = now() + interval; }
     Console::Time next() const { return m_next; }
-    void advance() { m_next = std::max(m_next, now() - interval) + interval; }
+    void advance()
+    {
+        m_next += interval;
+        if (m_next < now() + interval / 2)
+            m_next = now() + interval;
+    }
 
 private:
     Console::Time now() const { return m_console ? m_console->now() : Console::Time(); }

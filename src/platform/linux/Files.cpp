@@ -24,10 +24,6 @@ constexpr std::size_t beginningLimit = std::size_t{64} * 1024;
 constexpr std::size_t beginningStep = 1024;
 constexpr int questionsBetweenListings = 9;
 
-/// The kernel writes tables into a page, whole lines at a time: where more than a line was left free, there
-/// was no further one.
-constexpr std::size_t longestLine = 1024;
-
 ssize_t readSome(const FileDescriptor &file, char *buffer, std::size_t size)
 {
     ssize_t count = 0;
@@ -149,9 +145,10 @@ std::vector<std::string> Files::names(std::string_view folder, std::string_view 
     return found;
 }
 
-HeldFile::HeldFile(Files files, std::string path)
+HeldFile::HeldFile(Files files, std::string path, std::size_t longestLine)
     : m_files(std::move(files))
     , m_path(std::move(path))
+    , m_longestLine(longestLine)
     , m_buffer(pageBytes)
 {}
 
@@ -169,7 +166,7 @@ std::optional<std::string_view> HeldFile::read()
             m_file = FileDescriptor();
             return std::nullopt;
         }
-        const bool isWhole = used == 0 && static_cast<std::size_t>(count) + longestLine <= pageBytes;
+        const bool isWhole = used == 0 && static_cast<std::size_t>(count) + m_longestLine <= pageBytes;
         used += static_cast<std::size_t>(count);
         const bool isFull = used == m_buffer.size();
         if (count == 0 || isWhole || (isFull && used >= tableLimit))

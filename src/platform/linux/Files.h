@@ -81,7 +81,12 @@ private:
 class HeldFile
 {
 public:
-    HeldFile(Files files, std::string path);
+    /// Longer than any line of a table of figures, or than any single value.
+    static constexpr std::size_t figures = 1024;
+
+    /// The kernel writes a table into a page, whole lines at a time. Where it left room for another line of
+    /// `longestLine` bytes there was none, and the end need not be asked for.
+    HeldFile(Files files, std::string path, std::size_t longestLine = 4096);
 
     /// The text, at most the first MiB; valid until the next call. None when it cannot be read or is empty; a
     /// file that was missing is looked for again.
@@ -94,6 +99,7 @@ public:
 private:
     Files m_files;
     std::string m_path;
+    std::size_t m_longestLine;
     FileDescriptor m_file;
     std::vector<char> m_buffer;
 };

@@ -51,7 +51,7 @@ std::vector<LinkBytes> parseLinkTable(std::string_view text)
 }
 
 LinkCounters::LinkCounters(const Files &files)
-    : m_table(files, "/proc/net/dev")
+    : m_table(files, "/proc/net/dev", HeldFile::figures)
     , m_socket(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0))
 {}
 

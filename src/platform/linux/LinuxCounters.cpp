@@ -38,7 +38,7 @@ public:
         if (m_folder.hasChanged()) {
             m_statistics.clear();
             for (const std::string &name : m_folder.names())
-                m_statistics.emplace_back(m_files, blockFolder + name + "/mm_stat");
+                m_statistics.emplace_back(m_files, blockFolder + name + "/mm_stat", HeldFile::figures);
         }
         std::uint64_t sum = 0;
         for (HeldFile &statistics : m_statistics)
@@ -58,9 +58,9 @@ class LinuxCounterReader final : public CounterReader
 {
 public:
     explicit LinuxCounterReader(const Files &files)
-        : m_stat(files, "/proc/stat")
-        , m_memInfo(files, "/proc/meminfo")
-        , m_pressure(files, "/proc/pressure/memory")
+        : m_stat(files, "/proc/stat", HeldFile::figures)
+        , m_memInfo(files, "/proc/meminfo", HeldFile::figures)
+        , m_pressure(files, "/proc/pressure/memory", HeldFile::figures)
         , m_zram(files)
         , m_links(files)
         , m_thermalZones(files)

@@ -121,7 +121,8 @@ std::vector<Supply> PowerSupplies::read()
     if (m_folder.hasChanged()) {
         m_supplies.clear();
         for (const std::string &name : m_folder.names())
-            m_supplies.push_back({name, {}, HeldFile(m_files, suppliesFolder + name + "/uevent")});
+            m_supplies.push_back(
+                {name, {}, HeldFile(m_files, suppliesFolder + name + "/uevent", HeldFile::figures)});
     }
     std::vector<Supply> supplies;
     for (HeldSupply &held : m_supplies) {

@@ -41,7 +41,8 @@ void ThermalZones::findZones()
     for (const std::string &name : m_folder.names()) {
         const std::string folder = zonesFolder + name;
         if (auto limits = limitsOf(folder); !limits.empty())
-            m_zones.push_back({folder, std::move(limits), HeldFile(m_files, folder + "/temp")});
+            m_zones.push_back(
+                {folder, std::move(limits), HeldFile(m_files, folder + "/temp", HeldFile::figures)});
     }
 }
 
