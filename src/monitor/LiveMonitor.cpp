@@ -9,7 +9,6 @@
 #include <QThread>
 #include <QTimer>
 
-#include <functional>
 #include <utility>
 
 namespace quillmark::monitor {
@@ -30,15 +29,14 @@ bool isStale(const MonitorSample &newest)
 
 } // namespace
 
-/// Takes the samples. The timer is there exactly while sampling runs.
+/// Takes the samples, on the worker thread. The timer is there exactly while sampling runs.
 class LiveMonitor::Worker final : public QObject
 {
 public:
-    Worker(const platform::Machine &machine, std::chrono::milliseconds interval,
-           std::function<void(MonitorSample)> deliver)
+    Worker(const platform::Machine &machine, std::chrono::milliseconds interval, LiveMonitor &monitor)
         : m_sampler(machine)
         , m_interval(interval)
-        , m_deliver(std::move(deliver))
+        , m_monitor(monitor)
     {}
 
     void begin()
@@ -48,34 +46,47 @@ public:
         // May fire up to a twentieth early or late, so that the system can wake up once for several timers.
         m_timer->setTimerType(Qt::CoarseTimer);
         m_timer->setInterval(m_interval);
-        QObject::connect(m_timer.get(), &QTimer::timeout, this, [this] { m_deliver(m_sampler.sample()); });
+        QObject::connect(m_timer.get(), &QTimer::timeout, this, [this] { sample(); });
         m_timer->start();
     }
 
     void end() { m_timer.reset(); }
 
 private:
+    void sample()
+    {
+        auto sample = m_sampler.sample();
+        {
+            const std::lock_guard lock(m_monitor.m_takenMutex);
+            m_monitor.m_taken.push_back(std::move(sample));
+        }
+        Q_EMIT m_monitor.sampleTaken(LiveMonitor::QPrivateSignal());
+    }
+
     SystemSampler m_sampler;
     std::chrono::milliseconds m_interval;
-    std::function<void(MonitorSample)> m_deliver;
+    LiveMonitor &m_monitor; ///< outlives the thread
     std::unique_ptr<QTimer> m_timer;
 };
 
 LiveMonitor::LiveMonitor(const platform::Machine &machine, std::chrono::milliseconds interval)
     : m_thread(std::make_unique<QThread>())
-    , m_worker(std::make_unique<Worker>(machine, interval, [this](MonitorSample sample) {
-        QMetaObject::invokeMethod(
-            this, [this, sample = std::move(sample)] { append(sample); }, Qt::QueuedConnection);
-    }))
 {
+    auto worker = std::make_unique<Worker>(machine, interval, *this);
+    worker->moveToThread(m_thread.get());
+    connect(this, &LiveMonitor::beginAsked, worker.get(), &Worker::begin);
+    connect(this, &LiveMonitor::endAsked, worker.get(), &Worker::end);
+    connect(this, &LiveMonitor::sampleTaken, this, &LiveMonitor::appendTaken, Qt::QueuedConnection);
+    // It ends where it has lived.
+    connect(m_thread.get(), &QThread::finished, worker.release(), &QObject::deleteLater);
     m_thread->setObjectName(QStringLiteral("com.tarnwick.Quillmark.LiveMonitor"));
-    m_worker->moveToThread(m_thread.get());
     m_thread->start(QThread::LowPriority);
 }
 
 LiveMonitor::~LiveMonitor()
 {
-    QMetaObject::invokeMethod(m_worker.get(), [worker = m_worker.get()] { worker->end(); });
+    // The worker, which ends on its thread, then has nothing to tell an object that is ending on this one.
+    disconnect();
     m_thread->quit();
     m_thread->wait();
 }
@@ -107,14 +118,25 @@ void LiveMonitor::start()
         m_latest.reset();
         Q_EMIT samplesChanged();
     }
-    QMetaObject::invokeMethod(m_worker.get(), [worker = m_worker.get()] { worker->begin(); });
+    Q_EMIT beginAsked(QPrivateSignal());
 }
 
 void LiveMonitor::stop()
 {
     if (m_clients < 1 || --m_clients > 0)
         return;
-    QMetaObject::invokeMethod(m_worker.get(), [worker = m_worker.get()] { worker->end(); });
+    Q_EMIT endAsked(QPrivateSignal());
+}
+
+void LiveMonitor::appendTaken()
+{
+    std::vector<MonitorSample> taken;
+    {
+        const std::lock_guard lock(m_takenMutex);
+        taken.swap(m_taken);
+    }
+    for (const auto &sample : taken)
+        append(sample);
 }
 
 void LiveMonitor::append(const MonitorSample &sample)

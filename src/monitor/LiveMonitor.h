@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <vector>
 
@@ -56,16 +57,23 @@ Q_SIGNALS:
     /// samples() and latest() are others now.
     void samplesChanged();
 
+    // To the worker thread, and back from it.
+    void beginAsked(QPrivateSignal);
+    void endAsked(QPrivateSignal);
+    void sampleTaken(QPrivateSignal);
+
 private:
     class Worker;
 
+    void appendTaken();
     void append(const MonitorSample &sample);
 
     int m_clients = 0;
     std::vector<MonitorSample> m_samples;
     std::optional<MonitorSample> m_latest;
+    std::mutex m_takenMutex;
+    std::vector<MonitorSample> m_taken; ///< on their way from the worker thread to append()
     std::unique_ptr<QThread> m_thread;
-    std::unique_ptr<Worker> m_worker; ///< lives on the thread; its calls are one after the other
 };
 
 } // namespace quillmark::monitor
