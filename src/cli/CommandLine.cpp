@@ -92,6 +92,7 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     addBattery(program, command);
     addExport(program, command);
     addMachine(program, command);
+    addMonitor(program, command);
 
     try {
         program.parse(argumentCount, arguments);

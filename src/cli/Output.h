@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "cli/Console.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -18,6 +20,7 @@ struct Output
     bool isTerminal = false;     ///< `out` is one
     int columns = 80;            ///< its width
     bool colorIsWelcome = false; ///< it is a terminal, and the environment does not say NO_COLOR
+    Console *console = nullptr;  ///< for what goes on and on; without one nothing is waited for or redrawn
 
     void write(const QString &text) const;
     void write(const QByteArray &utf8) const;

@@ -9,27 +9,6 @@ namespace quillmark::cli {
 
 namespace {
 
-int codePointWidth(char32_t codePoint)
-{
-    const auto c = static_cast<UChar32>(codePoint);
-    switch (u_charType(c)) {
-    case U_NON_SPACING_MARK:
-    case U_ENCLOSING_MARK:
-    case U_FORMAT_CHAR:
-    case U_CONTROL_CHAR:
-        return 0;
-    default:
-        break;
-    }
-    switch (u_getIntPropertyValue(c, UCHAR_EAST_ASIAN_WIDTH)) {
-    case U_EA_FULLWIDTH:
-    case U_EA_WIDE:
-        return 2;
-    default:
-        return 1;
-    }
-}
-
 bool runsRightToLeft(const QString &text)
 {
     for (const char32_t codePoint : text.toUcs4()) {
@@ -63,11 +42,47 @@ qsizetype fittingLength(const QString &text, int columns)
 
 } // namespace
 
+char32_t takeCharacter(const QString &text, qsizetype &at)
+{
+    const QChar c = text.at(at++);
+    if (!c.isHighSurrogate() || at == text.size() || !text.at(at).isLowSurrogate())
+        return c.unicode();
+    return QChar::surrogateToUcs4(c, text.at(at++));
+}
+
+int characterWidth(char32_t character)
+{
+    // What an interface is mostly written with need not be looked up.
+    const auto isWithin = [character](char32_t first, char32_t last) {
+        return character >= first && character <= last;
+    };
+    if (isWithin(U' ', U'~') || isWithin(U'\u00AE', U'\u02FF') || isWithin(U'\u2190', U'\u21FF') ||
+        isWithin(U'\u2713', U'\u2717'))
+        return 1;
+    const auto c = static_cast<UChar32>(character);
+    switch (u_charType(c)) {
+    case U_NON_SPACING_MARK:
+    case U_ENCLOSING_MARK:
+    case U_FORMAT_CHAR:
+    case U_CONTROL_CHAR:
+        return 0;
+    default:
+        break;
+    }
+    switch (u_getIntPropertyValue(c, UCHAR_EAST_ASIAN_WIDTH)) {
+    case U_EA_FULLWIDTH:
+    case U_EA_WIDE:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
 int textWidth(const QString &text)
 {
     int width = 0;
-    for (const char32_t codePoint : text.toUcs4())
-        width += codePointWidth(codePoint);
+    for (qsizetype at = 0; at < text.size();)
+        width += characterWidth(takeCharacter(text, at));
     return width;
 }
 

@@ -8,6 +8,12 @@
 
 namespace quillmark::cli {
 
+/// The character at that place, a pair of surrogates being one; moves on to the next.
+char32_t takeCharacter(const QString &text, qsizetype &at);
+
+/// The columns that the character takes on a terminal: 0, 1 or 2.
+int characterWidth(char32_t character);
+
 /// The columns that the text takes on a terminal: wide characters two, combining ones none.
 int textWidth(const QString &text);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "cli/CommandLine.h"
+#include "cli/TerminalConsole.h"
 #include "platform/Machine.h"
 
 #include <cerrno>
@@ -10,6 +11,7 @@
 #include <iostream>
 #include <streambuf>
 
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -30,6 +32,8 @@ protected:
             const auto count = write(STDOUT_FILENO, text + written, static_cast<std::size_t>(size - written));
             if (count >= 0)
                 written += count;
+            else if (errno == EAGAIN)
+                waitForRoom(); // another program has made the terminal that it shares with this one so
             else if (errno != EINTR)
                 m_error = errno;
         }
@@ -43,6 +47,12 @@ protected:
     }
 
 private:
+    static void waitForRoom()
+    {
+        pollfd output = {STDOUT_FILENO, POLLOUT, 0};
+        poll(&output, 1, -1);
+    }
+
     int m_error = 0;
 };
 
@@ -69,11 +79,13 @@ int main(int argc, char **argv)
     const bool isTerminal = isatty(STDOUT_FILENO) == 1;
     StandardOutput standardOutput;
     std::ostream out(&standardOutput);
+    cli::TerminalConsole console(isTerminal);
     const cli::Output output{.out = out,
                              .err = std::cerr,
                              .isTerminal = isTerminal,
                              .columns = isTerminal ? terminalColumns() : 80,
-                             .colorIsWelcome = isTerminal && !environmentRefusesColor()};
+                             .colorIsWelcome = isTerminal && !environmentRefusesColor(),
+                             .console = &console};
     const int status = cli::run(argc, argv, output, &platform::thisMachine);
 
     if (standardOutput.error() == 0)

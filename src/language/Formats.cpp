@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -24,11 +25,21 @@ namespace quillmark::language {
 
 namespace {
 
-icu::Locale localeOf(const QString &language)
+/// Of the language used last it is kept, for each thread; valid until the next call.
+const icu::Locale &localeOf(const QString &language)
 {
-    UErrorCode status = U_ZERO_ERROR;
-    const auto locale = icu::Locale::forLanguageTag(language.toStdString(), status);
-    return U_SUCCESS(status) ? locale : icu::Locale::getRoot();
+    struct Kept
+    {
+        QString language;
+        icu::Locale locale = icu::Locale::getRoot();
+    };
+    thread_local Kept kept;
+    if (kept.language != language) {
+        UErrorCode status = U_ZERO_ERROR;
+        const auto locale = icu::Locale::forLanguageTag(language.toStdString(), status);
+        kept = {language, U_SUCCESS(status) ? locale : icu::Locale::getRoot()};
+    }
+    return kept.locale;
 }
 
 QString toQString(const icu::UnicodeString &text)
@@ -87,24 +98,42 @@ icu::number::LocalizedNumberFormatter measureFormatter(const icu::MeasureUnit &u
         .locale(locale);
 }
 
-/// Setting one up is most of the work of formatting, and an inspection writes many sizes in the same unit:
-/// those of the language used last are kept, for each thread.
+/// Setting one up is most of the work of formatting, and the same ones are used again and again: those of the
+/// language used last are kept, for each thread. A copy would have to be set up anew.
+struct Formatters
+{
+    icu::Locale locale;
+    std::array<std::optional<icu::number::LocalizedNumberFormatter>, UnitCount> byUnit;
+    std::map<int, icu::number::LocalizedNumberFormatter> byFractionDigits;
+
+    static Formatters &of(const icu::Locale &locale)
+    {
+        thread_local Formatters kept;
+        if (kept.locale != locale)
+            kept = {.locale = locale, .byUnit = {}, .byFractionDigits = {}};
+        return kept;
+    }
+};
+
 const icu::number::LocalizedNumberFormatter &byteFormatter(Unit unit, const icu::Locale &locale)
 {
-    struct Formatters
-    {
-        icu::Locale locale;
-        std::array<std::optional<icu::number::LocalizedNumberFormatter>, UnitCount> byUnit;
-    };
-    thread_local Formatters kept;
-    if (kept.locale != locale)
-        kept = {.locale = locale, .byUnit = {}};
-    auto &formatter = kept.byUnit[unit];
+    auto &formatter = Formatters::of(locale).byUnit[unit];
     if (!formatter) {
         const auto width = unit == Byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT;
         formatter = measureFormatter(measureUnit(unit), width, unitFractionDigits[unit], locale);
     }
     return *formatter;
+}
+
+const icu::number::LocalizedNumberFormatter &numberFormatter(int fractionDigits, const icu::Locale &locale)
+{
+    using namespace icu::number;
+    const auto [entry, isNew] = Formatters::of(locale).byFractionDigits.try_emplace(fractionDigits);
+    if (isNew)
+        entry->second = NumberFormatter::withLocale(locale)
+                            .precision(Precision::fixedFraction(fractionDigits))
+                            .roundingMode(UNUM_ROUND_HALFUP);
+    return entry->second;
 }
 
 icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFormatterType type,
@@ -150,7 +179,7 @@ Formats::Formats(QString language)
 
 QString Formats::byteCount(std::int64_t bytes, ByteCountStyle style) const
 {
-    const auto locale = localeOf(m_language);
+    const auto &locale = localeOf(m_language);
     UErrorCode status = U_ZERO_ERROR;
     if (bytes == 0 && spellsOutZero(locale))
         return toQString(spelledZero(locale, status));
@@ -170,7 +199,7 @@ std::optional<QString> Formats::uptime(std::optional<double> seconds) const
     constexpr double longest = 1e12; // thirty thousand years: beyond it the clock is broken
     if (!seconds || !(*seconds >= 0) || *seconds > longest)
         return std::nullopt;
-    const auto locale = localeOf(m_language);
+    const auto &locale = localeOf(m_language);
     UErrorCode status = U_ZERO_ERROR;
     std::vector<icu::UnicodeString> parts;
     const auto add = [&](std::int64_t amount, const icu::MeasureUnit &unit) {
@@ -199,13 +228,9 @@ QString Formats::list(const QStringList &items) const
 
 QString Formats::number(double value, int fractionDigits) const
 {
-    using namespace icu::number;
     UErrorCode status = U_ZERO_ERROR;
-    const auto text = NumberFormatter::withLocale(localeOf(m_language))
-                          .precision(Precision::fixedFraction(fractionDigits))
-                          .roundingMode(UNUM_ROUND_HALFUP)
-                          .formatDouble(value, status)
-                          .toString(status);
+    const auto text =
+        numberFormatter(fractionDigits, localeOf(m_language)).formatDouble(value, status).toString(status);
     return U_SUCCESS(status) ? toQString(text) : QString::number(value, 'f', fractionDigits);
 }
 

@@ -159,6 +159,8 @@ void CliTest::wrongCommandLines_data()
     row(u"inspect --search"_s, u"quillmark inspect"_s);
     row(u"inspect --json --text"_s, u"quillmark inspect"_s);
     row(u"inspect --markdown --json"_s, u"quillmark inspect"_s);
+    row(u"monitor --samples 0"_s, u"quillmark monitor"_s);
+    row(u"monitor --samples x"_s, u"quillmark monitor"_s);
     row(u"machine"_s, u"quillmark machine"_s);
     row(u"machine play"_s, u"quillmark machine"_s);
     row(u"machine record --output"_s, u"quillmark machine record"_s);

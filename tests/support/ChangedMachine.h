@@ -17,6 +17,7 @@ public:
 
     const platform::KernelValues *otherKernelValues = nullptr;
     const platform::SystemInformation *otherSystem = nullptr;
+    const platform::Counters *otherCounters = nullptr;
     const platform::Registry *otherRegistry = nullptr;
     const platform::Network *otherNetwork = nullptr;
 
@@ -28,7 +29,10 @@ public:
     {
         return otherSystem ? *otherSystem : m_machine.system();
     }
-    const platform::Counters &counters() const override { return m_machine.counters(); }
+    const platform::Counters &counters() const override
+    {
+        return otherCounters ? *otherCounters : m_machine.counters();
+    }
     const platform::Power &power() const override { return m_machine.power(); }
     const platform::Registry &registry() const override
     {

@@ -25,5 +25,6 @@ void addBattery(CLI::App &program, Command &chosen);
 void addExport(CLI::App &program, Command &chosen);
 void addInspect(CLI::App &program, Command &chosen);
 void addMachine(CLI::App &program, Command &chosen);
+void addMonitor(CLI::App &program, Command &chosen);
 
 } // namespace quillmark::cli

@@ -22,6 +22,7 @@ constexpr std::size_t pageBytes = 4096;
 constexpr std::size_t tableLimit = std::size_t{1024} * 1024;
 constexpr std::size_t beginningLimit = std::size_t{64} * 1024;
 constexpr std::size_t beginningStep = 1024;
+constexpr int questionsBetweenListings = 9;
 
 ssize_t readSome(const FileDescriptor &file, char *buffer, std::size_t size)
 {
@@ -144,9 +145,10 @@ std::vector<std::string> Files::names(std::string_view folder, std::string_view 
     return found;
 }
 
-HeldFile::HeldFile(Files files, std::string path)
+HeldFile::HeldFile(Files files, std::string path, std::size_t longestLine)
     : m_files(std::move(files))
     , m_path(std::move(path))
+    , m_longestLine(longestLine)
     , m_buffer(pageBytes)
 {}
 
@@ -164,9 +166,10 @@ std::optional<std::string_view> HeldFile::read()
             m_file = FileDescriptor();
             return std::nullopt;
         }
+        const bool isWhole = used == 0 && static_cast<std::size_t>(count) + m_longestLine <= pageBytes;
         used += static_cast<std::size_t>(count);
         const bool isFull = used == m_buffer.size();
-        if (count == 0 || (isFull && used >= tableLimit))
+        if (count == 0 || isWhole || (isFull && used >= tableLimit))
             break;
         if (isFull)
             m_buffer.resize(used * 2);
@@ -180,6 +183,27 @@ bool HeldFile::hasChanged()
         return true;
     pollfd file = {m_file.number(), POLLPRI, 0};
     return ::poll(&file, 1, 0) > 0 && (file.revents & (POLLPRI | POLLERR)) != 0;
+}
+
+HeldFolder::HeldFolder(Files files, std::string path, std::string prefix)
+    : m_files(std::move(files))
+    , m_path(std::move(path))
+    , m_prefix(std::move(prefix))
+{}
+
+bool HeldFolder::hasChanged()
+{
+    if (m_questionsUntilListing > 0) {
+        --m_questionsUntilListing;
+        return false;
+    }
+    m_questionsUntilListing = questionsBetweenListings;
+    std::vector<std::string> names = m_files.names(m_path, m_prefix);
+    std::ranges::sort(names);
+    if (names == m_names)
+        return false;
+    m_names = std::move(names);
+    return true;
 }
 
 } // namespace quillmark::platform

@@ -81,7 +81,12 @@ private:
 class HeldFile
 {
 public:
-    HeldFile(Files files, std::string path);
+    /// Longer than any line of a table of figures, or than any single value.
+    static constexpr std::size_t figures = 1024;
+
+    /// The kernel writes a table into a page, whole lines at a time. Where it left room for another line of
+    /// `longestLine` bytes there was none, and the end need not be asked for.
+    HeldFile(Files files, std::string path, std::size_t longestLine = 4096);
 
     /// The text, at most the first MiB; valid until the next call. None when it cannot be read or is empty; a
     /// file that was missing is looked for again.
@@ -94,8 +99,30 @@ public:
 private:
     Files m_files;
     std::string m_path;
+    std::size_t m_longestLine;
     FileDescriptor m_file;
     std::vector<char> m_buffer;
+};
+
+/// A folder of devices that is asked for its names again and again. Devices come and go seldom, and to list a
+/// folder costs more than to read a file in it: it is listed at the first question and at every tenth after.
+class HeldFolder
+{
+public:
+    HeldFolder(Files files, std::string path, std::string prefix = {});
+
+    /// Whether the names are others than at the last question.
+    bool hasChanged();
+
+    /// Those that begin with the prefix, in their order; empty before the first question.
+    const std::vector<std::string> &names() const { return m_names; }
+
+private:
+    Files m_files;
+    std::string m_path;
+    std::string m_prefix;
+    std::vector<std::string> m_names;
+    int m_questionsUntilListing = 0;
 };
 
 } // namespace quillmark::platform

@@ -3,14 +3,13 @@
 
 #include "platform/linux/LinuxCounters.h"
 
-#include "platform/linux/LinuxNetwork.h"
+#include "platform/linux/LinkCounters.h"
 #include "platform/linux/LinuxPower.h"
 #include "platform/linux/LinuxThermal.h"
 #include "platform/linux/MemoryFiles.h"
 #include "platform/linux/ProcessorFiles.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 #include <unistd.h>
@@ -25,20 +24,48 @@ std::uint32_t hundredths(std::uint64_t ticks, std::uint64_t perSecond)
     return static_cast<std::uint32_t>(ticks / perSecond * 100 + ticks % perSecond * 100 / perSecond);
 }
 
+/// The memory that compressed block devices take, which swap is mostly on.
+class ZramMemory
+{
+public:
+    explicit ZramMemory(const Files &files)
+        : m_files(files)
+        , m_folder(files, blockFolder, "zram")
+    {}
+
+    std::uint64_t bytes()
+    {
+        if (m_folder.hasChanged()) {
+            m_statistics.clear();
+            for (const std::string &name : m_folder.names())
+                m_statistics.emplace_back(m_files, blockFolder + name + "/mm_stat", HeldFile::figures);
+        }
+        std::uint64_t sum = 0;
+        for (HeldFile &statistics : m_statistics)
+            sum += parseZramMemory(statistics.read().value_or(std::string_view()));
+        return sum;
+    }
+
+private:
+    static constexpr const char *blockFolder = "/sys/block/";
+
+    Files m_files;
+    HeldFolder m_folder;
+    std::vector<HeldFile> m_statistics;
+};
+
 class LinuxCounterReader final : public CounterReader
 {
 public:
     explicit LinuxCounterReader(const Files &files)
-        : m_stat(files, "/proc/stat")
-        , m_memInfo(files, "/proc/meminfo")
-        , m_pressure(files, "/proc/pressure/memory")
+        : m_stat(files, "/proc/stat", HeldFile::figures)
+        , m_memInfo(files, "/proc/meminfo", HeldFile::figures)
+        , m_pressure(files, "/proc/pressure/memory", HeldFile::figures)
+        , m_zram(files)
+        , m_links(files)
         , m_thermalZones(files)
-        , m_power(files)
-    {
-        const std::string folder = "/sys/block/";
-        for (const std::string &name : files.names(folder, "zram"))
-            m_zram.emplace_back(files, folder + name + "/mm_stat");
-    }
+        , m_supplies(files)
+    {}
 
     CounterReading read() override
     {
@@ -51,9 +78,9 @@ public:
         }
         if (const auto text = m_pressure.read())
             reading.pressureLevel = pressureLevel(*text);
-        reading.links = readInterfaces(InterfaceEntries::Links);
+        reading.links = m_links.read();
         reading.thermalState = m_thermalZones.state();
-        reading.powerSources = m_power.powerSources().value_or(std::vector<PropertyMap>());
+        reading.powerSources = m_supplies.powerSources();
         return reading;
     }
 
@@ -61,31 +88,40 @@ private:
     std::optional<std::vector<ProcessorTicks>> processorTicks()
     {
         const auto text = m_stat.read();
-        const std::vector<ProcessorTimes> processors =
-            text ? parseStat(*text) : std::vector<ProcessorTimes>();
+        std::vector<ProcessorTimes> processors = text ? parseStat(*text) : std::vector<ProcessorTimes>();
         if (processors.empty())
             return std::nullopt;
+        keepIdleFromSteppingBack(processors);
         const auto perSecond = static_cast<std::uint64_t>(std::max(::sysconf(_SC_CLK_TCK), 1L));
         std::vector<ProcessorTicks> ticks;
         ticks.reserve(processors.size());
         for (const ProcessorTimes &times : processors) {
-            // The kernel takes back some of a sleeping processor's idle time now and then. To one who counts
-            // modulo 2³² a step back would be more than a year of idling.
-            std::uint64_t &idle = m_idle[times.number];
-            idle = std::max(idle, times.idle);
             ticks.push_back({hundredths(times.user, perSecond), hundredths(times.system, perSecond),
-                             hundredths(idle, perSecond), hundredths(times.nice, perSecond)});
+                             hundredths(times.idle, perSecond), hundredths(times.nice, perSecond)});
         }
+        m_processors = std::move(processors);
         return ticks;
+    }
+
+    /// The kernel takes back some of a sleeping processor's idle time now and then. To one who counts modulo
+    /// 2³² a step back would be more than a year of idling. A processor that was switched off, as all but one
+    /// are while the machine sleeps, may begin anew: that is a long step, and is let through.
+    void keepIdleFromSteppingBack(std::vector<ProcessorTimes> &processors) const
+    {
+        constexpr std::uint64_t longStep = 1000;
+        for (std::size_t i = 0; i < std::min(processors.size(), m_processors.size()); ++i) {
+            const ProcessorTimes &before = m_processors[i];
+            ProcessorTimes &now = processors[i];
+            if (now.number == before.number && now.idle < before.idle && before.idle - now.idle < longStep)
+                now.idle = before.idle;
+        }
     }
 
     std::optional<VirtualMemory> virtualMemory(const MemoryInfo &memory)
     {
         if (!memory.active)
             return std::nullopt;
-        std::uint64_t compressed = memory.compressed;
-        for (HeldFile &statistics : m_zram)
-            compressed += parseZramMemory(statistics.read().value_or(std::string_view()));
+        const std::uint64_t compressed = memory.compressed + m_zram.bytes();
         const auto pageBytes = static_cast<std::uint64_t>(::sysconf(_SC_PAGESIZE));
         return VirtualMemory{*memory.active / pageBytes, memory.wired / pageBytes, compressed / pageBytes};
     }
@@ -93,10 +129,11 @@ private:
     HeldFile m_stat;
     HeldFile m_memInfo;
     HeldFile m_pressure;
-    std::vector<HeldFile> m_zram;
+    ZramMemory m_zram;
+    LinkCounters m_links;
     ThermalZones m_thermalZones;
-    LinuxPower m_power;
-    std::map<std::int32_t, std::uint64_t> m_idle; ///< by processor: the most that was read
+    PowerSupplies m_supplies;
+    std::vector<ProcessorTimes> m_processors; ///< as they were last read
 };
 
 } // namespace

@@ -40,7 +40,7 @@ std::optional<std::string> numericAddress(const sockaddr &address)
 }
 
 /// None for a family that has no place in the list.
-std::optional<InterfaceEntry> entryOf(const ifaddrs &found, InterfaceEntries wanted)
+std::optional<InterfaceEntry> entryOf(const ifaddrs &found)
 {
     if (!found.ifa_addr)
         return std::nullopt;
@@ -52,14 +52,13 @@ std::optional<InterfaceEntry> entryOf(const ifaddrs &found, InterfaceEntries wan
             entry.receivedBytes = counters->rx_bytes;
             entry.sentBytes = counters->tx_bytes;
         }
-    } else if (wanted == InterfaceEntries::All && (family == AF_INET || family == AF_INET6)) {
+    } else if (family == AF_INET || family == AF_INET6) {
         entry.family = family == AF_INET ? AddressFamily::IPv4 : AddressFamily::IPv6;
         entry.address = numericAddress(*found.ifa_addr);
     } else {
         return std::nullopt;
     }
-    // Counters are told apart by the whole name, which goes nowhere from there.
-    entry.name = wanted == InterfaceEntries::All ? interfaceLabel(found.ifa_name) : found.ifa_name;
+    entry.name = interfaceLabel(found.ifa_name);
     entry.up = (found.ifa_flags & IFF_UP) != 0;
     entry.loopback = (found.ifa_flags & IFF_LOOPBACK) != 0;
     return entry;
@@ -93,14 +92,14 @@ bool addRoute(const Files &files, const std::vector<DefaultRoute> &routes, PathR
 
 } // namespace
 
-std::vector<InterfaceEntry> readInterfaces(InterfaceEntries wanted)
+std::vector<InterfaceEntry> readInterfaces()
 {
     std::vector<InterfaceEntry> entries;
     ifaddrs *list = nullptr;
     if (::getifaddrs(&list) != 0)
         return entries;
     for (const ifaddrs *found = list; found; found = found->ifa_next) {
-        if (auto entry = entryOf(*found, wanted))
+        if (auto entry = entryOf(*found))
             entries.push_back(std::move(*entry));
     }
     ::freeifaddrs(list);
@@ -130,7 +129,7 @@ LinuxNetwork::LinuxNetwork(const Files &files)
 
 std::vector<InterfaceEntry> LinuxNetwork::interfaces() const
 {
-    return readInterfaces(InterfaceEntries::All);
+    return readInterfaces();
 }
 
 std::optional<NetworkPath> LinuxNetwork::currentPath() const

@@ -11,9 +11,8 @@
 
 namespace quillmark::platform {
 
-/// The interfaces of this machine and their addresses; the Link entries alone when asked so.
-enum class InterfaceEntries { All, Links };
-std::vector<InterfaceEntry> readInterfaces(InterfaceEntries wanted);
+/// The interfaces of this machine and their addresses.
+std::vector<InterfaceEntry> readInterfaces();
 
 /// The path with what it goes over.
 struct PathReading

@@ -53,7 +53,7 @@ struct Situation
 
 Situation readSituation(const Files &files)
 {
-    Situation situation = {readPath(files), readInterfaces(InterfaceEntries::All)};
+    Situation situation = {readPath(files), readInterfaces()};
     for (InterfaceEntry &entry : situation.interfaces) {
         entry.receivedBytes.reset();
         entry.sentBytes.reset();

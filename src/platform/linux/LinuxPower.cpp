@@ -14,16 +14,12 @@
 
 namespace quillmark::platform {
 
-namespace {
-
-constexpr const char *suppliesFolder = "/sys/class/power_supply/";
-
 /// The properties of a supply: the lines of its uevent file, which the kernel fills in one go.
 struct Supply
 {
-    std::string name; ///< of its folder: "BAT0"
-    std::string type;
-    std::string lines;
+    std::string_view name;
+    std::string_view type;
+    std::string_view lines;
 
     std::string_view text(std::string_view property) const
     {
@@ -35,25 +31,9 @@ struct Supply
     }
 };
 
-std::vector<Supply> suppliesOf(const Files &files)
-{
-    std::vector<std::string> names = files.names(suppliesFolder);
-    std::ranges::sort(names);
-    std::vector<Supply> supplies;
-    for (std::string &name : names) {
-        auto lines = files.value(suppliesFolder + name + "/uevent");
-        if (!lines)
-            continue;
-        Supply supply = {std::move(name), {}, std::move(*lines)};
-        supply.type = supply.text("TYPE");
-        // Kernels before 5.8 leave it out.
-        if (supply.type.empty())
-            supply.type = files.value(suppliesFolder + supply.name + "/type").value_or(std::string());
-        if (supply.text("SCOPE") != "Device")
-            supplies.push_back(std::move(supply));
-    }
-    return supplies;
-}
+namespace {
+
+constexpr const char *suppliesFolder = "/sys/class/power_supply/";
 
 PropertyMap propertiesOf(const Supply &supply)
 {
@@ -64,7 +44,7 @@ PropertyMap propertiesOf(const Supply &supply)
             properties[std::string(line.label)].value = std::string(line.value);
     }
     if (!supply.type.empty())
-        properties["POWER_SUPPLY_TYPE"].value = supply.type;
+        properties["POWER_SUPPLY_TYPE"].value = std::string(supply.type);
     return properties;
 }
 
@@ -110,7 +90,7 @@ PropertyMap describe(const Supply &supply, bool isLineOnline)
     source["Type"].value = std::string(isBattery ? "InternalBattery" : "UPS");
     if (isBattery)
         source["Transport Type"].value = std::string("Internal");
-    source["Name"].value = supply.name;
+    source["Name"].value = std::string(supply.name);
     source["Is Present"].value = true;
     if (const auto capacity = capacityOf(supply)) {
         source["Current Capacity"].value = *capacity;
@@ -131,15 +111,40 @@ PropertyMap describe(const Supply &supply, bool isLineOnline)
 
 } // namespace
 
-LinuxPower::LinuxPower(const Files &files)
+PowerSupplies::PowerSupplies(const Files &files)
     : m_files(files)
+    , m_folder(files, suppliesFolder)
 {}
 
-std::optional<std::vector<PropertyMap>> LinuxPower::powerSources() const
+std::vector<Supply> PowerSupplies::read()
 {
-    const std::vector<Supply> supplies = suppliesOf(m_files);
-    if (supplies.empty() && !m_files.exists(suppliesFolder))
-        return std::nullopt;
+    if (m_folder.hasChanged()) {
+        m_supplies.clear();
+        for (const std::string &name : m_folder.names())
+            m_supplies.push_back(
+                {name, {}, HeldFile(m_files, suppliesFolder + name + "/uevent", HeldFile::figures)});
+    }
+    std::vector<Supply> supplies;
+    for (HeldSupply &held : m_supplies) {
+        Supply supply = {held.name, {}, trimmed(held.properties.read().value_or(std::string_view()))};
+        if (supply.lines.empty())
+            continue;
+        supply.type = supply.text("TYPE");
+        if (supply.type.empty()) {
+            // Kernels before 5.8 leave it out.
+            if (held.type.empty())
+                held.type = m_files.value(suppliesFolder + held.name + "/type").value_or(std::string());
+            supply.type = held.type;
+        }
+        if (supply.text("SCOPE") != "Device")
+            supplies.push_back(supply);
+    }
+    return supplies;
+}
+
+std::vector<PropertyMap> PowerSupplies::powerSources()
+{
+    const std::vector<Supply> supplies = read();
     const bool isLineOnline = std::ranges::any_of(supplies, bringsPower);
     std::vector<PropertyMap> sources;
     for (const std::string_view type : {"Battery", "UPS"}) {
@@ -151,6 +156,40 @@ std::optional<std::vector<PropertyMap>> LinuxPower::powerSources() const
     return sources;
 }
 
+std::map<std::string, PropertyMap> PowerSupplies::powerSupplies()
+{
+    std::map<std::string, PropertyMap> all;
+    for (const Supply &supply : read()) {
+        PropertyMap properties = propertiesOf(supply);
+        // Drivers of laptops add this limit beside the properties, out of the uevent file's sight.
+        constexpr std::string_view limit = "POWER_SUPPLY_CHARGE_CONTROL_END_THRESHOLD";
+        const std::string name(supply.name);
+        if (supply.type == "Battery" && !properties.contains(limit)) {
+            if (auto percent = m_files.value(suppliesFolder + name + "/charge_control_end_threshold"))
+                properties[std::string(limit)].value = std::move(*percent);
+        }
+        all.emplace(name, std::move(properties));
+    }
+    return all;
+}
+
+LinuxPower::LinuxPower(const Files &files)
+    : m_files(files)
+{}
+
+template <typename Container>
+std::optional<Container> LinuxPower::found(Container container) const
+{
+    if (container.empty() && !m_files.exists(suppliesFolder))
+        return std::nullopt;
+    return container;
+}
+
+std::optional<std::vector<PropertyMap>> LinuxPower::powerSources() const
+{
+    return found(PowerSupplies(m_files).powerSources());
+}
+
 PowerSettings LinuxPower::settings() const
 {
     return {.platformProfile = m_files.value("/sys/firmware/acpi/platform_profile")};
@@ -158,22 +197,7 @@ PowerSettings LinuxPower::settings() const
 
 std::optional<std::map<std::string, PropertyMap>> LinuxPower::powerSupplies() const
 {
-    const std::vector<Supply> supplies = suppliesOf(m_files);
-    if (supplies.empty() && !m_files.exists(suppliesFolder))
-        return std::nullopt;
-    std::map<std::string, PropertyMap> all;
-    for (const Supply &supply : supplies) {
-        PropertyMap properties = propertiesOf(supply);
-        // Drivers of laptops add this limit beside the properties, out of the uevent file's sight.
-        constexpr std::string_view limit = "POWER_SUPPLY_CHARGE_CONTROL_END_THRESHOLD";
-        if (supply.type == "Battery" && !properties.contains(limit)) {
-            const std::string folder = suppliesFolder + supply.name;
-            if (auto percent = m_files.value(folder + "/charge_control_end_threshold"))
-                properties[std::string(limit)].value = std::move(*percent);
-        }
-        all.emplace(supply.name, std::move(properties));
-    }
-    return all;
+    return found(PowerSupplies(m_files).powerSupplies());
 }
 
 } // namespace quillmark::platform

@@ -3,12 +3,17 @@
 
 #include "platform/linux/LinuxThermal.h"
 
+#include "platform/linux/TextFields.h"
+
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace quillmark::platform {
 
 namespace {
+
+constexpr const char *zonesFolder = "/sys/class/thermal/";
 
 /// What no sensor of a running computer measures: a broken or absent one.
 constexpr std::int64_t lowestCredible = -40'000;
@@ -27,12 +32,17 @@ std::int32_t stateFrom(const std::string &type)
 
 ThermalZones::ThermalZones(const Files &files)
     : m_files(files)
+    , m_folder(files, zonesFolder, "thermal_zone")
+{}
+
+void ThermalZones::findZones()
 {
-    const std::string folder = "/sys/class/thermal/";
-    for (const std::string &name : m_files.names(folder, "thermal_zone")) {
-        Zone zone = {folder + name, limitsOf(folder + name)};
-        if (!zone.limits.empty())
-            m_zones.push_back(std::move(zone));
+    m_zones.clear();
+    for (const std::string &name : m_folder.names()) {
+        const std::string folder = zonesFolder + name;
+        if (auto limits = limitsOf(folder); !limits.empty())
+            m_zones.push_back(
+                {folder, std::move(limits), HeldFile(m_files, folder + "/temp", HeldFile::figures)});
     }
 }
 
@@ -52,11 +62,14 @@ std::vector<ThermalZones::Limit> ThermalZones::limitsOf(const std::string &folde
     }
 }
 
-std::int32_t ThermalZones::state() const
+std::int32_t ThermalZones::state()
 {
+    if (m_folder.hasChanged())
+        findZones();
     std::int32_t worst = 0;
-    for (const Zone &zone : m_zones) {
-        const auto temperature = m_files.number(zone.folder + "/temp");
+    for (Zone &zone : m_zones) {
+        const auto text = zone.temperature.read();
+        const auto temperature = text ? parseNumber<std::int64_t>(trimmed(*text)) : std::nullopt;
         if (!temperature || *temperature < lowestCredible || *temperature > highestCredible)
             continue;
         std::int32_t reached = 0;

@@ -11,7 +11,8 @@
 
 namespace quillmark::platform {
 
-/// The machine's thermal zones that have limits. The limits are read once, the temperatures at each question.
+/// The machine's thermal zones that have limits. The limits are read when a zone appears, the temperatures at
+/// each question.
 class ThermalZones
 {
 public:
@@ -20,7 +21,7 @@ public:
     /// SystemInformation::thermalState(): the worst that any zone has reached. 3: the limit at which the
     /// machine protects itself by switching off; 2: the limit from which the kernel slows the machine down;
     /// 1: that from which fans run.
-    std::int32_t state() const;
+    std::int32_t state();
 
 private:
     struct Limit
@@ -32,11 +33,14 @@ private:
     {
         std::string folder;
         std::vector<Limit> limits;
+        HeldFile temperature;
     };
 
+    void findZones();
     std::vector<Limit> limitsOf(const std::string &folder) const;
 
     Files m_files;
+    HeldFolder m_folder;
     std::vector<Zone> m_zones;
 };
 

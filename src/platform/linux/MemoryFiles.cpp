@@ -18,15 +18,22 @@ namespace {
 /// A share of the last ten seconds that is more than a passing stall, in percent: one second.
 constexpr int notableShare = 10;
 
+/// Half an exbibyte: more than any machine has, and little enough to be added up.
+constexpr std::uint64_t mostKilobytes = std::uint64_t{1} << 49;
+
 constexpr std::int32_t levelNormal = 1;
 constexpr std::int32_t levelWarning = 2;
 constexpr std::int32_t levelCritical = 4;
 
+/// The lines that are wanted; from firstWired on they are added up.
+constexpr std::array<std::string_view, 10> wantedLabels = {
+    "MemTotal",    "SwapTotal",  "SwapFree",    "Active",     "Zswap",
+    "Unevictable", "SUnreclaim", "KernelStack", "PageTables", "Percpu"};
+constexpr std::ptrdiff_t firstWired = 5;
+
 bool isWired(std::string_view label)
 {
-    constexpr std::array<std::string_view, 5> labels = {"Unevictable", "SUnreclaim", "KernelStack",
-                                                        "PageTables", "Percpu"};
-    return std::ranges::find(labels, label) != labels.end();
+    return std::find(wantedLabels.begin() + firstWired, wantedLabels.end(), label) != wantedLabels.end();
 }
 
 } // namespace
@@ -35,23 +42,25 @@ MemoryInfo parseMemInfo(std::string_view text)
 {
     MemoryInfo memory;
     while (!text.empty()) {
-        const LabelledValue line = splitLabel(takeUntil(text, '\n'), ':');
-        std::string_view rest = line.value;
+        std::string_view rest = takeUntil(text, '\n');
+        const std::string_view label = takeUntil(rest, ':');
+        if (std::ranges::find(wantedLabels, label) == wantedLabels.end())
+            continue;
         const auto kilobytes = parseNumber<std::uint64_t>(takeWord(rest));
-        if (!kilobytes || trimmed(rest) != "kB")
+        if (!kilobytes || *kilobytes > mostKilobytes || trimmed(rest) != "kB")
             continue;
         const std::uint64_t bytes = *kilobytes * 1024;
-        if (line.label == "MemTotal")
+        if (label == "MemTotal")
             memory.total = bytes;
-        else if (line.label == "SwapTotal")
+        else if (label == "SwapTotal")
             memory.swapTotal = bytes;
-        else if (line.label == "SwapFree")
+        else if (label == "SwapFree")
             memory.swapFree = bytes;
-        else if (line.label == "Active")
+        else if (label == "Active")
             memory.active = bytes;
-        else if (line.label == "Zswap")
+        else if (label == "Zswap")
             memory.compressed = bytes;
-        else if (isWired(line.label))
+        else if (isWired(label))
             memory.wired += bytes;
     }
     return memory;

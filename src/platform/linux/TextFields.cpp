@@ -7,13 +7,27 @@
 
 namespace quillmark::platform {
 
+namespace {
+
+constexpr bool isGap(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+constexpr bool isBlank(char c)
+{
+    return isGap(c) || c == '\n' || c == '\r' || c == '\0';
+}
+
+} // namespace
+
 std::string_view trimmed(std::string_view text)
 {
-    constexpr std::string_view blank(" \t\r\n\0", 5);
-    const std::size_t first = text.find_first_not_of(blank);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blank) - first + 1);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 std::string_view takeUntil(std::string_view &rest, char separator)
@@ -25,10 +39,10 @@ std::string_view takeUntil(std::string_view &rest, char separator)
 
 std::string_view takeWord(std::string_view &rest)
 {
-    constexpr std::string_view blank = " \t";
-    rest.remove_prefix(std::min(rest.find_first_not_of(blank), rest.size()));
-    const std::string_view word = rest.substr(0, rest.find_first_of(blank));
-    rest.remove_prefix(word.size());
+    const auto start = std::ranges::find_if_not(rest, isGap);
+    const auto end = std::find_if(start, rest.end(), isGap);
+    const std::string_view word(start, end);
+    rest = std::string_view(end, rest.end());
     return word;
 }
 

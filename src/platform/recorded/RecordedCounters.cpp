@@ -70,15 +70,24 @@ std::optional<std::vector<ProcessorTicks>> readTicks(const Members &entry)
     return ticks;
 }
 
-std::optional<VirtualMemory> readVirtualMemory(const Members &entry)
+/// The page size, and how many pages a count may hold so that sums of their bytes fit 64 bits.
+struct Pages
+{
+    std::int64_t size;
+    std::int64_t most = (std::int64_t{1} << 60) / size;
+};
+
+std::optional<VirtualMemory> readVirtualMemory(const Members &entry, const Pages &pages)
 {
     const auto counts = entry.members("virtualMemory");
     if (!counts)
         return std::nullopt;
-    return VirtualMemory{.activeCount = counts->integer<std::uint64_t>("active_count").value_or(0),
-                         .wireCount = counts->integer<std::uint64_t>("wire_count").value_or(0),
-                         .compressorPageCount =
-                             counts->integer<std::uint64_t>("compressor_page_count").value_or(0)};
+    const auto count = [&](std::string_view name) {
+        return static_cast<std::uint64_t>(counts->integer(name, 0, pages.most).value_or(0));
+    };
+    return VirtualMemory{.activeCount = count("active_count"),
+                         .wireCount = count("wire_count"),
+                         .compressorPageCount = count("compressor_page_count")};
 }
 
 std::vector<InterfaceEntry> readLinks(const Members &entry)
@@ -98,13 +107,13 @@ std::optional<Date> readDate(const Members &sample)
 }
 
 /// One entry of "samples". What it does not mention is as in `base`; what it says to be null has failed.
-CounterReading readSample(const Members &entry, const CounterReading &base)
+CounterReading readSample(const Members &entry, const CounterReading &base, const Pages &pages)
 {
     CounterReading reading = base;
     if (entry.has("processorTicks"))
         reading.processorTicks = readTicks(entry);
     if (entry.has("virtualMemory"))
-        reading.virtualMemory = readVirtualMemory(entry);
+        reading.virtualMemory = readVirtualMemory(entry, pages);
     if (entry.has("interfaces"))
         reading.links = readLinks(entry);
     if (entry.has("thermalState"))
@@ -163,18 +172,18 @@ std::unique_ptr<Counters> readCounters(const Members &recording)
 {
     constexpr std::int64_t usualPageSize = 4096;
     constexpr auto mostBytes = std::int64_t{1} << 30;
-    const auto base = readSample(recording, {});
+    const Pages pages = {recording.integer("pageSize", 1, mostBytes).value_or(usualPageSize)};
+    const auto base = readSample(recording, {}, pages);
     std::vector<CounterReading> readings;
     if (const auto samples = recording.list("samples")) {
         for (const auto &sample : *samples) {
-            readings.push_back(readSample(sample, base));
+            readings.push_back(readSample(sample, base, pages));
             readings.back().date = readDate(sample);
         }
     }
     if (readings.empty())
         readings.push_back(base);
-    return std::make_unique<RecordedCounters>(
-        recording.integer("pageSize", 1, mostBytes).value_or(usualPageSize), std::move(readings));
+    return std::make_unique<RecordedCounters>(pages.size, std::move(readings));
 }
 
 /// One reading, as members of the recording itself; the links, kernel values, heat and power are there

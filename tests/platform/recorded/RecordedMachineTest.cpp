@@ -395,7 +395,9 @@ void RecordedMachineTest::badMembers_data()
                               "[[1, 2, 3, 4294967296]]", "[[1, 2, 3, 4.5]]"})
         row(QByteArray("\"processorTicks\": ") + cores, u"processorTicks"_s, ticks);
     is(R"("virtualMemory": 5)", u"virtualMemory"_s, object, number);
-    row(R"("virtualMemory": {"wire_count": -1})", u"virtualMemory.wire_count"_s, int64);
+    for (const auto *count : {"-1", "281474976710657"})
+        row(QByteArray(R"("virtualMemory": {"wire_count": )") + count + "}", u"virtualMemory.wire_count"_s,
+            u"must be from 0 to 281474976710656"_s);
     is(R"("samples": {})", u"samples"_s, array, object);
     is(R"("samples": [{}, 5])", u"samples[1]"_s, object, number);
     row(R"("samples": [{}, {"processorTicks": [[]]}])", u"samples[1].processorTicks"_s, ticks);
