@@ -58,6 +58,9 @@ public:
     /// Of the last Double or Integer.
     double number() const { return m_double; }
 
+    /// How many bytes have been read: the end of the last token.
+    std::size_t position() const { return m_position; }
+
     /// Of the last Error.
     Error error() const;
 
