@@ -8,6 +8,8 @@
 #include <bit>
 #include <cstdint>
 #include <deque>
+#include <limits>
+#include <unordered_map>
 #include <vector>
 
 namespace quillmark::history {
@@ -23,7 +25,7 @@ struct MatchKey
 {
     QStringView head;
     QStringView tail;
-    std::size_t hash = 0;
+    std::uint32_t hash = 0;
 
     bool operator==(const MatchKey &other) const
     {
@@ -34,7 +36,43 @@ struct MatchKey
 MatchKey matchKey(QStringView head, std::size_t headHash, QStringView tail)
 {
     constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
-    return {head, tail, static_cast<std::size_t>((headHash ^ qHash(tail)) * spread)};
+    return {head, tail, static_cast<std::uint32_t>(((headHash ^ qHash(tail)) * spread) >> 32)};
+}
+
+/// Texts for keys whose pieces stand nowhere in a snapshot.
+class KeyTexts
+{
+public:
+    QStringView keep(QString text) { return m_texts.emplace_back(std::move(text)); }
+
+    MatchKey numbered(const MatchKey &key, int occurrence)
+    {
+        const auto tail = keep(key.tail % u'#' % QString::number(occurrence));
+        return matchKey(key.head, qHash(key.head), tail);
+    }
+
+private:
+    std::deque<QString> m_texts;
+};
+
+/// Calls `visit` with each row that is compared, and its key without a number.
+template <typename Visit>
+void visitRows(const ScanSnapshot &snapshot, KeyTexts &texts, Visit visit)
+{
+    for (const auto &section : snapshot.sections) {
+        const QStringView name = section.key ? *section.key : section.title;
+        const auto slash = name.indexOf(u'/');
+        const auto head = slash < 0 ? name : name.first(slash);
+        const auto headHash = qHash(head);
+        for (const auto &item : section.items) {
+            if (item.isVolatile)
+                continue;
+            const QString &ownName = item.key ? *item.key : item.label;
+            const auto tail =
+                slash < 0 ? QStringView(ownName) : texts.keep(name.sliced(slash + 1) % u'/' % ownName);
+            visit(section, item, matchKey(head, headHash, tail));
+        }
+    }
 }
 
 struct Row
@@ -42,7 +80,7 @@ struct Row
     const Section *section = nullptr;
     const Item *item = nullptr;
     MatchKey key;
-    int occurrences = 0; ///< of the key so far, kept by the row that has it unnumbered; 0 in the others
+    int occurrences = 0; ///< of the key, kept by the row that has it without a number; 0 in the others
 };
 
 Entry entry(const Row &row)
@@ -55,26 +93,44 @@ Entry entry(const Row &row)
 class RowIndex
 {
 public:
+    static constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
+
     explicit RowIndex(const ScanSnapshot &snapshot);
 
     const std::vector<Row> &rows() const { return m_rows; }
-    const Row *find(const MatchKey &key) const
+    /// The place of a row with this key in rows().
+    std::size_t find(const MatchKey &key) const { return placeIn(slotOf(key, anyRow)); }
+    /// The place of the row that has this key without a number. `guess` is looked at first: rows mostly keep
+    /// their order.
+    std::size_t findUnnumbered(const MatchKey &key, std::size_t guess) const
     {
-        return find(key, [](const Row &) { return true; });
+        if (guess < m_rows.size() && m_rows[guess].key == key && isUnnumbered(m_rows[guess]))
+            return guess;
+        return placeIn(slotOf(key, isUnnumbered));
     }
 
 private:
+    /// Where a row stands: its place in m_rows, plus 1, beside its hash; 0: free.
+    struct Slot
+    {
+        std::uint32_t hash = 0;
+        std::uint32_t row = 0;
+    };
+
+    static bool anyRow(const Row &) { return true; }
+    static bool isUnnumbered(const Row &row) { return row.occurrences > 0; }
+
     template <typename Wanted>
-    const Row *find(const MatchKey &key, Wanted wanted) const;
-    void add(const Section &section, const Item &item, MatchKey key);
-    void insert(Row row);
-    /// A text of the index's own, for pieces that stand nowhere in the snapshot.
-    QStringView kept(QString text) { return m_texts.emplace_back(std::move(text)); }
+    std::size_t slotOf(const MatchKey &key, Wanted wanted) const;
+    std::size_t placeIn(std::size_t slot) const
+    {
+        return m_slots[slot].row == 0 ? none : m_slots[slot].row - 1;
+    }
+    void insert(std::size_t slot, const Row &row);
 
     std::vector<Row> m_rows;
-    std::vector<std::uint32_t> m_slots; ///< place of a row in m_rows, plus 1; 0: free
-    int m_shift = 0;                    ///< what of a hash is left over beside the number of a slot
-    std::deque<QString> m_texts;
+    std::vector<Slot> m_slots;
+    KeyTexts m_texts;
 };
 
 RowIndex::RowIndex(const ScanSnapshot &snapshot)
@@ -84,74 +140,106 @@ RowIndex::RowIndex(const ScanSnapshot &snapshot)
         total += static_cast<std::size_t>(section.items.size());
     m_rows.reserve(total);
     m_slots.resize(std::bit_ceil(2 * total));
-    m_shift = std::numeric_limits<std::size_t>::digits - std::countr_zero(m_slots.size());
-
-    for (const auto &section : snapshot.sections) {
-        const QStringView name = section.key ? *section.key : section.title;
-        const auto slash = name.indexOf(u'/');
-        const auto head = slash < 0 ? name : name.first(slash);
-        const auto headHash = qHash(head);
-        for (const auto &item : section.items) {
-            if (item.isVolatile)
-                continue;
-            const QString &ownName = item.key ? *item.key : item.label;
-            const auto tail =
-                slash < 0 ? QStringView(ownName) : kept(name.sliced(slash + 1) % u'/' % ownName);
-            add(section, item, matchKey(head, headHash, tail));
-        }
-    }
+    visitRows(snapshot, m_texts, [this](const Section &section, const Item &item, const MatchKey &key) {
+        const auto slot = slotOf(key, isUnnumbered);
+        if (m_slots[slot].row == 0)
+            return insert(slot, {&section, &item, key, 1});
+        const auto numbered = m_texts.numbered(key, ++m_rows[m_slots[slot].row - 1].occurrences);
+        insert(slotOf(numbered, [](const Row &) { return false; }), {&section, &item, numbered, 0});
+    });
 }
 
+/// The slot of the first row that has this key and is wanted, or the free one that it would get.
 template <typename Wanted>
-const Row *RowIndex::find(const MatchKey &key, Wanted wanted) const
+std::size_t RowIndex::slotOf(const MatchKey &key, Wanted wanted) const
 {
-    for (auto slot = key.hash >> m_shift; m_slots[slot] != 0; slot = (slot + 1) & (m_slots.size() - 1)) {
-        const Row &row = m_rows[m_slots[slot] - 1];
-        if (row.key == key && wanted(row))
-            return &row;
+    const auto mask = m_slots.size() - 1;
+    auto slot = key.hash & mask;
+    while (m_slots[slot].row != 0) {
+        if (m_slots[slot].hash == key.hash) {
+            const Row &row = m_rows[m_slots[slot].row - 1];
+            if (row.key == key && wanted(row))
+                break;
+        }
+        slot = (slot + 1) & mask;
     }
-    return nullptr;
+    return slot;
 }
 
-void RowIndex::add(const Section &section, const Item &item, MatchKey key)
+void RowIndex::insert(std::size_t slot, const Row &row)
 {
-    const Row *first = find(key, [](const Row &row) { return row.occurrences > 0; });
-    if (!first)
-        return insert({&section, &item, key, 1});
-    const int occurrence = ++m_rows[static_cast<std::size_t>(first - m_rows.data())].occurrences;
-    const auto tail = kept(key.tail % u'#' % QString::number(occurrence));
-    insert({&section, &item, matchKey(key.head, qHash(key.head), tail), 0});
-}
-
-void RowIndex::insert(Row row)
-{
-    auto slot = row.key.hash >> m_shift;
-    while (m_slots[slot] != 0)
-        slot = (slot + 1) & (m_slots.size() - 1);
     m_rows.push_back(row);
-    m_slots[slot] = static_cast<std::uint32_t>(m_rows.size());
+    m_slots[slot] = {row.key.hash, static_cast<std::uint32_t>(m_rows.size())};
 }
+
+/// Finds for each row of a newer snapshot, in their order, the one of the older that it continues. The older
+/// rows serve to count occurrences of keys in the newer ones as well, which saves those an index.
+class RowMatcher
+{
+public:
+    explicit RowMatcher(const RowIndex &older)
+        : m_older(older)
+        , m_seen(older.rows().size())
+        , m_isMatched(older.rows().size())
+    {}
+
+    /// nullptr: the row is new.
+    const Row *match(const MatchKey &key)
+    {
+        auto place = m_older.findUnnumbered(key, m_guess);
+        const int occurrence = place == RowIndex::none ? ++m_strangers[key] : ++m_seen[place];
+        if (occurrence > 1)
+            place = m_older.find(m_texts.numbered(key, occurrence));
+        else if (place == RowIndex::none)
+            place = m_older.find(key);
+        if (place == RowIndex::none)
+            return nullptr;
+        m_guess = place + 1;
+        m_isMatched[place] = true;
+        return &m_older.rows()[place];
+    }
+
+    /// Whether the row's key was met. Of rows whose keys are alike only by their numbers the first stands for
+    /// all.
+    bool wasMatched(const Row &row) const
+    {
+        const auto place = static_cast<std::size_t>(&row - m_older.rows().data());
+        return m_isMatched[place] || m_isMatched[m_older.find(row.key)];
+    }
+
+private:
+    struct Hash
+    {
+        std::size_t operator()(const MatchKey &key) const { return key.hash; }
+    };
+
+    const RowIndex &m_older;
+    std::size_t m_guess = 0;
+    std::vector<int> m_seen; ///< occurrences of each older row's key among the newer ones
+    std::vector<bool> m_isMatched;
+    std::unordered_map<MatchKey, int, Hash> m_strangers; ///< occurrences of the keys that no older row has
+    KeyTexts m_texts;
+};
 
 /// Calls `report` with the older and the newer row of every difference; nullptr where there is none.
 template <typename Report>
 void compare(const ScanSnapshot &older, const ScanSnapshot &newer, Report report)
 {
     const bool valuesCount = sameLanguage(older, newer);
-    const RowIndex oldRows(older);
-    const RowIndex newRows(newer);
-    std::vector<bool> isMatched(oldRows.rows().size());
-    for (const auto &row : newRows.rows()) {
-        const Row *old = oldRows.find(row.key);
-        if (old)
-            isMatched[static_cast<std::size_t>(old - oldRows.rows().data())] = true;
-        const bool isUnchanged = old && old->item->status == row.item->status &&
-                                 (!valuesCount || old->item->value == row.item->value);
-        if (!isUnchanged)
-            report(old, &row);
-    }
-    for (std::size_t i = 0; i < oldRows.rows().size(); ++i) {
-        const Row &row = oldRows.rows()[i];
-        if (!isMatched[i] && !newRows.find(row.key))
+    const RowIndex index(older);
+    RowMatcher matcher(index);
+    KeyTexts texts;
+    visitRows(newer, texts, [&](const Section &section, const Item &item, const MatchKey &key) {
+        const Row *old = matcher.match(key);
+        const bool isUnchanged =
+            old && old->item->status == item.status && (!valuesCount || old->item->value == item.value);
+        if (isUnchanged)
+            return;
+        const Row row{&section, &item};
+        report(old, &row);
+    });
+    for (const auto &row : index.rows()) {
+        if (!matcher.wasMatched(row))
             report(&row, nullptr);
     }
 }

@@ -53,7 +53,7 @@ public:
     QByteArray encode(const ScanSnapshot &snapshot)
     {
         m_json.beginObject();
-        m_json.member("id", snapshot.id.toString(QUuid::WithoutBraces).toUpper().toStdString());
+        m_json.member("id", idText(snapshot.id).toStdString());
         text("date", dateText(snapshot.date));
         text("deviceName", snapshot.deviceName);
         text("modelIdentifier", snapshot.modelIdentifier);
@@ -62,7 +62,7 @@ public:
         list("sections", snapshot.sections);
         optional("language", snapshot.language);
         m_json.endObject();
-        return QByteArray::fromStdString(m_json.text());
+        return QByteArray::fromStdString(m_json.take());
     }
 
 private:
@@ -416,6 +416,11 @@ private:
 QByteArray encoded(const ScanSnapshot &snapshot)
 {
     return Encoder().encode(snapshot);
+}
+
+QString idText(const QUuid &id)
+{
+    return id.toString(QUuid::WithoutBraces).toUpper();
 }
 
 QString dateText(const QDateTime &date)

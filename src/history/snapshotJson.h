@@ -16,6 +16,9 @@ namespace quillmark::history {
 /// The snapshot as the history file holds it (docs/contracts.md): a compact JSON object, UTF-8.
 QByteArray encoded(const ScanSnapshot &snapshot);
 
+/// The identifier as files and the command line write it: in capitals, without braces.
+QString idText(const QUuid &id);
+
 /// The date as files and the command line write it: "2026-11-22T20:35:32Z".
 QString dateText(const QDateTime &date);
 

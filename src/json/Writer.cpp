@@ -5,6 +5,7 @@
 
 #include "json/Characters.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -15,29 +16,23 @@ namespace {
 
 constexpr std::string_view replacement = "\xEF\xBF\xBD"; // U+FFFD
 
-void appendEscape(std::string &text, char c)
+std::string escape(char c)
 {
     switch (c) {
     case '"':
-        text += "\\\"";
-        return;
+        return "\\\"";
     case '\\':
-        text += "\\\\";
-        return;
+        return "\\\\";
     case '\n':
-        text += "\\n";
-        return;
+        return "\\n";
     case '\t':
-        text += "\\t";
-        return;
+        return "\\t";
     case '\r':
-        text += "\\r";
-        return;
+        return "\\r";
     default:
         constexpr std::string_view digits = "0123456789abcdef";
-        text += "\\u00";
-        text += digits[static_cast<unsigned char>(c) >> 4];
-        text += digits[static_cast<unsigned char>(c) & 0xF];
+        const auto code = static_cast<unsigned char>(c);
+        return {'\\', 'u', '0', '0', digits[code >> 4], digits[code & 0xF]};
     }
 }
 
@@ -54,7 +49,7 @@ void Writer::key(std::string_view name)
 {
     beforeValue();
     quoted(name);
-    m_text += m_layout == Layout::Indented ? ": " : ":";
+    append(m_layout == Layout::Indented ? ": " : ":");
     m_afterKey = true;
 }
 
@@ -67,13 +62,13 @@ void Writer::string(std::string_view text)
 void Writer::integer(std::int64_t number)
 {
     beforeValue();
-    m_text += std::to_string(number);
+    append(std::to_string(number));
 }
 
 void Writer::integer(std::uint64_t number)
 {
     beforeValue();
-    m_text += std::to_string(number);
+    append(std::to_string(number));
 }
 
 void Writer::number(double number)
@@ -84,27 +79,27 @@ void Writer::number(double number)
     std::array<char, 32> digits{};
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
     const std::string_view text(digits.data(), static_cast<std::size_t>(result.ptr - digits.data()));
-    m_text += text;
+    append(text);
     if (text.find_first_of(".e") == std::string_view::npos)
-        m_text += ".0"; // without it a reader would take it for an integer
+        append(".0"); // without it a reader would take it for an integer
 }
 
 void Writer::boolean(bool value)
 {
     beforeValue();
-    m_text += value ? "true" : "false";
+    append(value ? "true" : "false");
 }
 
 void Writer::null()
 {
     beforeValue();
-    m_text += "null";
+    append("null");
 }
 
 void Writer::open(char bracket)
 {
     beforeValue();
-    m_text += bracket;
+    append(bracket);
     ++m_depth;
     m_first = true;
 }
@@ -114,7 +109,7 @@ void Writer::close(char bracket)
     --m_depth;
     if (!m_first)
         newLine();
-    m_text += bracket;
+    append(bracket);
     m_first = false;
 }
 
@@ -126,7 +121,7 @@ void Writer::beforeValue()
         return;
     }
     if (!m_first)
-        m_text += ',';
+        append(',');
     if (m_depth > 0)
         newLine();
     m_first = false;
@@ -136,29 +131,52 @@ void Writer::newLine()
 {
     if (m_layout == Layout::Compact)
         return;
-    m_text += '\n';
-    m_text.append(2 * m_depth, ' ');
+    append('\n');
+    append(std::string(2 * m_depth, ' '));
+}
+
+/// Where to write that many more characters, which count as written.
+char *Writer::room(std::size_t size)
+{
+    constexpr std::size_t least = 1024;
+    const auto begin = m_size;
+    m_size += size;
+    if (m_size > m_buffer.size())
+        m_buffer.resize(std::max({m_size, 2 * m_buffer.size(), least}));
+    return m_buffer.data() + begin;
+}
+
+void Writer::append(std::string_view text)
+{
+    text.copy(room(text.size()), text.size());
 }
 
 void Writer::quoted(std::string_view text)
 {
-    m_text += '"';
+    if (plainLength(text) == text.size()) { // as nearly all are
+        char *end = room(text.size() + 2);
+        *end++ = '"';
+        end += text.copy(end, text.size());
+        *end = '"';
+        return;
+    }
+    append('"');
     while (!text.empty()) {
         const std::size_t plain = plainLength(text);
-        m_text.append(text, 0, plain);
+        append(text.substr(0, plain));
         text.remove_prefix(plain);
         if (text.empty())
             break;
         const std::size_t length = utf8SequenceLength(text);
         if (length == 1)
-            appendEscape(m_text, text.front());
+            append(escape(text.front()));
         else if (isControl(text.substr(0, length)))
-            appendEscape(m_text, text[1]); // U+0080 to U+009F: their second byte is their number
+            append(escape(text[1])); // U+0080 to U+009F: their second byte is their number
         else
-            m_text += length == 0 ? replacement : text.substr(0, length);
+            append(length == 0 ? replacement : text.substr(0, length));
         text.remove_prefix(length == 0 ? 1 : length);
     }
-    m_text += '"';
+    append('"');
 }
 
 } // namespace quillmark::json

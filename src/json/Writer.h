@@ -50,8 +50,13 @@ public:
     }
 
     /// The text so far; complete once every object and array has ended.
-    const std::string &text() const { return m_text; }
-    std::string take() { return std::move(m_text); }
+    std::string text() const { return m_buffer.substr(0, m_size); }
+    /// The text, out of a writer that is used no more.
+    std::string take()
+    {
+        m_buffer.resize(m_size);
+        return std::move(m_buffer);
+    }
 
 private:
     void open(char bracket);
@@ -59,8 +64,12 @@ private:
     void beforeValue();
     void newLine();
     void quoted(std::string_view text);
+    void append(std::string_view text);
+    void append(char c) { append(std::string_view(&c, 1)); }
+    char *room(std::size_t size);
 
-    std::string m_text;
+    std::string m_buffer; ///< the text, and room for more
+    std::size_t m_size = 0;
     Layout m_layout;
     std::size_t m_depth = 0;
     bool m_first = true; ///< nothing stands in the innermost object or array yet

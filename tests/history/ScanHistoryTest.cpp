@@ -412,8 +412,8 @@ void ScanHistoryTest::savesInOrder()
 /// has all that was told.
 void ScanHistoryTest::survivesKilling()
 {
-    constexpr int kills = 300;
-    constexpr qsizetype padding = 2000;
+    constexpr int kills = 250;
+    constexpr qsizetype padding = 1000;
     std::mt19937 random(static_cast<std::uint32_t>(getpid()));
     int newest = 0;
     int midWrite = 0;
