@@ -18,10 +18,20 @@ namespace quillmark::cli {
 
 namespace {
 
+/// The command that was typed, as far as there is one.
+const CLI::App &innermost(const CLI::App &program)
+{
+    const auto *app = &program;
+    while (!app->get_subcommands().empty())
+        app = app->get_subcommands().front();
+    return *app;
+}
+
 /// What was wrong.
 std::string reasonFor(const CLI::App &program, const CLI::Error &error)
 {
-    const bool lacksCommand = dynamic_cast<const CLI::RequiredError *>(&error); // no option is required
+    const bool lacksCommand = dynamic_cast<const CLI::RequiredError *>(&error) &&
+                              innermost(program).get_require_subcommand_min() > 0;
     if (!lacksCommand && !dynamic_cast<const CLI::ExtrasError *>(&error))
         return error.what();
     const auto words = program.remaining(true);
@@ -56,13 +66,21 @@ int rejectCommandLine(const CLI::App &program, const CLI::Error &error, const Ou
     return WrongCommandLine;
 }
 
+std::string namesSomeFile(const std::string &file)
+{
+    return file.empty() ? "names no file" : "";
+}
+
 void addCommonOptions(CLI::App &program, CommonOptions &options)
 {
     program
         .add_option("--machine", options.machineFile,
                     "Inspect this recorded machine instead of the one at hand")
         ->envname("QUILLMARK_MACHINE")
-        ->check([](const std::string &file) { return std::string(file.empty() ? "names no file" : ""); })
+        ->check(namesSomeFile)
+        ->type_name("FILE");
+    program.add_option("--history", options.historyFile, "Keep the saved scans in this file")
+        ->check(namesSomeFile)
         ->type_name("FILE");
     program.add_option("--language", options.language, "Interface language for this run")
         ->check([](const std::string &tag) {
@@ -88,6 +106,7 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     CommonOptions options;
     addCommonOptions(program, options);
     Command command;
+    addHistory(program, command);
     addInspect(program, command);
     addBattery(program, command);
     addExport(program, command);

@@ -3,8 +3,10 @@
 
 #include "cli/Session.h"
 
+#include "history/ScanHistory.h"
 #include "platform/recorded/RecordedMachine.h"
 
+#include <QFile>
 #include <QStringList>
 
 namespace quillmark::cli {
@@ -34,6 +36,12 @@ std::expected<std::unique_ptr<platform::Machine>, Failure> Session::openMachine(
     if (!machine)
         return std::unexpected(Failure{QString::fromStdString(machine.error().text)});
     return std::move(*machine);
+}
+
+QString Session::historyFile() const
+{
+    return m_options.historyFile.empty() ? history::ScanHistory::defaultFile()
+                                         : QFile::decodeName(m_options.historyFile.c_str());
 }
 
 } // namespace quillmark::cli

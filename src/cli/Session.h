@@ -17,6 +17,7 @@ namespace quillmark::cli {
 struct CommonOptions
 {
     std::string machineFile; ///< of a recording; empty: this machine
+    std::string historyFile; ///< empty: the one of the interface
     std::string language;    ///< tag; empty: as the environment asks
     bool noColor = false;
 };
@@ -38,6 +39,9 @@ public:
 
     /// The machine to inspect: the recording that was named, else this one.
     std::expected<std::unique_ptr<platform::Machine>, Failure> openMachine() const;
+
+    /// Where the scans are kept.
+    QString historyFile() const;
 
 private:
     const Output &m_output;

@@ -25,37 +25,75 @@ constexpr int shortestBar = 8;
 constexpr auto bold = "1";
 constexpr auto faint = "2";
 
-QString mark(CapabilityStatus status)
+const char *codesOf(TerminalMark::Color color)
 {
-    switch (status) {
-    case CapabilityStatus::Supported:
-        return u"✓"_s;
-    case CapabilityStatus::Unsupported:
-        return u"✗"_s;
-    case CapabilityStatus::Warning:
-        return u"!"_s;
-    case CapabilityStatus::Info:
-        break;
-    }
-    return u"·"_s;
-}
-
-const char *colorOf(CapabilityStatus status)
-{
-    switch (status) {
-    case CapabilityStatus::Supported:
+    switch (color) {
+    case TerminalMark::Color::Green:
         return "32";
-    case CapabilityStatus::Unsupported:
+    case TerminalMark::Color::Red:
         return "31";
-    case CapabilityStatus::Warning:
+    case TerminalMark::Color::Yellow:
         return "33";
-    case CapabilityStatus::Info:
+    case TerminalMark::Color::Blue:
+        return "34";
+    case TerminalMark::Color::Faint:
         break;
     }
     return faint;
 }
 
+TerminalMark markOf(CapabilityStatus status)
+{
+    switch (status) {
+    case CapabilityStatus::Supported:
+        return {u"✓"_s, TerminalMark::Color::Green};
+    case CapabilityStatus::Unsupported:
+        return {u"✗"_s, TerminalMark::Color::Red};
+    case CapabilityStatus::Warning:
+        return {u"!"_s, TerminalMark::Color::Yellow};
+    case CapabilityStatus::Info:
+        break;
+    }
+    return {u"·"_s, TerminalMark::Color::Faint};
+}
+
+/// The columns that stand in a line of that width, and how wide each of them is; all where there is no limit.
+struct TableLayout
+{
+    QList<qsizetype> shown;
+    QList<int> widths;
+};
+
+TableLayout layOut(const QList<TerminalColumn> &columns, const QList<QStringList> &rows, int room)
+{
+    TableLayout layout;
+    int total = -gap;
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        int width = textWidth(columns[i].heading);
+        for (const auto &row : rows)
+            width = std::max(width, textWidth(row[i]));
+        layout.shown += i;
+        layout.widths += width;
+        total += gap + width;
+    }
+    const auto rankOf = [&](qsizetype column) { return columns[column].rank; };
+    while (room > 0 && total > room) {
+        const auto least = std::ranges::max_element(layout.shown, {}, rankOf);
+        if (rankOf(*least) == 0)
+            break;
+        const auto place = least - layout.shown.begin();
+        total -= gap + layout.widths[place];
+        layout.shown.remove(place);
+        layout.widths.remove(place);
+    }
+    return layout;
+}
+
 } // namespace
+
+TerminalMark::TerminalMark(CapabilityStatus status)
+    : TerminalMark(markOf(status))
+{}
 
 void TerminalPage::addParagraph(const QString &text, Weight weight)
 {
@@ -82,8 +120,8 @@ void TerminalPage::addBar(const QString &heading, double share, CapabilityStatus
     const int room = beside < shortestBar ? isolated : beside;
     const int length = m_style.columns > 0 ? std::min(room, barLength) : barLength;
     const int filled = static_cast<int>(std::clamp(share, 0.0, 1.0) * length);
-    m_text += styled(QString(filled, u'█'), colorOf(status)) + styled(QString(length - filled, u'░'), faint) +
-              space + styled(figure, bold) + u'\n';
+    m_text += styled(QString(filled, u'█'), codesOf(TerminalMark(status).color)) +
+              styled(QString(length - filled, u'░'), faint) + space + styled(figure, bold) + u'\n';
 }
 
 void TerminalPage::addMarked(const QList<std::pair<CapabilityStatus, QString>> &texts)
@@ -92,8 +130,9 @@ void TerminalPage::addMarked(const QList<std::pair<CapabilityStatus, QString>> &
     QStringList marked;
     for (const auto &[status, text] : texts) {
         const auto words = u' ' + text;
-        plain += mark(status) + words;
-        marked += styled(mark(status), colorOf(status)) + words;
+        const TerminalMark mark(status);
+        plain += mark.sign + words;
+        marked += styled(mark.sign, codesOf(mark.color)) + words;
     }
     const auto space = QString(gap + 1, u' ');
     const bool fits = m_style.columns == 0 || textWidth(plain.join(space)) <= m_style.columns;
@@ -108,13 +147,31 @@ void TerminalPage::addBlocks(const QList<TerminalBlock> &blocks)
         if (!block.title.isEmpty())
             m_text += styled(block.title, bold) + u'\n';
         for (const auto &row : block.rows) {
-            m_text += u"  "_s + styled(mark(row.status), colorOf(row.status)) + u' ';
+            m_text += u"  "_s + styled(row.mark.sign, codesOf(row.mark.color)) + u' ';
             if (columns.value > 0)
                 addAligned(row, columns);
             else
                 addStacked(row);
         }
     }
+}
+
+void TerminalPage::addTable(const QList<TerminalColumn> &columns, QList<QStringList> rows)
+{
+    for (auto &row : rows)
+        std::ranges::transform(row, row.begin(), printable);
+    const auto layout = layOut(columns, rows, m_style.columns);
+    const auto line = [&](auto textOf) {
+        QString text;
+        for (qsizetype i = 0; i < layout.shown.size(); ++i) {
+            const int width = i + 1 < layout.shown.size() ? layout.widths[i] + gap : 0;
+            text += padded(textOf(layout.shown[i]), width);
+        }
+        return text;
+    };
+    m_text += styled(line([&](qsizetype i) { return columns[i].heading; }), faint) + u'\n';
+    for (const auto &row : rows)
+        m_text += line([&](qsizetype i) { return row[i]; }) + u'\n';
 }
 
 QString TerminalPage::styled(const QString &text, const char *codes) const
@@ -154,7 +211,7 @@ void TerminalPage::addAligned(const TerminalRow &row, const Columns &columns)
     m_text += padded(printable(row.label), columns.label + gap);
     m_text += row.word.isEmpty()
                   ? padded(lines.first(), 0)
-                  : padded(lines.first(), columns.value + gap) + styled(row.word, colorOf(row.status));
+                  : padded(lines.first(), columns.value + gap) + styled(row.word, codesOf(row.mark.color));
     m_text += u'\n';
     for (const auto &line : lines.mid(1))
         m_text += QString(markWidth + columns.label + gap, u' ') + line + u'\n';
@@ -168,7 +225,7 @@ void TerminalPage::addStacked(const TerminalRow &row)
     for (const auto &line : lined(printable(row.value), width))
         lines += QString(gap, u' ') + line;
     if (!row.word.isEmpty())
-        lines += QString(gap, u' ') + styled(row.word, colorOf(row.status));
+        lines += QString(gap, u' ') + styled(row.word, codesOf(row.mark.color));
     m_text += lines.join(u'\n' + QString(markWidth, u' ')) + u'\n';
 }
 

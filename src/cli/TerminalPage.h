@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <utility>
+
 namespace quillmark::cli {
 
 struct TerminalStyle
@@ -17,10 +19,25 @@ struct TerminalStyle
     bool color = false;
 };
 
-/// One line of a list: a mark for the status, label, value, and a word.
+/// A sign before a row, in the colour that the row's word has too.
+struct TerminalMark
+{
+    enum class Color { Green, Red, Yellow, Blue, Faint };
+
+    TerminalMark(QString itsSign, Color itsColor)
+        : sign(std::move(itsSign))
+        , color(itsColor)
+    {}
+    TerminalMark(inspection::CapabilityStatus status); // NOLINT: a status is its mark
+
+    QString sign; ///< one column wide
+    Color color;
+};
+
+/// One line of a list: a mark, label, value, and a word.
 struct TerminalRow
 {
-    inspection::CapabilityStatus status = inspection::CapabilityStatus::Info;
+    TerminalMark mark;
     QString label;
     QString value;
     QString word; ///< for what the mark says; empty where the value says it already
@@ -30,6 +47,12 @@ struct TerminalBlock
 {
     QString title; ///< empty: the rows stand for themselves
     QList<TerminalRow> rows;
+};
+
+struct TerminalColumn
+{
+    QString heading;
+    int rank = 0; ///< where there is no room for all columns those of the highest rank go first; 0 stays
 };
 
 /// A text as it is read on a terminal, built from the top down. What it is given may hold anything: it
@@ -52,6 +75,8 @@ public:
     void addMarked(const QList<std::pair<inspection::CapabilityStatus, QString>> &texts);
     /// Rows in aligned columns, the same in all blocks so that the eye can run down the page.
     void addBlocks(const QList<TerminalBlock> &blocks);
+    /// A line for each row, as many texts in each as there are columns.
+    void addTable(const QList<TerminalColumn> &columns, QList<QStringList> rows);
 
     const QString &text() const { return m_text; }
 

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <iostream>
 #include <streambuf>
+#include <string>
 
 #include <poll.h>
 #include <sys/ioctl.h>
@@ -71,6 +72,15 @@ bool environmentRefusesColor()
     return (noColor && *noColor) || (terminal && std::strcmp(terminal, "dumb") == 0);
 }
 
+/// Anything but a yes is a no.
+bool ask(const QString &question)
+{
+    std::cerr << question.toStdString() << std::flush;
+    std::string answer;
+    std::getline(std::cin, answer);
+    return answer == "y" || answer == "Y" || answer == "yes";
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -85,7 +95,8 @@ int main(int argc, char **argv)
                              .isTerminal = isTerminal,
                              .columns = isTerminal ? terminalColumns() : 80,
                              .colorIsWelcome = isTerminal && !environmentRefusesColor(),
-                             .console = &console};
+                             .console = &console,
+                             .ask = isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1 ? ask : nullptr};
     const int status = cli::run(argc, argv, output, &platform::thisMachine);
 
     if (standardOutput.error() == 0)

@@ -8,6 +8,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -18,6 +19,7 @@ struct Terminal
 {
     int columns = 0; ///< 0: the output is none
     bool color = false;
+    std::function<bool(const QString &question)> ask; ///< empty: nobody is there
 };
 
 struct Outcome
@@ -44,7 +46,8 @@ inline Outcome runWith(const QString &arguments, const Terminal &terminal = {})
                              .err = err,
                              .isTerminal = terminal.columns > 0,
                              .columns = terminal.columns,
-                             .colorIsWelcome = terminal.color};
+                             .colorIsWelcome = terminal.color,
+                             .ask = terminal.ask};
     const int status =
         cli::run(static_cast<int>(pointers.size()), pointers.data(), output, [] { return changedMachine(); });
     return {status, QString::fromStdString(out.str()), QString::fromStdString(err.str())};

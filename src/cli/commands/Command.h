@@ -23,6 +23,7 @@ inline constexpr auto commonOptionsHint =
 // Each adds its sub-command to the program; when that one is typed, `chosen` becomes what to do.
 void addBattery(CLI::App &program, Command &chosen);
 void addExport(CLI::App &program, Command &chosen);
+void addHistory(CLI::App &program, Command &chosen);
 void addInspect(CLI::App &program, Command &chosen);
 void addMachine(CLI::App &program, Command &chosen);
 void addMonitor(CLI::App &program, Command &chosen);
