@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "inspection/DeviceProbe.h"
 #include "reports/Report.h"
 #include "support/Recordings.h"
 #include "support/ReportRows.h"
+#include "support/ReportSamples.h"
 #include "support/Rows.h"
 
 #include <QTest>
-#include <QTimeZone>
 
 using namespace quillmark;
 using namespace quillmark::inspection;
@@ -16,15 +15,6 @@ using namespace quillmark::support;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-reports::Report reportOf(const platform::Machine &machine)
-{
-    const language::Formats english(u"en"_s);
-    return {.date = QDateTime({2026, 11, 22}, {22, 35, 32}, QTimeZone(7200)),
-            .language = u"en"_s,
-            .summary = DeviceProbe::summary(machine, english),
-            .sections = DeviceProbe::sections(machine, english, machine.network().currentPath())};
-}
 
 /// A Mac to whose owner everything in it points, in every place where a name or an address may stand.
 QByteArray adasRecording()
