@@ -96,6 +96,12 @@ void ReportsTest::plainText()
     QVERIFY(lines.contains(u"  Metal 4: Requires macOS 26 [Not supported]"_s));
     QVERIFY(lines.contains(u"  Memory (RAM): 16 GB"_s));
     QVERIFY(text.endsWith(u'\n') && !text.endsWith(u"\n\n"_s));
+
+    // The line of the hardware leaves out what is not known.
+    const auto unknown = reportOf(*changedMachine(R"({"volume": null})"));
+    for (const auto &form : {reports::plainText(unknown), reports::markdown(unknown)})
+        QVERIFY2(form.contains(u"\n%1 · 16 GB memory · macOS "_s.arg(unknown.summary.chip)),
+                 qPrintable(form));
 }
 
 /// A name that looks like Markdown or HTML reads as it is, and stays in its cell.
@@ -170,6 +176,7 @@ void ReportsTest::beforeTheFirstInspection()
 {
     const reports::Report report{.language = u"en"_s};
     QCOMPARE(reports::plainText(report), u"Quillmark report\n"_s);
+    QCOMPARE(reports::markdown(report).trimmed(), u"# Quillmark report"_s);
     const auto root = validReport(reports::json(report));
     QVERIFY(!root.contains(u"date"_s) && root[u"sections"_s].toArray().isEmpty());
     QCOMPARE(root[u"score"_s].toDouble(-1), 0.0);
