@@ -3,15 +3,13 @@
 
 #include "cli/PdfModule.h"
 
+#include "platform/programFile.h"
 #include "reports/DrawPdf.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLibrary>
 #include <QStringList>
-
-#include <dlfcn.h>
 
 namespace quillmark::cli {
 
@@ -19,30 +17,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The folder of this very program, whatever name it was started by.
-QDir programFolder()
-{
-    auto file = QFile::symLinkTarget(u"/proc/self/exe"_s);
-    Dl_info self{};
-    // Where there is no /proc, the loader names the file whole; with one it might give no more than argv[0].
-    if (file.isEmpty() && dladdr(reinterpret_cast<const void *>(&pdfReport), &self) != 0)
-        file = QFile::decodeName(self.dli_fname);
-    return QFileInfo(QFileInfo(file).canonicalFilePath()).dir();
-}
-
-/// In a build folder or an installation, and in an application bundle.
+/// Beside the program in a build folder or an installation, and in an application bundle. None when it is not
+/// known where the program is: a folder that the user happens to be in is no place to load code from.
 QStringList moduleFolders()
 {
-    const auto program = programFolder();
+    const auto program = platform::programFile();
+    if (program.empty())
+        return {};
+    const QDir beside(QFile::decodeName(program.parent_path().c_str()));
     QStringList folders;
     for (const auto folder : {"../" QUILLMARK_LIBDIR "/quillmark", "../PlugIns"})
-        folders += QDir::cleanPath(program.filePath(QString::fromLatin1(folder)));
+        folders += QDir::cleanPath(beside.filePath(QString::fromLatin1(folder)));
     return folders;
 }
 
 std::expected<reports::DrawPdf *, Failure> loadModule()
 {
     const auto folders = moduleFolders();
+    if (folders.isEmpty())
+        return std::unexpected(Failure{u"the module quillmark-pdf, which draws PDF documents, was not found: "
+                                       "the system does not tell where the program is"_s});
     for (const QDir folder : folders) {
         const auto files = folder.entryList({u"quillmark-pdf.*"_s}, QDir::Files);
         if (files.isEmpty())

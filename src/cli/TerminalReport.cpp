@@ -21,10 +21,7 @@ class Text
 void addHeadline(TerminalPage &page, const inspection::DeviceSummary &summary)
 {
     page.addParagraph(summary.deviceName, TerminalPage::Weight::Bold);
-    page.addParagraph(
-        summary.memory.isEmpty()
-            ? summary.chip // a saved scan knows no more
-            : Text::tr("%1 · %2 memory · %3 storage").arg(summary.chip, summary.memory, summary.storage));
+    page.addParagraph(reports::hardwareLine(summary));
     page.addParagraph(u"%1 · %2"_s.arg(summary.osVersion, summary.modelIdentifier),
                       TerminalPage::Weight::Faint);
 }

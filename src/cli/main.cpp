@@ -6,6 +6,7 @@
 #include "platform/Machine.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
@@ -86,6 +87,8 @@ bool ask(const QString &question)
 int main(int argc, char **argv)
 {
     using namespace quillmark;
+    // A file that grows too long is an error like any other, with a reason and nothing left behind.
+    std::signal(SIGXFSZ, SIG_IGN);
     const bool isTerminal = isatty(STDOUT_FILENO) == 1;
     StandardOutput standardOutput;
     std::ostream out(&standardOutput);

@@ -3,6 +3,7 @@
 
 #include "reports/Report.h"
 
+#include "inspection/rows.h"
 #include "language/Formats.h"
 #include "reports/Text.h"
 
@@ -21,6 +22,11 @@ QString title(PrivateText text)
         return Text::tr("volume names");
     }
     return {};
+}
+
+bool isKnown(const QString &text)
+{
+    return !text.isEmpty() && text != inspection::missing();
 }
 
 } // namespace
@@ -77,6 +83,29 @@ QString scoreLine(const Report &report)
         .arg(inspection::scorePercent(report.sections))
         .arg(inspection::count(report.sections, inspection::CapabilityStatus::Supported))
         .arg(rated);
+}
+
+QString hardwareLine(const inspection::DeviceSummary &summary,
+                     const std::function<QString(const QString &)> &shown)
+{
+    const auto text = [&shown](const QString &raw) { return shown ? shown(raw) : raw; };
+    QStringList parts;
+    if (isKnown(summary.chip))
+        parts += text(singleLine(summary.chip));
+    if (isKnown(summary.memory))
+        parts += Text::tr("%1 memory").arg(text(summary.memory));
+    if (isKnown(summary.storage))
+        parts += Text::tr("%1 storage").arg(text(summary.storage));
+    return parts.join(QStringLiteral(" · "));
+}
+
+QString machineLine(const inspection::DeviceSummary &summary)
+{
+    QStringList parts = {hardwareLine(summary)};
+    if (isKnown(summary.osVersion))
+        parts += singleLine(summary.osVersion);
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" · "));
 }
 
 QString nothingMatches()

@@ -53,6 +53,11 @@ QString suggestedFileName(const Report &report, const QString &extension);
 /// The version of this program, "1.0.0".
 QString applicationVersion();
 
+/// "Apple M2 · 16 GB memory · 494.38 GB storage"; what is not known is left out. `shown` may change the
+/// machine's own texts before they stand among others.
+QString hardwareLine(const inspection::DeviceSummary &summary,
+                     const std::function<QString(const QString &)> &shown = {});
+
 /// "Left out of this report: computer name, addresses, and volume names."; empty when nothing was.
 QString leftOutNote(const Report &report);
 

@@ -29,11 +29,6 @@ bool isOfMac(const inspection::DeviceSummary &summary)
     return summary.osVersion.startsWith("macOS"_L1);
 }
 
-bool isKnown(const QString &text)
-{
-    return !text.isEmpty() && text != u"—";
-}
-
 /// Keeps the order of a text that the machine gave, whichever direction its surroundings have.
 QString isolated(const QString &text, Qt::LayoutDirection surroundings)
 {
@@ -43,18 +38,6 @@ QString isolated(const QString &text, Qt::LayoutDirection surroundings)
     if (text.isEmpty() || (surroundings == Qt::LeftToRight && std::ranges::none_of(text, runsLeft)))
         return text;
     return QChar(0x2068) + text + QChar(0x2069);
-}
-
-QString hardwareLine(const inspection::DeviceSummary &summary, Qt::LayoutDirection direction)
-{
-    QStringList parts;
-    if (isKnown(summary.chip))
-        parts += isolated(singleLine(summary.chip), direction);
-    if (isKnown(summary.memory))
-        parts += Text::tr("%1 memory").arg(isolated(summary.memory, direction));
-    if (isKnown(summary.storage))
-        parts += Text::tr("%1 storage").arg(isolated(summary.storage, direction));
-    return parts.join(u" · "_s);
 }
 
 ReportDocument::Row row(const CapabilityItem &item, const QString &place = {})
@@ -135,7 +118,8 @@ void describeMachine(ReportDocument &document, const Report &report)
         document.machine = ofMac ? Text::tr("This Mac") : Text::tr("This computer");
     document.question =
         ofMac ? Text::tr("What this Mac can really do") : Text::tr("What this computer can really do");
-    document.hardware = hardwareLine(report.summary, document.direction);
+    document.hardware = hardwareLine(
+        report.summary, [&document](const QString &text) { return isolated(text, document.direction); });
     document.madeWith =
         ofMac ? Text::tr("Made with %1 · All data was read on this Mac").arg(document.application)
               : Text::tr("Made with %1 · All data was read on this computer").arg(document.application);

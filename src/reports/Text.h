@@ -22,6 +22,9 @@ QString singleLine(const QString &text);
 /// "Capability score: 83% (20 of 24 rated capabilities supported)"; empty when nothing is rated.
 QString scoreLine(const Report &report);
 
+/// The hardware with the system that runs on it.
+QString machineLine(const inspection::DeviceSummary &summary);
+
 /// Stands in a report none of whose rows were asked for.
 QString nothingMatches();
 

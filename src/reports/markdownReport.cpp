@@ -70,11 +70,10 @@ QString row(const QString &label, const QString &value, const QString &status)
 
 QString markdown(const Report &report)
 {
-    const auto &summary = report.summary;
-    QString text = u"# %1\n\n"_s.arg(escaped(summary.deviceName));
-    text += escaped(Text::tr("%1 · %2 memory · %3 storage · %4")
-                        .arg(summary.chip, summary.memory, summary.storage, summary.osVersion)) +
-            u"\n\n"_s;
+    const auto &name = report.summary.deviceName;
+    QString text = u"# %1\n\n"_s.arg(escaped(name.isEmpty() ? Text::tr("Quillmark report") : name));
+    if (const auto machine = machineLine(report.summary); !machine.isEmpty())
+        text += escaped(machine) + u"\n\n"_s;
     if (const auto score = scoreLine(report); !score.isEmpty())
         text += u"**%1**\n"_s.arg(escaped(score));
     QString tables;

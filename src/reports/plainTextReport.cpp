@@ -28,9 +28,7 @@ QString headline(const Report &report)
     const auto &summary = report.summary;
     if (!summary.deviceName.isEmpty()) {
         text += u'\n' + singleLine(summary.deviceName) + u'\n';
-        text += singleLine(Text::tr("%1 · %2 memory · %3 storage · %4")
-                               .arg(summary.chip, summary.memory, summary.storage, summary.osVersion)) +
-                u'\n';
+        text += machineLine(summary) + u'\n';
     }
     return text;
 }

@@ -42,6 +42,8 @@ enum class Existing { Keep, Replace };
 /// one keeps its own. A symbolic link stays, and the file behind it is written. A device or a pipe is written
 /// to, not replaced.
 ///
+/// Where the length of files is limited (RLIMIT_FSIZE), the process has to ignore SIGXFSZ, or it ends here.
+///
 /// Existing::Keep never overwrites a file, not even one that comes into being meanwhile.
 std::expected<void, SaveError> saveFile(const std::filesystem::path &file, const QByteArray &bytes,
                                         Existing existing);

@@ -79,7 +79,7 @@ Service recommended
 
 macOS reports 71 %
 
-  · Battery health     Not readable         Info
+  · Battery health     –                    Not reported
   ! Battery condition  Service recommended
 *)"_s;
     QTest::newRow("several") << twoBatteries() << uR"(

@@ -20,9 +20,16 @@ struct Result
     QString err;
 };
 
-/// Runs a program that draws a recording by the module, in an environment that holds these variables alone.
-Result draw(const QString &program, const QList<std::pair<QString, QString>> &variables = {},
-            const QStringList &more = {})
+QStringList exportTo(const QString &file)
+{
+    return {u"export"_s,   u"--machine"_s, sourcePath(u"machines/linux-laptop.json"_s),
+            u"--format"_s, u"pdf"_s,       u"--output"_s,
+            file};
+}
+
+/// Runs the program in an environment that holds these variables alone.
+Result run(const QString &program, const QStringList &arguments,
+           const QList<std::pair<QString, QString>> &variables = {})
 {
     QProcessEnvironment environment;
     for (const auto &[name, value] : variables)
@@ -34,14 +41,21 @@ Result draw(const QString &program, const QList<std::pair<QString, QString>> &va
     }
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(program, QStringList{sourcePath(u"machines/linux-laptop.json"_s)} + more);
+    process.start(program, arguments);
     process.waitForFinished();
     return {process.exitCode(), process.readAllStandardOutput(),
             QString::fromUtf8(process.readAllStandardError()).trimmed()};
 }
 
+/// What the program draws of a recording.
+Result draw(const QString &program, const QList<std::pair<QString, QString>> &variables = {})
+{
+    return run(program, exportTo(u"-"_s), variables);
+}
+
 } // namespace
 
+/// The program as it is installed, with the module that draws.
 class PdfModuleTest : public QObject
 {
     Q_OBJECT
@@ -49,14 +63,14 @@ class PdfModuleTest : public QObject
 private Q_SLOTS:
     void drawsWithoutSession_data();
     void drawsWithoutSession();
-    void drawsAgain();
     void throughLink();
     void noModule();
     void brokenModule();
     void noFont();
+    void fileTooLong();
 
 private:
-    const QString m_program = QStringLiteral(QUILLMARK_DRAW_PDF);
+    const QString m_program = QStringLiteral(QUILLMARK_PROGRAM);
 };
 
 void PdfModuleTest::drawsWithoutSession_data()
@@ -86,13 +100,6 @@ void PdfModuleTest::drawsWithoutSession()
     QVERIFY(result.out.contains("/MediaBox [0 0 " + paper + '.'));
 }
 
-void PdfModuleTest::drawsAgain()
-{
-    const auto result = draw(m_program, {}, {u"again"_s});
-    QCOMPARE(result.err, QString());
-    QCOMPARE(result.out.size(), draw(m_program).out.size());
-}
-
 void PdfModuleTest::throughLink()
 {
     const QTemporaryDir folder;
@@ -108,10 +115,11 @@ void PdfModuleTest::noModule()
     QVERIFY(QFile::copy(m_program, copy));
     const auto result = draw(copy);
     QCOMPARE(result.status, 1);
-    QCOMPARE(result.err,
-             u"the module quillmark-pdf, which draws PDF documents, is neither in %1 nor in %2"_s.arg(
-                 QDir::cleanPath(folder.filePath(u"../" QUILLMARK_LIBDIR "/quillmark"_s)),
-                 QDir::cleanPath(folder.filePath(u"../PlugIns"_s))));
+    QCOMPARE(
+        result.err,
+        u"quillmark: the module quillmark-pdf, which draws PDF documents, is neither in %1 nor in %2"_s.arg(
+            QDir::cleanPath(folder.filePath(u"../" QUILLMARK_LIBDIR "/quillmark"_s)),
+            QDir::cleanPath(folder.filePath(u"../PlugIns"_s))));
 }
 
 void PdfModuleTest::brokenModule()
@@ -139,7 +147,19 @@ void PdfModuleTest::noFont()
     file.close();
     const auto result = draw(m_program, {{u"FONTCONFIG_FILE"_s, fonts}});
     QCOMPARE(result.status, 1);
-    QCOMPARE(result.err, u"no PDF document could be drawn: no font is installed"_s);
+    QCOMPARE(result.err, u"quillmark: no PDF document could be drawn: no font is installed"_s);
+}
+
+/// Beyond what a file may take the system would end the program, with half a document left behind.
+void PdfModuleTest::fileTooLong()
+{
+    const QTemporaryDir folder;
+    const QStringList limited = {u"-c"_s, u"ulimit -f 1; exec \"$@\""_s, u"sh"_s, m_program};
+    const auto result = run(u"sh"_s, limited + exportTo(folder.filePath(u"report.pdf"_s)),
+                            {{u"PATH"_s, qEnvironmentVariable("PATH")}});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains(u"There is not enough free space on "_s), qPrintable(result.err));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
 QTEST_GUILESS_MAIN(PdfModuleTest)

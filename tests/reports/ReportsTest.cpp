@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "inspection/DeviceProbe.h"
 #include "reports/Report.h"
 #include "support/Recordings.h"
 #include "support/ReportRows.h"
+#include "support/ReportSamples.h"
 #include "support/Rows.h"
 
 #include <QTest>
-#include <QTimeZone>
 
 using namespace quillmark;
 using namespace quillmark::inspection;
@@ -16,15 +15,6 @@ using namespace quillmark::support;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-reports::Report reportOf(const platform::Machine &machine)
-{
-    const language::Formats english(u"en"_s);
-    return {.date = QDateTime({2026, 11, 22}, {22, 35, 32}, QTimeZone(7200)),
-            .language = u"en"_s,
-            .summary = DeviceProbe::summary(machine, english),
-            .sections = DeviceProbe::sections(machine, english, machine.network().currentPath())};
-}
 
 /// A Mac to whose owner everything in it points, in every place where a name or an address may stand.
 QByteArray adasRecording()
@@ -106,6 +96,12 @@ void ReportsTest::plainText()
     QVERIFY(lines.contains(u"  Metal 4: Requires macOS 26 [Not supported]"_s));
     QVERIFY(lines.contains(u"  Memory (RAM): 16 GB"_s));
     QVERIFY(text.endsWith(u'\n') && !text.endsWith(u"\n\n"_s));
+
+    // The line of the hardware leaves out what is not known.
+    const auto unknown = reportOf(*changedMachine(R"({"volume": null})"));
+    for (const auto &form : {reports::plainText(unknown), reports::markdown(unknown)})
+        QVERIFY2(form.contains(u"\n%1 · 16 GB memory · macOS "_s.arg(unknown.summary.chip)),
+                 qPrintable(form));
 }
 
 /// A name that looks like Markdown or HTML reads as it is, and stays in its cell.
@@ -180,6 +176,7 @@ void ReportsTest::beforeTheFirstInspection()
 {
     const reports::Report report{.language = u"en"_s};
     QCOMPARE(reports::plainText(report), u"Quillmark report\n"_s);
+    QCOMPARE(reports::markdown(report).trimmed(), u"# Quillmark report"_s);
     const auto root = validReport(reports::json(report));
     QVERIFY(!root.contains(u"date"_s) && root[u"sections"_s].toArray().isEmpty());
     QCOMPARE(root[u"score"_s].toDouble(-1), 0.0);

@@ -15,10 +15,11 @@ namespace quillmark::support {
 
 using namespace Qt::StringLiterals;
 
+/// An inspection of the machine in November, in a time zone two hours ahead of UTC.
 inline reports::Report reportOf(const platform::Machine &machine, const QString &language = u"en"_s)
 {
     const language::Formats formats(language);
-    return {.date = QDateTime({2026, 11, 22}, {8, 41}, QTimeZone(0)),
+    return {.date = QDateTime({2026, 11, 22}, {22, 35, 32}, QTimeZone(7200)),
             .language = language,
             .summary = inspection::DeviceProbe::summary(machine, formats),
             .sections = inspection::DeviceProbe::sections(machine, formats, machine.network().currentPath())};

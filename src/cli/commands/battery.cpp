@@ -8,6 +8,7 @@
 #include "cli/commands/Command.h"
 #include "inspection/DeviceProbe.h"
 #include "inspection/batteryItems.h"
+#include "inspection/rows.h"
 #include "inspection/values.h"
 
 #include <QCoreApplication>
@@ -29,14 +30,21 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Terminal)
 };
 
-/// What a row says in one word: the judgement's own where it has one, else that of its status.
-QString wordOf(const inspection::CapabilityItem &item, const battery::BatteryJudgement &judgement)
+/// The row with the judgement's own word where it has one, else that of its status.
+TerminalRow rowOf(const inspection::CapabilityItem &item, const battery::BatteryJudgement &judgement)
 {
-    if (item.key == u"batteryHealth"_s && judgement.health != battery::Health::NotReported)
-        return title(judgement.health);
-    if (item.key == u"batteryTemperature"_s)
-        return title(judgement.warmth);
-    return item.key == u"batteryCondition"_s ? QString() : title(item.status);
+    TerminalRow row{item.status, item.label, item.value, title(item.status)};
+    if (item.value == inspection::notReadable()) {
+        row.value = u"–"_s;
+        row.word = title(battery::Health::NotReported);
+    } else if (item.key == u"batteryHealth"_s) {
+        row.word = title(judgement.health);
+    } else if (item.key == u"batteryTemperature"_s) {
+        row.word = title(judgement.warmth);
+    } else if (item.key == u"batteryCondition"_s) {
+        row.word.clear();
+    }
+    return row;
 }
 
 /// The verdict, the battery's health by the gauge and by the system, and every figure.
@@ -62,7 +70,7 @@ void addBattery(TerminalPage &page, const BatteryReading &reading, bool onMac,
     }
     TerminalBlock block;
     for (const auto &item : items)
-        block.rows.append({item.status, item.label, item.value, wordOf(item, judgement)});
+        block.rows.append(rowOf(item, judgement));
     page.addBlocks({block});
 }
 

@@ -86,13 +86,24 @@ private:
             add(note(m_document.nothing, styles::hardware, m_typesetter, m_sheet));
     }
 
-    void addNotes(std::vector<Group> &groups)
+    /// Below the last row, and whole with it: a page of its own would be a poor end.
+    void addNotes(std::vector<Group> &sections)
     {
         if (m_document.leftOut.isEmpty())
             return;
-        groups.push_back(note(m_document.leftOut, styles::caption, m_typesetter, m_sheet));
-        groups.back().gap = betweenSections;
-        groups.back().isOnCover = m_document.sections.isEmpty();
+        const auto leftOut = note(m_document.leftOut, styles::caption, m_typesetter, m_sheet);
+        if (sections.empty()) {
+            sections.push_back(leftOut);
+            sections.back().gap = betweenSections;
+            sections.back().isOnCover = true;
+            return;
+        }
+        auto &end = sections.back().rows.back();
+        end = {end.height + betweenSections + leftOut.heading.height,
+               [row = end, text = leftOut.heading](Canvas &canvas, qreal top) {
+                   row.paint(canvas, top);
+                   text.paint(canvas, top + row.height + betweenSections);
+               }};
     }
 
     /// Also where there are none.

@@ -97,6 +97,7 @@ private Q_SLOTS:
     void oddReports();
     void attention();
     void filtered();
+    void leftOutHasNoPageOfItsOwn();
     void pagination_data();
     void pagination();
 };
@@ -253,6 +254,19 @@ void PdfReportTest::filtered()
     const auto none = drawn(report);
     QCOMPARE(none.pages().size(), 1);
     QVERIFY(none.text().contains(u"Norowsmatch."_s) && !none.text().contains(u"Inthisreport"_s));
+}
+
+/// However full the last page is.
+void PdfReportTest::leftOutHasNoPageOfItsOwn()
+{
+    auto report = reportOf(*changedMachine());
+    report.leftOut = {reports::PrivateText::Addresses};
+    for (int rows = 32; rows <= 36; ++rows) {
+        report.sections = {manyRows(rows)};
+        const auto pdf = drawn(report);
+        const auto last = pdf.text(pdf.pages().size() - 1);
+        QVERIFY2(last.contains(u"Label%1"_s.arg(rows - 1)) && last.contains(u"Leftout"_s), qPrintable(last));
+    }
 }
 
 void PdfReportTest::pagination_data()
