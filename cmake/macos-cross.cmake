@@ -23,7 +23,7 @@ set(CMAKE_OSX_DEPLOYMENT_TARGET "" CACHE STRING "" FORCE)
 # zig's libc++ is told again which of its parts the target's system lacks, as a Mac's own is.
 foreach(language C CXX OBJCXX)
     set(CMAKE_${language}_FLAGS_INIT
-        "-U_LIBCPP_HAS_NO_VENDOR_AVAILABILITY_ANNOTATIONS -Wno-unused-command-line-argument -fno-sanitize=all")
+        "-target $ENV{ZIG_TARGET} -U_LIBCPP_HAS_NO_VENDOR_AVAILABILITY_ANNOTATIONS -Wno-unused-command-line-argument -fno-sanitize=all")
     string(APPEND CMAKE_${language}_FLAGS_INIT " -idirafter $ENV{MACOS_DECLARATIONS}")
 endforeach()
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
