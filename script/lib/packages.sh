@@ -5,12 +5,16 @@
 # What Quillmark is built with, and how it gets onto this machine. Sourced by build.sh, whose say and fail it uses.
 
 debianPackages=(g++ cmake ninja-build ccache qt6-base-dev libicu-dev libcli11-dev)
-homebrewPackages=(cmake ninja ccache qt icu4c cli11)
+# What installs the compiler that checks the Mac's sources, which continuous integration must have.
+macCheckPackages=(npm)
+homebrewPackages=(cmake ninja ccache qt icu4c cli11 librsvg)
 
 installDebianPackages() {
-    local package installed missing=()
-    installed=" $(dpkg-query -W -f '${Package}=${db:Status-Status} ' "${debianPackages[@]}" 2>/dev/null || true)"
-    for package in "${debianPackages[@]}"; do
+    local package installed missing=() names=("${debianPackages[@]}")
+    # npm may have come by another way than Debian's.
+    if [ -n "${CI:-}" ] && ! command -v npm >/dev/null; then names+=("${macCheckPackages[@]}"); fi
+    installed=" $(dpkg-query -W -f '${Package}=${db:Status-Status} ' "${names[@]}" 2>/dev/null || true)"
+    for package in "${names[@]}"; do
         [[ "$installed" == *" $package=installed "* ]] || missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0

@@ -4,6 +4,7 @@
 #include "platform/macos/MacPower.h"
 
 #include "platform/macos/cf.h"
+#include "platform/macos/powerReport.h"
 #include "platform/macos/powerSources.h"
 #include "platform/macos/processInformation.h"
 
@@ -25,6 +26,11 @@ PowerSettings MacPower::settings() const
     if (const cf::Owner adapter(::IOPSCopyExternalPowerAdapterDetails()); adapter)
         settings.externalAdapter = cf::propertyMap(adapter.get());
     return settings;
+}
+
+std::optional<PropertyMap> MacPower::powerReport() const
+{
+    return readPowerReport();
 }
 
 } // namespace quillmark::platform

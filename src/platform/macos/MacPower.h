@@ -13,6 +13,7 @@ public:
     std::optional<std::vector<PropertyMap>> powerSources() const override;
     PowerSettings settings() const override;
     std::optional<std::map<std::string, PropertyMap>> powerSupplies() const override { return std::nullopt; }
+    std::optional<PropertyMap> powerReport() const;
 };
 
 } // namespace quillmark::platform

@@ -6,6 +6,7 @@
 #include "check.h"
 #include "ioKit.h"
 #include "platform/macos/MacPower.h"
+#include "platform/macos/powerReport.h"
 #include "platform/macos/processInformation.h"
 
 #include <IOKit/ps/IOPowerSources.h>
@@ -15,6 +16,11 @@ namespace quillmark::platform {
 bool isLowPowerModeEnabled()
 {
     return true;
+}
+
+std::optional<PropertyMap> readPowerReport()
+{
+    return std::nullopt;
 }
 
 } // namespace quillmark::platform

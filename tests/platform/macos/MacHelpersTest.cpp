@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "platform/macos/MacSecurity.h"
-
 #include "check.h"
 #include "coreFoundation.h"
+#include "objectiveC.h"
+#include "platform/macos/MacSecurity.h"
 #include "platform/macos/biometry.h"
+#include "platform/macos/powerReport.h"
 #include "platform/posix/ChildProcess.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ ChildProcess::~ChildProcess()
 
 std::optional<CommandAnswer> ChildProcess::answer(Clock::time_point deadline)
 {
-    CHECK(deadline - Clock::now() == std::chrono::seconds(2));
+    CHECK(deadline - Clock::now() == std::chrono::seconds(m_texts[0].contains("profiler") ? 10 : 2));
     const auto found = helpers.find(m_texts[0]);
     return found == helpers.end() ? std::nullopt : std::optional(found->second);
 }
@@ -77,9 +78,14 @@ CFDictionaryRef CFBundleCopyInfoDictionaryInDirectory(CFURLRef)
 }
 }
 
+CLASS(NSData);
+CLASS(NSJSONSerialization);
+
 using namespace quillmark::platform;
 
-int main()
+namespace {
+
+void security()
 {
     // Nothing answers: nothing is off but what is off until it was touched.
     const MacSecurity security;
@@ -102,6 +108,50 @@ int main()
     lockdown = [] { return standin::text("on"); };
     xprotect = [] { return standin::number(5287); };
     CHECK(!security.read().lockdownMode && !security.read().xprotectVersion);
+}
+
+std::string parsedJson;
+CFTypeRef (*parse)() = nullptr;
+
+void powerReport()
+{
+    using namespace standin;
+    static std::size_t length;
+    NSData.methods["dataWithBytes:length:"] = [](const std::uint64_t *arguments) {
+        parsedJson.assign(reinterpret_cast<const char *>(arguments[0]), arguments[1]);
+        return objc::pointer(&length);
+    };
+    NSJSONSerialization.methods["JSONObjectWithData:options:error:"] = [](const std::uint64_t *) {
+        return objc::pointer(parse ? parse() : nullptr);
+    };
+    const std::string command = "/usr/sbin/system_profiler SPPowerDataType -json";
+    CHECK(!readPowerReport());
+    helpers[command] = {0, "{\n  \"SPPowerDataType\" : [ ]\n}\n2026-11-23 system_profiler: a complaint\n"};
+    CHECK(!readPowerReport());
+    CHECK(parsedJson == "{\n  \"SPPowerDataType\" : [ ]\n}");
+    parse = [] -> CFTypeRef {
+        return dictionary(
+            {{"SPPowerDataType",
+              array({text("odd"), dictionary({{"sppower_battery_health_info", text("odd")}}),
+                     dictionary({{"sppower_battery_health_info",
+                                  dictionary({{"sppower_battery_health", text("Good")}})}})})}});
+    };
+    const auto report = readPowerReport();
+    CHECK(report && get<std::string>(*report, "sppower_battery_health") == "Good");
+    parse = [] -> CFTypeRef { return array({}); };
+    CHECK(!readPowerReport());
+    helpers[command].exitStatus = 1;
+    parsedJson.clear();
+    CHECK(!readPowerReport() && parsedJson.empty());
+    CHECK(standin::objc::unanswered.empty());
+}
+
+} // namespace
+
+int main()
+{
+    security();
+    powerReport();
     CHECK(standin::references == 0);
     return standin::result();
 }
