@@ -12,6 +12,13 @@ if(QUILLMARK_CCACHE AND NOT CMAKE_OBJCXX_COMPILER_LAUNCHER)
     set(CMAKE_OBJCXX_COMPILER_LAUNCHER "${QUILLMARK_CCACHE}")
 endif()
 
+# CMake 4 leaves the SDK to the compiler.
+set(QUILLMARK_MACOS_SDK "${CMAKE_OSX_SYSROOT}")
+if(NOT IS_ABSOLUTE "${QUILLMARK_MACOS_SDK}" AND NOT CMAKE_CROSSCOMPILING)
+    execute_process(COMMAND xcrun --sdk macosx --show-sdk-path
+        OUTPUT_VARIABLE QUILLMARK_MACOS_SDK OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+endif()
+
 # quillmark_swift_object(TARGET FILE): adds a Swift file with C entry points to a library of C++, for every processor
 # that is built for. CMake itself would make one library of one processor of it.
 function(quillmark_swift_object target file)
@@ -25,7 +32,7 @@ function(quillmark_swift_object target file)
         set(object "${CMAKE_CURRENT_BINARY_DIR}/${name}-${processor}.o")
         add_custom_command(OUTPUT "${object}"
             COMMAND "${QUILLMARK_SWIFTC}" -parse-as-library -O -emit-object
-                -target ${processor}-apple-macos${CMAKE_OSX_DEPLOYMENT_TARGET} -sdk "${CMAKE_OSX_SYSROOT}"
+                -target ${processor}-apple-macos${CMAKE_OSX_DEPLOYMENT_TARGET} -sdk "${QUILLMARK_MACOS_SDK}"
                 -module-name ${name} -o "${object}" "${CMAKE_CURRENT_SOURCE_DIR}/${file}"
             DEPENDS "${file}"
             COMMENT "Building Swift object ${name}-${processor}.o"
@@ -40,7 +47,7 @@ function(quillmark_swift_object target file)
     set_source_files_properties("${whole}" PROPERTIES EXTERNAL_OBJECT ON)
     target_sources(${target} PRIVATE "${whole}")
     # Swift's own libraries come with the system.
-    target_link_options(${target} INTERFACE "-L${CMAKE_OSX_SYSROOT}/usr/lib/swift" -Wl,-rpath,/usr/lib/swift)
+    target_link_options(${target} INTERFACE "-L${QUILLMARK_MACOS_SDK}/usr/lib/swift" -Wl,-rpath,/usr/lib/swift)
 endfunction()
 
 # quillmark_bundle(TARGET): makes Quillmark.app of a program, which is called Quillmark within it, and bin/quillmark a
