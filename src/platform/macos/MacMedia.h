@@ -16,7 +16,7 @@ public:
     std::optional<ImageTypes> imageTypes() const override;
     std::expected<CommandAnswer, NoAnswer> vainfo() const override
     {
-        return std::unexpected(NoAnswer::NotInstalled);
+        return std::unexpected(NoAnswer::Failed);
     }
 };
 
