@@ -3,6 +3,9 @@
 
 # What every target of the project is built with, and how a layer is declared.
 
+# The languages of the interface, by their tags.
+set(QUILLMARK_LANGUAGES en)
+
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)

@@ -54,18 +54,6 @@ std::optional<std::string> readSteps(const FileDescriptor &file, std::size_t ste
 
 } // namespace
 
-FileDescriptor &FileDescriptor::operator=(FileDescriptor &&other) noexcept
-{
-    std::swap(m_number, other.m_number);
-    return *this;
-}
-
-FileDescriptor::~FileDescriptor()
-{
-    if (m_number >= 0)
-        ::close(m_number);
-}
-
 Files::Files(const std::filesystem::path &root)
     : m_root(root.string())
 {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/posix/FileDescriptor.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -13,27 +15,6 @@
 #include <vector>
 
 namespace quillmark::platform {
-
-/// Owns an open file descriptor; may hold none.
-class FileDescriptor
-{
-public:
-    FileDescriptor() = default;
-    explicit FileDescriptor(int number)
-        : m_number(number)
-    {}
-    FileDescriptor(FileDescriptor &&other) noexcept
-        : m_number(std::exchange(other.m_number, -1))
-    {}
-    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
-    ~FileDescriptor();
-
-    explicit operator bool() const { return m_number >= 0; }
-    int number() const { return m_number; }
-
-private:
-    int m_number = -1;
-};
 
 /// The files that the kernel and the system describe themselves with, under a root. Paths are absolute and
 /// are taken below that root. Nothing here waits for a file that is not ready, and whatever cannot be read is

@@ -3,7 +3,7 @@
 
 #include "platform/linux/LinuxMedia.h"
 
-#include "platform/linux/ChildProcess.h"
+#include "platform/posix/ChildProcess.h"
 #include "platform/linux/TextFields.h"
 
 #include <algorithm>

@@ -7,37 +7,18 @@
 #include "platform/linux/LinuxPathWatch.h"
 #include "platform/linux/RouteFiles.h"
 #include "platform/linux/TextFields.h"
+#include "platform/posix/numericAddress.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 #include <utility>
 
-#include <arpa/inet.h>
 #include <ifaddrs.h>
 #include <linux/if_link.h>
 #include <net/if.h>
-#include <netinet/in.h>
 
 namespace quillmark::platform {
 
 namespace {
-
-std::optional<std::string> numericAddress(const sockaddr &address)
-{
-    std::array<char, INET6_ADDRSTRLEN> text = {};
-    const char *written = nullptr;
-    if (address.sa_family == AF_INET) {
-        sockaddr_in internet = {};
-        std::memcpy(&internet, &address, sizeof internet);
-        written = ::inet_ntop(AF_INET, &internet.sin_addr, text.data(), text.size());
-    } else {
-        sockaddr_in6 internet = {};
-        std::memcpy(&internet, &address, sizeof internet);
-        written = ::inet_ntop(AF_INET6, &internet.sin6_addr, text.data(), text.size());
-    }
-    return written ? std::optional<std::string>(written) : std::nullopt;
-}
 
 /// None for a family that has no place in the list.
 std::optional<InterfaceEntry> entryOf(const ifaddrs &found)

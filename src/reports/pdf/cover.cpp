@@ -38,7 +38,7 @@ public:
         const qreal width = sheet.right() - sheet.left();
         const auto block = typesetter.set(text, style, {.width = width, .mostLines = mostLines});
         add({block->height(),
-             [block, width, x = sheet.left()](Canvas &canvas, qreal top) { canvas.text(*block, x, top); }});
+             [block, x = sheet.left()](Canvas &canvas, qreal top) { canvas.text(*block, x, top); }});
     }
 
     Block block() const

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/ChildProcess.h"
+#include "platform/posix/ChildProcess.h"
+
+#include "platform/posix/spawning.h"
 
 #include <algorithm>
 #include <array>
@@ -20,21 +22,6 @@ namespace quillmark::platform {
 namespace {
 
 constexpr std::size_t outputLimit = std::size_t{1024} * 1024;
-
-struct Pipe
-{
-    FileDescriptor readingEnd;
-    FileDescriptor writingEnd;
-};
-
-/// Both ends are empty when the system has no more.
-Pipe makePipe()
-{
-    std::array<int, 2> ends = {-1, -1};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
-        return {};
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-}
 
 /// The texts as exec() takes them, which does not write to them. Valid as long as they are.
 std::vector<char *> pointers(const std::vector<std::string> &texts)
@@ -59,12 +46,12 @@ public:
 
         // A group of its own, so that whatever the program starts can be ended with it.
         ::posix_spawnattr_init(&m_attributes);
-        ::posix_spawnattr_setflags(&m_attributes,
-                                   POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-        sigset_t signals;
-        ::sigemptyset(&signals);
+        constexpr int flags = POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
+        ::posix_spawnattr_setflags(&m_attributes, static_cast<short>(flags | spawnFlags()));
+        sigset_t signals; // the functions below are macros on some systems
+        sigemptyset(&signals);
         ::posix_spawnattr_setsigmask(&m_attributes, &signals);
-        ::sigaddset(&signals, SIGPIPE);
+        sigaddset(&signals, SIGPIPE);
         ::posix_spawnattr_setsigdefault(&m_attributes, &signals);
     }
     SpawnSettings(const SpawnSettings &) = delete;

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/Command.h"
-#include "platform/linux/Files.h"
+#include "platform/posix/FileDescriptor.h"
 
 #include <chrono>
 #include <optional>

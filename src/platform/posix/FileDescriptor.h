@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <utility>
+
+namespace quillmark::platform {
+
+/// Owns an open file descriptor; may hold none.
+class FileDescriptor
+{
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int number)
+        : m_number(number)
+    {}
+    FileDescriptor(FileDescriptor &&other) noexcept
+        : m_number(std::exchange(other.m_number, -1))
+    {}
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
+    ~FileDescriptor();
+
+    explicit operator bool() const { return m_number >= 0; }
+    int number() const { return m_number; }
+
+private:
+    int m_number = -1;
+};
+
+} // namespace quillmark::platform
