@@ -72,12 +72,12 @@ QString markOf(Concern concern)
     return u"✗ "_s;
 }
 
-/// Writes the words one after the other; the column after them.
+/// Writes the words one after the other, up to the column `end`; the column after them.
 template <typename AllWords>
-int putWords(Screen &screen, int row, int column, const AllWords &all)
+int putWords(Screen &screen, int row, int column, int end, const AllWords &all)
 {
     for (const auto &[text, role] : all)
-        column = screen.put(row, column, text, role);
+        column = screen.put(row, column, text, role, end - column);
     return column;
 }
 
@@ -128,7 +128,7 @@ void MonitorView::draw(Screen &screen) const
     for (int row = 0; hasTiles && row < tileRows; ++row) {
         int column = body.column;
         for (const auto &tile : tileLines[static_cast<std::size_t>(row)])
-            column = putWords(screen, body.row + row, column, tile) + gap;
+            column = putWords(screen, body.row + row, column, body.column + body.width, tile) + gap;
     }
 }
 
@@ -191,7 +191,7 @@ void putTitle(Screen &screen, int row, int column, int width, const QString &hea
 {
     const int from = std::max(column + width - widthOf(figures), column + textWidth(heading) + 1);
     screen.put(row, column, heading, Role::Strong, width);
-    putWords(screen, row, from, figures);
+    putWords(screen, row, from, column + width, figures);
 }
 
 } // namespace
@@ -276,16 +276,19 @@ void MonitorView::drawMemory(Screen &screen, Area area) const
     const auto verdict = monitor::pressureVerdict(m_model.pressure);
     const auto concern = monitor::concernOf(verdict);
     const QString space(2, u' ');
-    const std::array<Words, 7> legend = {
+    const std::array<Words, 6> all = {
         {{Text::tr("Used"), Role::Memory},
-         {u" "_s + monitor::percentText(m_model.points.back().memory), Role::Text},
-         {space + Text::tr("Pressure"), Role::Pressure},
-         {u" "_s + monitor::percentText(m_model.pressure), Role::Text},
-         {space, Role::Text},
+         {u" "_s + monitor::percentText(m_model.points.back().memory) + space, Role::Text},
+         {Text::tr("Pressure"), Role::Pressure},
+         {u" "_s + monitor::percentText(m_model.pressure) + space, Role::Text},
          {markOf(concern), roleOf(concern)},
          {title(verdict), Role::Text}}};
+    // The verdict is what must be left where there is no room for all of it.
+    std::span<const Words> legend(all);
+    while (legend.size() > 2 && widthOf(legend) > area.width)
+        legend = legend.subspan(2);
     if (area.height > 1)
-        putWords(screen, area.row + area.height - 1, area.column, legend);
+        putWords(screen, area.row + area.height - 1, area.column, area.column + area.width, legend);
 }
 
 void MonitorView::drawNetwork(Screen &screen, Area area) const

@@ -18,7 +18,8 @@ constexpr char32_t covered = 0;
 /// Fewer equal cells than this between two changes are sent again: to jump over them takes as many bytes.
 constexpr int shortestJump = 6;
 
-/// Colours of middle lightness, so that they are told from a dark and from a light ground alike.
+/// Colours of middle lightness: on white and on black the contrast of each is 4:1 or more, that of the note
+/// 3.7:1.
 std::string_view colorOf(Role role, Palette palette)
 {
     const bool is256 = palette == Palette::Colors256;
@@ -30,20 +31,20 @@ std::string_view colorOf(Role role, Palette palette)
     case Role::Quiet:
         return ";2";
     case Role::Processor:
-        return is256 ? ";38;5;69" : ";34";
+        return is256 ? ";38;5;63" : ";34";
     case Role::Memory:
-        return is256 ? ";38;5;134" : ";35";
+        return is256 ? ";38;5;133" : ";35";
     case Role::NetworkIn:
     case Role::Good:
-        return is256 ? ";38;5;36" : ";32";
+        return is256 ? ";38;5;29" : ";32";
     case Role::Pressure:
     case Role::NetworkOut:
     case Role::Warning:
-        return is256 ? ";38;5;172" : ";33";
+        return is256 ? ";38;5;130" : ";33";
     case Role::Note:
         return is256 ? ";38;5;67" : ";36";
     case Role::Alarm:
-        return is256 ? ";38;5;167" : ";31";
+        return is256 ? ";38;5;161" : ";31";
     }
     return "";
 }

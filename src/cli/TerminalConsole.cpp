@@ -23,9 +23,10 @@ namespace {
 constexpr std::string_view enterSequence = "\x1b[?1049h\x1b[?25l\x1b[?7l\x1b[0m\x1b[2J";
 constexpr std::string_view leaveSequence = "\x1b[0m\x1b[?7h\x1b[?25h\x1b[?1049l";
 
-constexpr std::array handledSignals = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGWINCH, SIGTSTP, SIGCONT};
-constexpr std::array endingSignals = {SIGTERM, SIGHUP, SIGQUIT};
-constexpr std::array crashSignals = {SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL};
+/// They come in while the console waits, and at no other time.
+constexpr std::array awaitedSignals = {SIGINT, SIGWINCH, SIGTSTP, SIGCONT};
+/// They end the program wherever it is: also while a terminal takes nothing that is written to it.
+constexpr std::array endingSignals = {SIGTERM, SIGHUP, SIGQUIT, SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL};
 
 constexpr int signalLimit = 64;
 volatile std::sig_atomic_t hasArrived[signalLimit] = {};
@@ -57,11 +58,30 @@ bool isIgnored(int signal)
     return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
+enum class Direction { In, Out };
+
+/// Whether something can be read or written before the patience ends. Calls nothing but what a signal handler
+/// may call; poll(2) knows no terminals on macOS.
+bool isReady(int descriptor, Direction direction, const timespec &patience)
+{
+    fd_set descriptors;
+    FD_ZERO(&descriptors);
+    FD_SET(descriptor, &descriptors);
+    int ready = 0;
+    do {
+        ready = ::pselect(descriptor + 1, direction == Direction::In ? &descriptors : nullptr,
+                          direction == Direction::Out ? &descriptors : nullptr, nullptr, &patience, nullptr);
+    } while (ready < 0 && errno == EINTR);
+    return ready > 0;
+}
+
+/// Gives up on a terminal that takes nothing any more: it must not keep the program from its end.
 void writeAll(std::string_view text)
 {
-    while (!text.empty()) {
+    constexpr timespec patience = {.tv_sec = 0, .tv_nsec = 500'000'000};
+    while (!text.empty() && isReady(STDOUT_FILENO, Direction::Out, patience)) {
         const auto count = ::write(STDOUT_FILENO, text.data(), text.size());
-        if (count < 0 && errno != EINTR)
+        if (count < 0 && errno != EINTR && errno != EAGAIN)
             return;
         text.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     }
@@ -94,14 +114,6 @@ timespec timeUntil(Console::Time time, Console::Time now)
                           .count();
     constexpr std::int64_t second = 1'000'000'000;
     return {.tv_sec = static_cast<time_t>(left / second), .tv_nsec = static_cast<long>(left % second)};
-}
-
-bool hasInput(timespec patience)
-{
-    fd_set descriptors;
-    FD_ZERO(&descriptors);
-    FD_SET(STDIN_FILENO, &descriptors);
-    return ::pselect(STDIN_FILENO + 1, &descriptors, nullptr, nullptr, &patience, nullptr) > 0;
 }
 
 } // namespace
@@ -162,45 +174,50 @@ void TerminalConsole::enterScreen()
         while (::tcsetattr(STDIN_FILENO, TCSANOW, &attributes) != 0 && errno == EINTR) {
         }
     }
+    m_isOnScreen = 1;
     writeAll(enterSequence);
 }
 
 /// Calls nothing but what a signal handler may call.
 void TerminalConsole::leaveScreen()
 {
-    writeAll(leaveSequence);
     // In the background the terminal is another program's.
     if (m_readsKeys && ::tcgetpgrp(STDIN_FILENO) == ::getpgrp()) {
         ::tcflush(STDIN_FILENO, TCIFLUSH);
         ::tcsetattr(STDIN_FILENO, TCSANOW, &m_attributes);
     }
+    // One who is ended while it is stopped has given it back already.
+    if (m_isOnScreen != 0)
+        writeAll(leaveSequence);
+    m_isOnScreen = 0;
 }
 
 void TerminalConsole::installHandlers()
 {
-    sigset_t handled;
-    ::sigemptyset(&handled);
-    for (const int signal : handledSignals) {
+    sigset_t awaited;
+    ::sigemptyset(&awaited);
+    for (const int signal : awaitedSignals) {
         takeNotice(signal);
         if (isIgnored(signal))
             continue;
-        ::sigaddset(&handled, signal);
+        ::sigaddset(&awaited, signal);
         setAction(signal, note);
     }
-    for (const int signal : crashSignals)
-        setAction(signal, &TerminalConsole::giveBackAndDie);
-    // They come in while the console waits, and at no other time.
-    ::pthread_sigmask(SIG_BLOCK, &handled, &m_mask);
+    for (const int signal : endingSignals) {
+        if (!isIgnored(signal))
+            setAction(signal, &TerminalConsole::giveBackAndDie);
+    }
+    ::pthread_sigmask(SIG_BLOCK, &awaited, &m_mask);
 }
 
 void TerminalConsole::removeHandlers()
 {
-    for (const int signal : handledSignals) {
+    const auto restore = [](int signal) {
         if (!isIgnored(signal))
             setAction(signal, SIG_DFL);
-    }
-    for (const int signal : crashSignals)
-        setAction(signal, SIG_DFL);
+    };
+    std::ranges::for_each(awaitedSignals, restore);
+    std::ranges::for_each(endingSignals, restore);
     ::pthread_sigmask(SIG_SETMASK, &m_mask, nullptr);
 }
 
@@ -226,20 +243,9 @@ void TerminalConsole::suspend()
     setAction(SIGTSTP, note);
 }
 
-void TerminalConsole::endBy(int signal)
-{
-    giveBackScreen();
-    ::raise(signal);
-    std::_Exit(128 + signal);
-}
-
 /// Whether one came in that `event` tells of.
 bool TerminalConsole::handleSignals(Event &event)
 {
-    for (const int signal : endingSignals) {
-        if (takeNotice(signal))
-            endBy(signal);
-    }
     if (takeNotice(SIGINT)) {
         event = Event::EndAsked;
         return true;
@@ -272,7 +278,7 @@ bool TerminalConsole::asksForEnd()
     while (!keys.empty()) {
         // Other keys send Esc and more; over a slow line the rest comes a little later.
         if (keys.front() == escape && keys.size() == 1)
-            return !hasInput(patience);
+            return !isReady(STDIN_FILENO, Direction::In, patience);
         if (keys.front() == 'q' || keys.front() == 'Q')
             return true;
         keys.remove_prefix(keyLength(keys));

@@ -39,7 +39,6 @@ private:
     void installHandlers();
     void removeHandlers();
     void suspend();
-    [[noreturn]] void endBy(int signal);
     bool handleSignals(Event &event);
     bool asksForEnd();
 
@@ -48,8 +47,9 @@ private:
     bool m_canDraw;
     bool m_hasTaken = false;
     bool m_readsKeys = false;
-    termios m_attributes{}; ///< of the terminal as it was, while m_readsKeys
-    sigset_t m_mask{};      ///< of signals as it was, while m_hasTaken
+    volatile std::sig_atomic_t m_isOnScreen = 0; ///< between entering and leaving it
+    termios m_attributes{};                      ///< of the terminal as it was, while m_readsKeys
+    sigset_t m_mask{};                           ///< of signals as it was, while m_hasTaken
 };
 
 } // namespace quillmark::cli

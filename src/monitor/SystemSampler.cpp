@@ -43,12 +43,18 @@ double share(std::uint64_t part, std::uint64_t whole)
     return whole == 0 ? 0 : std::min(static_cast<double>(part) / static_cast<double>(whole), 1.0);
 }
 
-std::int64_t bytesOf(std::uint64_t pages, std::int64_t pageSize)
+/// The bytes in several counts of pages, each and all of which have to be fewer than there are addresses.
+template <typename... Counts>
+std::int64_t bytesIn(std::int64_t pageSize, Counts... counts)
 {
-    std::int64_t bytes = 0;
-    if (__builtin_mul_overflow(pages, pageSize, &bytes))
+    std::int64_t sum = 0;
+    const auto add = [&](std::uint64_t pages) {
+        std::int64_t bytes = 0;
+        return !__builtin_mul_overflow(pages, pageSize, &bytes) && !__builtin_add_overflow(sum, bytes, &sum);
+    };
+    if (!(add(counts) && ...))
         qFatal("more pages of memory than there are addresses");
-    return bytes;
+    return sum;
 }
 
 std::optional<std::int32_t> levelOf(const std::optional<platform::Bytes> &record)
@@ -183,17 +189,16 @@ SystemSampler::MemoryStats SystemSampler::memoryStats(const CounterReading &read
 {
     if (!reading.virtualMemory)
         return {};
-    const std::int64_t active = bytesOf(reading.virtualMemory->activeCount, m_pageSize);
-    const std::int64_t wired = bytesOf(reading.virtualMemory->wireCount, m_pageSize);
-    const std::int64_t compressed = bytesOf(reading.virtualMemory->compressorPageCount, m_pageSize);
+    const auto &[active, wired, compressed] = *reading.virtualMemory;
+    const std::int64_t used = bytesIn(m_pageSize, active, wired, compressed);
     // Active pages count as used, but to use memory is not to be short of it.
-    const double pressure =
-        m_physicalMemory < 1
-            ? 0
-            : std::clamp(static_cast<double>(wired + compressed) / static_cast<double>(m_physicalMemory), 0.0,
-                         1.0);
+    const double pressure = m_physicalMemory < 1
+                                ? 0
+                                : std::clamp(static_cast<double>(bytesIn(m_pageSize, wired, compressed)) /
+                                                 static_cast<double>(m_physicalMemory),
+                                             0.0, 1.0);
     const PressureBand band = bandOf(levelOf(reading.pressureLevel));
-    return {active + wired + compressed, band.from + pressure * (band.to - band.from)};
+    return {used, band.from + pressure * (band.to - band.from)};
 }
 
 SystemSampler::NetworkCounters SystemSampler::networkCounters(const CounterReading &reading)

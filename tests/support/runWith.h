@@ -20,6 +20,8 @@ struct Terminal
     int columns = 0; ///< 0: the output is none
     bool color = false;
     std::function<bool(const QString &question)> ask; ///< empty: nobody is there
+    cli::Console *console = nullptr;
+    bool isClosed = false; ///< what is written to it is lost
 };
 
 struct Outcome
@@ -42,11 +44,14 @@ inline Outcome runWith(const QString &arguments, const Terminal &terminal = {})
 
     std::ostringstream out;
     std::ostringstream err;
+    if (terminal.isClosed)
+        out.setstate(std::ios::badbit);
     const cli::Output output{.out = out,
                              .err = err,
                              .isTerminal = terminal.columns > 0,
                              .columns = terminal.columns,
                              .colorIsWelcome = terminal.color,
+                             .console = terminal.console,
                              .ask = terminal.ask};
     const int status =
         cli::run(static_cast<int>(pointers.size()), pointers.data(), output, [] { return changedMachine(); });

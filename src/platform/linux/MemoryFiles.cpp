@@ -111,7 +111,8 @@ std::uint64_t parseZramMemory(std::string_view text)
     // Sizes before and after compression, then what all of it takes with the allocator's own share.
     takeWord(text);
     takeWord(text);
-    return parseNumber<std::uint64_t>(trimmed(takeWord(text))).value_or(0);
+    const auto bytes = parseNumber<std::uint64_t>(trimmed(takeWord(text))).value_or(0);
+    return bytes / 1024 > mostKilobytes ? 0 : bytes;
 }
 
 } // namespace quillmark::platform
