@@ -105,7 +105,9 @@ private:
 
     void text(std::string_view name, const QString &value)
     {
-        m_utf8.resize(static_cast<std::size_t>(m_toUtf8.requiredSpace(value.size())));
+        const auto most = static_cast<std::size_t>(m_toUtf8.requiredSpace(value.size()));
+        if (m_utf8.size() < most)
+            m_utf8.resize(most);
         const char *end = m_toUtf8.appendToBuffer(m_utf8.data(), value);
         m_json.member(name, std::string_view(m_utf8.data(), static_cast<std::size_t>(end - m_utf8.data())));
     }

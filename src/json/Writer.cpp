@@ -49,7 +49,9 @@ void Writer::key(std::string_view name)
 {
     beforeValue();
     quoted(name);
-    append(m_layout == Layout::Indented ? ": " : ":");
+    append(':');
+    if (m_layout == Layout::Indented)
+        append(' ');
     m_afterKey = true;
 }
 
@@ -135,20 +137,10 @@ void Writer::newLine()
     append(std::string(2 * m_depth, ' '));
 }
 
-/// Where to write that many more characters, which count as written.
-char *Writer::room(std::size_t size)
+void Writer::grow()
 {
     constexpr std::size_t least = 1024;
-    const auto begin = m_size;
-    m_size += size;
-    if (m_size > m_buffer.size())
-        m_buffer.resize(std::max({m_size, 2 * m_buffer.size(), least}));
-    return m_buffer.data() + begin;
-}
-
-void Writer::append(std::string_view text)
-{
-    text.copy(room(text.size()), text.size());
+    m_buffer.resize(std::max({m_size, 2 * m_buffer.size(), least}));
 }
 
 void Writer::quoted(std::string_view text)

@@ -64,9 +64,19 @@ private:
     void beforeValue();
     void newLine();
     void quoted(std::string_view text);
-    void append(std::string_view text);
-    void append(char c) { append(std::string_view(&c, 1)); }
-    char *room(std::size_t size);
+    void append(std::string_view text) { text.copy(room(text.size()), text.size()); }
+    void append(char c) { *room(1) = c; }
+
+    /// Where to write that many more characters, which count as written.
+    char *room(std::size_t size)
+    {
+        const auto begin = m_size;
+        m_size += size;
+        if (m_size > m_buffer.size())
+            grow();
+        return m_buffer.data() + begin;
+    }
+    void grow();
 
     std::string m_buffer; ///< the text, and room for more
     std::size_t m_size = 0;
