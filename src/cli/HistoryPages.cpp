@@ -28,8 +28,8 @@ class Text
 
 QString scoreOf(const ScanSnapshot &scan)
 {
-    const auto sections = inspectedSections(scan);
-    return inspection::ratedCount(sections) == 0 ? u"–"_s : u"%1%"_s.arg(inspection::scorePercent(sections));
+    const auto counts = countsOf(scan);
+    return counts.rated() == 0 ? u"–"_s : u"%1%"_s.arg(counts.scorePercent());
 }
 
 /// "3 changed · 1 added"; empty when nothing differs.
@@ -123,8 +123,9 @@ QString historyPage(const std::vector<StoredSnapshot> &scans, const language::Fo
             Text::tr("“quillmark history record” inspects this computer and saves the first one."));
         return page.text();
     }
+    const bool ofOneDevice = areOfOneDevice(scans);
     QList<TerminalColumn> columns = {{u"#"_s}, {Text::tr("ID"), 2}, {Text::tr("Taken")}};
-    if (!areOfOneDevice(scans))
+    if (!ofOneDevice)
         columns += {Text::tr("Computer"), 4};
     columns += {{Text::tr("System"), 5}, {Text::tr("Score"), 3}, {Text::tr("Against the scan before"), 1}};
 
@@ -132,7 +133,7 @@ QString historyPage(const std::vector<StoredSnapshot> &scans, const language::Fo
     for (std::size_t i = 0; i < scans.size(); ++i) {
         const auto &scan = scans[i].snapshot;
         QStringList row = {QString::number(i), history::idText(scan.id).first(8), dateOf(scan, formats)};
-        if (!areOfOneDevice(scans))
+        if (!ofOneDevice)
             row += scan.deviceName;
         row += {scan.osVersion, scoreOf(scan),
                 newsOf(scan, i + 1 < scans.size() ? &scans[i + 1].snapshot : nullptr)};

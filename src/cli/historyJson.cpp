@@ -22,7 +22,7 @@ void addMember(json::Writer &writer, const char *name, const std::optional<QStri
 
 void addScan(json::Writer &writer, const history::ScanSnapshot &scan)
 {
-    const auto sections = inspectedSections(scan);
+    const auto counts = countsOf(scan);
     writer.beginObject();
     addMember(writer, "id", history::idText(scan.id));
     addMember(writer, "date", history::dateText(scan.date));
@@ -30,11 +30,11 @@ void addScan(json::Writer &writer, const history::ScanSnapshot &scan)
     addMember(writer, "modelIdentifier", scan.modelIdentifier);
     addMember(writer, "osVersion", scan.osVersion);
     addMember(writer, "language", scan.language);
-    writer.member("score", inspection::capabilityScore(sections));
+    writer.member("score", counts.score());
     writer.key("counts");
     writer.beginObject();
     for (const auto status : inspection::allStatuses)
-        writer.member(rawValue(status).toStdString(), inspection::count(sections, status));
+        writer.member(rawValue(status).toStdString(), counts.of(status));
     writer.endObject();
     writer.endObject();
 }

@@ -39,6 +39,16 @@ ScanSnapshot takeSnapshot(const inspection::DeviceSummary &summary, const QList<
     return snapshot;
 }
 
+inspection::StatusCounts countsOf(const ScanSnapshot &snapshot)
+{
+    inspection::StatusCounts counts;
+    for (const auto &section : snapshot.sections) {
+        for (const auto &item : section.items)
+            counts.add(item.status);
+    }
+    return counts;
+}
+
 QList<CapabilitySection> inspectedSections(const ScanSnapshot &snapshot)
 {
     QList<CapabilitySection> sections;

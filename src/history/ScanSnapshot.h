@@ -55,7 +55,9 @@ struct ScanSnapshot
 ScanSnapshot takeSnapshot(const inspection::DeviceSummary &summary,
                           const QList<inspection::CapabilitySection> &sections, const QString &language);
 
-/// The snapshot's rows as those of an inspection: to count, rate and report them.
+inspection::StatusCounts countsOf(const ScanSnapshot &snapshot);
+
+/// The snapshot's rows as those of an inspection, to report them.
 QList<inspection::CapabilitySection> inspectedSections(const ScanSnapshot &snapshot);
 
 } // namespace quillmark::history

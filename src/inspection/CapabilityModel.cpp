@@ -84,32 +84,52 @@ size_t qHash(const CapabilitySection &section, size_t seed)
                       section.key.value_or(QString()));
 }
 
+qsizetype StatusCounts::rated() const
+{
+    return of(CapabilityStatus::Supported) + of(CapabilityStatus::Warning) +
+           of(CapabilityStatus::Unsupported);
+}
+
+double StatusCounts::score() const
+{
+    return rated() == 0 ? 0
+                        : static_cast<double>(of(CapabilityStatus::Supported)) / static_cast<double>(rated());
+}
+
+int StatusCounts::scorePercent() const
+{
+    const int percent = static_cast<int>(std::floor(score() * 100 + 0.5));
+    return score() < 1 ? std::min(percent, 99) : percent;
+}
+
+StatusCounts countsOf(const QList<CapabilitySection> &sections)
+{
+    StatusCounts counts;
+    for (const auto &section : sections) {
+        for (const auto &item : section.items)
+            counts.add(item.status);
+    }
+    return counts;
+}
+
 qsizetype count(const QList<CapabilitySection> &sections, CapabilityStatus status)
 {
-    qsizetype total = 0;
-    for (const auto &section : sections)
-        total += std::ranges::count(section.items, status, &CapabilityItem::status);
-    return total;
+    return countsOf(sections).of(status);
 }
 
 qsizetype ratedCount(const QList<CapabilitySection> &sections)
 {
-    return count(sections, CapabilityStatus::Supported) + count(sections, CapabilityStatus::Warning) +
-           count(sections, CapabilityStatus::Unsupported);
+    return countsOf(sections).rated();
 }
 
 double capabilityScore(const QList<CapabilitySection> &sections)
 {
-    const auto supported = count(sections, CapabilityStatus::Supported);
-    const auto rated = ratedCount(sections);
-    return rated == 0 ? 0 : static_cast<double>(supported) / static_cast<double>(rated);
+    return countsOf(sections).score();
 }
 
 int scorePercent(const QList<CapabilitySection> &sections)
 {
-    const double score = capabilityScore(sections);
-    const int percent = static_cast<int>(std::floor(score * 100 + 0.5));
-    return score < 1 ? std::min(percent, 99) : percent;
+    return countsOf(sections).scorePercent();
 }
 
 } // namespace quillmark::inspection

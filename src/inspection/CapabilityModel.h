@@ -9,6 +9,7 @@
 #include <QUuid>
 
 #include <array>
+#include <cstddef>
 #include <optional>
 
 namespace quillmark::inspection {
@@ -79,17 +80,32 @@ struct DeviceSummary
     bool operator==(const DeviceSummary &) const = default;
 };
 
-/// How many rows of all sections have the status.
+/// How many rows have each status, and what follows from that.
+class StatusCounts
+{
+public:
+    void add(CapabilityStatus status) { ++m_counts[static_cast<std::size_t>(status)]; }
+
+    qsizetype of(CapabilityStatus status) const { return m_counts[static_cast<std::size_t>(status)]; }
+    /// All but the rows of status Info.
+    qsizetype rated() const;
+    /// The share of rated rows that are supported, from 0 to 1; 0 when none is rated.
+    double score() const;
+    /// The score as a whole percentage, as it is shown everywhere: rounded, but 100 only when every rated row
+    /// is supported.
+    int scorePercent() const;
+
+private:
+    std::array<qsizetype, allStatuses.size()> m_counts{};
+};
+
+/// Of all sections.
+StatusCounts countsOf(const QList<CapabilitySection> &sections);
+
+// Single figures of them.
 qsizetype count(const QList<CapabilitySection> &sections, CapabilityStatus status);
-
-/// How many rows are rated: all but those of status Info.
 qsizetype ratedCount(const QList<CapabilitySection> &sections);
-
-/// The share of rated rows that are supported, from 0 to 1; 0 when none is rated.
 double capabilityScore(const QList<CapabilitySection> &sections);
-
-/// The score as a whole percentage, as it is shown everywhere: rounded, but 100 only when every rated row is
-/// supported.
 int scorePercent(const QList<CapabilitySection> &sections);
 
 } // namespace quillmark::inspection

@@ -105,12 +105,13 @@ struct Formatters
     icu::Locale locale;
     std::array<std::optional<icu::number::LocalizedNumberFormatter>, UnitCount> byUnit;
     std::map<int, icu::number::LocalizedNumberFormatter> byFractionDigits;
+    std::unique_ptr<icu::DateFormat> dateAndTime;
 
     static Formatters &of(const icu::Locale &locale)
     {
         thread_local Formatters kept;
         if (kept.locale != locale)
-            kept = {.locale = locale, .byUnit = {}, .byFractionDigits = {}};
+            kept = {.locale = locale};
         return kept;
     }
 };
@@ -236,10 +237,14 @@ QString Formats::number(double value, int fractionDigits) const
 
 QString Formats::dateAndTime(const QDateTime &moment) const
 {
-    const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
-        icu::DateFormat::kLong, icu::DateFormat::kShort, localeOf(m_language)));
-    if (!format)
-        return moment.toString(Qt::ISODate);
+    const icu::Locale &locale = localeOf(m_language);
+    auto &format = Formatters::of(locale).dateAndTime;
+    if (!format) {
+        format.reset(
+            icu::DateFormat::createDateTimeInstance(icu::DateFormat::kLong, icu::DateFormat::kShort, locale));
+        if (!format)
+            return moment.toString(Qt::ISODate);
+    }
     // The clock on the wall, taken for Greenwich's, is written as it stands.
     format->setTimeZone(*icu::TimeZone::getGMT());
     const QDateTime wall(moment.date(), moment.time(), Qt::UTC);
