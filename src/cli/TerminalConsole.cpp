@@ -195,12 +195,12 @@ void TerminalConsole::leaveScreen()
 void TerminalConsole::installHandlers()
 {
     sigset_t awaited;
-    ::sigemptyset(&awaited);
+    sigemptyset(&awaited);
     for (const int signal : awaitedSignals) {
         takeNotice(signal);
         if (isIgnored(signal))
             continue;
-        ::sigaddset(&awaited, signal);
+        sigaddset(&awaited, signal);
         setAction(signal, note);
     }
     for (const int signal : endingSignals) {
@@ -233,8 +233,8 @@ void TerminalConsole::suspend()
 {
     leaveScreen();
     sigset_t stop;
-    ::sigemptyset(&stop);
-    ::sigaddset(&stop, SIGTSTP);
+    sigemptyset(&stop);
+    sigaddset(&stop, SIGTSTP);
     setAction(SIGTSTP, SIG_DFL);
     ::raise(SIGTSTP); // pending while it is blocked
     ::pthread_sigmask(SIG_UNBLOCK, &stop, nullptr);
