@@ -8,7 +8,7 @@
 
 namespace quillmark::history {
 
-/// By the XDG Base Directory Specification, which has a relative path ignored. The folder is everybody's, so
+/// As XDG has it, which ignores a relative path. The folder is everybody's, so
 /// the program has one of its own in it.
 QString dataFolder()
 {
