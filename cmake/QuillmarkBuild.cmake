@@ -55,3 +55,24 @@ function(quillmark_layer name)
     target_include_directories(quillmark_${name} PUBLIC "${root}")
     target_link_libraries(quillmark_${name} PUBLIC ${layer_USES} PRIVATE quillmark_options)
 endfunction()
+
+# quillmark_module(NAME SOURCES file... [USES target...])
+#
+# Declares quillmark-NAME, a part of the program that is loaded when it is first used: the target
+# quillmark_NAME_module.
+function(quillmark_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 module "" "" "SOURCES;USES")
+    set(target "quillmark_${name}_module")
+    add_library(${target} MODULE ${module_SOURCES})
+    target_link_libraries(${target} PRIVATE quillmark_options ${module_USES})
+    if(APPLE)
+        set(installed "Quillmark.app/Contents/PlugIns")
+        set(built "bin/${installed}")
+    else()
+        set(installed "${CMAKE_INSTALL_LIBDIR}/quillmark")
+        set(built "${installed}")
+    endif()
+    set_target_properties(${target} PROPERTIES
+        PREFIX "" OUTPUT_NAME "quillmark-${name}" LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${built}")
+    install(TARGETS ${target} LIBRARY DESTINATION "${installed}")
+endfunction()

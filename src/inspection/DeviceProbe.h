@@ -56,6 +56,9 @@ QList<CapabilitySection> sections(const platform::Machine &machine, const langua
 /// The keys of those sections, in the same order.
 QStringList sectionKeys();
 
+/// The sections as an inspection will fill them, with their titles in the interface language, without rows.
+QList<CapabilitySection> emptySections();
+
 CapabilitySection systemSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection processorSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection graphicsSection(const platform::Machine &machine, const language::Formats &formats);

@@ -173,10 +173,7 @@ CapabilitySection cameraAudioSection(const platform::Machine &machine, const lan
     } else {
         items += soundCardItems(machine, formats);
     }
-    return {.title = Text::tr("Camera & Audio"),
-            .symbol = u"camera"_s,
-            .items = std::move(items),
-            .key = u"cameraAudio"_s};
+    return sectionOf(u"cameraAudio", std::move(items));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -170,10 +170,7 @@ CapabilitySection displaysSection(const platform::Machine &machine, const langua
         items += displayItems(onMac ? macDisplay(reading) : linuxDisplay(reading), place, onMac, formats);
         ++place.number;
     }
-    return {.title = Text::tr("Displays"),
-            .symbol = u"display"_s,
-            .items = std::move(items),
-            .key = u"displays"_s};
+    return sectionOf(u"displays", std::move(items));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -77,8 +77,7 @@ QList<CapabilityItem> metalItems(const platform::Machine &machine, const platfor
 CapabilitySection graphicsSection(const platform::Machine &machine, const language::Formats &formats)
 {
     const auto graphics = machine.graphics().read();
-    CapabilitySection section{
-        .title = Text::tr("Graphics & Metal"), .symbol = u"square.stack.3d.up"_s, .key = u"graphics"_s};
+    auto section = sectionOf(u"graphics", {});
     if (graphics.defaultDevice) {
         section.items = deviceItems(graphics.devices, formats);
         section.items += metalItems(machine, *graphics.defaultDevice, formats);

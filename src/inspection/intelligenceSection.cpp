@@ -182,10 +182,7 @@ CapabilitySection intelligenceSection(const platform::Machine &machine, const la
         items += judged(u"npu"_s, Text::tr("Neural processor"), neuralProcessorVerdict(machine, formats));
         items += judged(u"gpuCompute"_s, Text::tr("GPU computing"), gpuComputeVerdict(machine, formats));
     }
-    return {.title = Text::tr("Artificial Intelligence"),
-            .symbol = u"sparkles"_s,
-            .items = std::move(items),
-            .key = u"intelligence"_s};
+    return sectionOf(u"intelligence", std::move(items));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -153,10 +153,7 @@ QList<CapabilityItem> linuxItems(const platform::Media &media)
 
 CapabilitySection mediaSection(const platform::Machine &machine, const language::Formats &)
 {
-    return {.title = Text::tr("Media"),
-            .symbol = u"film"_s,
-            .items = isMac(machine) ? macItems(machine.media()) : linuxItems(machine.media()),
-            .key = u"media"_s};
+    return sectionOf(u"media", isMac(machine) ? macItems(machine.media()) : linuxItems(machine.media()));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -171,8 +171,7 @@ CapabilitySection networkSection(const platform::Machine &machine, const languag
         // /sys/class/bluetooth, /sys/class/rfkill
         items += judged(u"bluetooth"_s, u"Bluetooth"_s, bluetoothVerdict(machine.network().bluetooth()));
     }
-    return {
-        .title = Text::tr("Network"), .symbol = u"network"_s, .items = std::move(items), .key = u"network"_s};
+    return sectionOf(u"network", std::move(items));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

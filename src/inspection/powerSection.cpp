@@ -148,7 +148,7 @@ CapabilitySection powerSection(const platform::Machine &machine, const language:
     if (const auto adapter = adapterText(settings, formats))
         items += passing(fact(u"adapter"_s, Text::tr("Power adapter"), *adapter));
     items += settingItems(machine, onMac, settings, reading, formats);
-    return {.title = Text::tr("Power"), .symbol = u"bolt"_s, .items = std::move(items), .key = u"power"_s};
+    return sectionOf(u"power", std::move(items));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -59,10 +59,7 @@ CapabilitySection processorSection(const platform::Machine &machine, const langu
                   formats.byteCount(machine.system().physicalMemory(), language::ByteCountStyle::Memory));
     items += judged(u"neuralEngine"_s, Text::tr("Neural Engine"), availability(isAppleSilicon(machine)));
     items += instructionItems(machine);
-    return {.title = Text::tr("Processor & Memory"),
-            .symbol = u"cpu"_s,
-            .items = std::move(items),
-            .key = u"processor"_s};
+    return sectionOf(u"processor", std::move(items));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

@@ -48,6 +48,9 @@ CapabilityItem capability(const QString &key, const QString &label, std::optiona
 /// The row of a value that changes without any change of the machine.
 CapabilityItem passing(CapabilityItem item);
 
+/// The section of this key with its title and symbol, holding these rows. There must be one.
+CapabilitySection sectionOf(QStringView key, QList<CapabilityItem> items);
+
 /// One of several like things. Its number stands in the keys of its rows and, unless it is the only one, in
 /// their labels.
 struct Numbered

@@ -3,6 +3,7 @@
 
 #include "inspection/DeviceProbe.h"
 #include "inspection/Text.h"
+#include "inspection/rows.h"
 #include "inspection/securityItems.h"
 
 namespace quillmark::inspection::DeviceProbe {
@@ -13,11 +14,8 @@ CapabilitySection securitySection(const platform::Machine &machine, const langua
 {
     // kern.hv_vmm_present; Linux: the flag "hypervisor" of the processor
     const bool isGuest = isVirtualMachine(machine);
-    return {.title = Text::tr("Security"),
-            .symbol = u"lock.shield"_s,
-            .items =
-                isMac(machine) ? macSecurityItems(machine, isGuest) : linuxSecurityItems(machine, isGuest),
-            .key = u"security"_s};
+    return sectionOf(u"security", isMac(machine) ? macSecurityItems(machine, isGuest)
+                                                 : linuxSecurityItems(machine, isGuest));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

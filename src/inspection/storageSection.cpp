@@ -203,11 +203,8 @@ QList<CapabilityItem> volumeItems(const platform::Machine &machine, const langua
 CapabilitySection storageSection(const platform::Machine &machine, const language::Formats &formats)
 {
     const bool onMac = isMac(machine);
-    return {.title = Text::tr("Storage"),
-            .symbol = u"internaldrive"_s,
-            .items = startupItems(machine, onMac, formats) + diskItems(machine, onMac, formats) +
-                     volumeItems(machine, formats),
-            .key = u"storage"_s};
+    return sectionOf(u"storage", startupItems(machine, onMac, formats) + diskItems(machine, onMac, formats) +
+                                     volumeItems(machine, formats));
 }
 
 } // namespace quillmark::inspection::DeviceProbe

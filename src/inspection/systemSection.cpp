@@ -44,24 +44,19 @@ Verdict thermalVerdict(int state)
 CapabilitySection systemSection(const platform::Machine &machine, const language::Formats &formats)
 {
     const auto hostName = machine.system().hostName();
-    return {
-        .title = Text::tr("System"),
-        .symbol = u"info.circle"_s,
-        .items =
-            {
-                fact(u"deviceName"_s, Text::tr("Device name"),
-                     hostName ? QString::fromStdString(*hostName) : missing()),
-                fact(u"modelIdentifier"_s, Text::tr("Model identifier"),
-                     sysctlString(machine, "hw.model").value_or(missing())),
-                fact(u"os"_s, Text::tr("Operating system"), osVersionDescription(machine)),
-                architectureItem(machine),
-                passing(fact(u"uptime"_s, Text::tr("Uptime"),
-                             formats.uptime(machine.system().uptime()).value_or(missing()))),
-                passing(judged(u"thermalState"_s, Text::tr("Thermal state"),
-                               thermalVerdict(machine.system().thermalState()))),
-            },
-        .key = u"system"_s,
-    };
+    return sectionOf(u"system",
+                     {
+                         fact(u"deviceName"_s, Text::tr("Device name"),
+                              hostName ? QString::fromStdString(*hostName) : missing()),
+                         fact(u"modelIdentifier"_s, Text::tr("Model identifier"),
+                              sysctlString(machine, "hw.model").value_or(missing())),
+                         fact(u"os"_s, Text::tr("Operating system"), osVersionDescription(machine)),
+                         architectureItem(machine),
+                         passing(fact(u"uptime"_s, Text::tr("Uptime"),
+                                      formats.uptime(machine.system().uptime()).value_or(missing()))),
+                         passing(judged(u"thermalState"_s, Text::tr("Thermal state"),
+                                        thermalVerdict(machine.system().thermalState()))),
+                     });
 }
 
 } // namespace quillmark::inspection::DeviceProbe

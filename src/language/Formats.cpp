@@ -105,7 +105,7 @@ struct Formatters
     icu::Locale locale;
     std::array<std::optional<icu::number::LocalizedNumberFormatter>, UnitCount> byUnit;
     std::map<int, icu::number::LocalizedNumberFormatter> byFractionDigits;
-    std::unique_ptr<icu::DateFormat> dateAndTime;
+    std::map<DateStyle, std::unique_ptr<icu::DateFormat>> dates;
 
     static Formatters &of(const icu::Locale &locale)
     {
@@ -135,6 +135,29 @@ const icu::number::LocalizedNumberFormatter &numberFormatter(int fractionDigits,
                             .precision(Precision::fixedFraction(fractionDigits))
                             .roundingMode(UNUM_ROUND_HALFUP);
     return entry->second;
+}
+
+std::unique_ptr<icu::DateFormat> dateFormat(DateStyle style, const icu::Locale &locale)
+{
+    const auto ofSkeleton = [&](const char *skeleton) {
+        UErrorCode status = U_ZERO_ERROR;
+        return std::unique_ptr<icu::DateFormat>(
+            icu::DateFormat::createInstanceForSkeleton(icu::UnicodeString(skeleton), locale, status));
+    };
+    switch (style) {
+    case DateStyle::DateAndTime:
+        break;
+    case DateStyle::Time:
+        return ofSkeleton("jm");
+    case DateStyle::Day:
+        return ofSkeleton("MMMMd");
+    case DateStyle::DayAndYear:
+        return ofSkeleton("yMMMMd");
+    case DateStyle::Month:
+        return ofSkeleton("yMMMM");
+    }
+    return std::unique_ptr<icu::DateFormat>(
+        icu::DateFormat::createDateTimeInstance(icu::DateFormat::kLong, icu::DateFormat::kShort, locale));
 }
 
 icu::UnicodeString joined(const std::vector<icu::UnicodeString> &texts, UListFormatterType type,
@@ -235,13 +258,12 @@ QString Formats::number(double value, int fractionDigits) const
     return U_SUCCESS(status) ? toQString(text) : QString::number(value, 'f', fractionDigits);
 }
 
-QString Formats::dateAndTime(const QDateTime &moment) const
+QString Formats::date(const QDateTime &moment, DateStyle style) const
 {
     const icu::Locale &locale = localeOf(m_language);
-    auto &format = Formatters::of(locale).dateAndTime;
+    auto &format = Formatters::of(locale).dates[style];
     if (!format) {
-        format.reset(
-            icu::DateFormat::createDateTimeInstance(icu::DateFormat::kLong, icu::DateFormat::kShort, locale));
+        format = dateFormat(style, locale);
         if (!format)
             return moment.toString(Qt::ISODate);
     }
@@ -251,6 +273,11 @@ QString Formats::dateAndTime(const QDateTime &moment) const
     icu::UnicodeString text;
     auto result = toQString(format->format(static_cast<UDate>(wall.toMSecsSinceEpoch()), text));
     return result.replace(QChar(0x202F), QChar::Nbsp); // many fonts lack the narrow one
+}
+
+QString Formats::dateAndTime(const QDateTime &moment) const
+{
+    return date(moment, DateStyle::DateAndTime);
 }
 
 } // namespace quillmark::language

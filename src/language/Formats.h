@@ -17,6 +17,15 @@ enum class ByteCountStyle {
     File,   ///< powers of 1000
 };
 
+/// How much of a moment is written.
+enum class DateStyle {
+    DateAndTime, ///< "November 22, 2025 at 8:41 AM", "22. November 2025 um 08:41"
+    Time,        ///< "8:41 AM", "08:41"
+    Day,         ///< "November 22", "22. November"
+    DayAndYear,  ///< "November 22, 2025"
+    Month,       ///< "November 2025"
+};
+
 /// Values as a language writes them, the same on every system: word for word what Foundation's formatters
 /// give on a Mac.
 ///
@@ -41,8 +50,8 @@ public:
     /// "1,200", "14.2": grouped as the language groups, always with that many digits after the point.
     QString number(double value, int fractionDigits = 0) const;
 
-    /// "November 22, 2025 at 8:41 AM", "22. November 2025 um 08:41": a local date and time. The time zone of
-    /// `moment` is not converted.
+    /// A local date and time. The time zone of `moment` is not converted.
+    QString date(const QDateTime &moment, DateStyle style) const;
     QString dateAndTime(const QDateTime &moment) const;
 
 private:

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Machine.h"
+
+#include <QString>
+
+namespace quillmark::app {
+
+/// What the window is opened with.
+struct Launch
+{
+    const platform::Machine &machine;
+    bool isRecording = false; ///< of a machine, which may be another one
+    QString historyFile;      ///< empty: the user's; for a recording, one that is not kept
+    QString language;         ///< tag; empty: as the user has chosen
+};
+
+/// The function that the module quillmark-app exports, with C linkage, as `runAppName`: opens the window and
+/// runs until the user quits; where an instance of the user's already runs, brings its window forward
+/// instead. Returns the exit status. When no window can be opened it says why in `failure`. There must be no
+/// application object yet. To be called on the main thread.
+///
+/// Program and module are built together and share Qt's libraries, so that its values cross as they are;
+/// `version`, the caller's applicationVersion(), is checked before anything else is read.
+using RunApp = int(const QString &version, const Launch &launch, QString &failure);
+
+inline constexpr const char *runAppName = "quillmark_runApp";
+
+} // namespace quillmark::app

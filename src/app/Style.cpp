@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "app/Style.h"
+
+#include "app/Appearance.h"
+#include "app/painting.h"
+
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include <algorithm>
+
+namespace quillmark::app {
+
+using namespace Qt::StringLiterals;
+using design::Role;
+
+namespace {
+
+constexpr int controlHeight = 30;
+constexpr int controlPadding = 12;
+constexpr int indicatorSize = 18;
+constexpr qreal indicatorRadius = 4.5;
+
+QColor groundOf(const QStyleOption &option, const QColor &ground)
+{
+    const auto &appearance = Appearance::current();
+    if (!(option.state & QStyle::State_Enabled))
+        return ground;
+    if (option.state & QStyle::State_Sunken)
+        return over(ground, appearance.color(Role::Text), 0.12);
+    return option.state & QStyle::State_MouseOver ? over(ground, appearance.color(Role::Text), 0.08) : ground;
+}
+
+bool isDefault(const QStyleOption &option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return button && button->features & QStyleOptionButton::DefaultButton;
+}
+
+bool showsFocus(const QStyleOption &option, const QWidget *widget)
+{
+    return option.state & QStyle::State_HasFocus && widget && hasKeyboardFocus(*widget);
+}
+
+void drawButtonGround(const QStyleOption &option, QPainter &painter, const QWidget *widget)
+{
+    const auto &appearance = Appearance::current();
+    const QRectF bounds(option.rect);
+    painter.save();
+    if (!(option.state & QStyle::State_Enabled))
+        painter.setOpacity(0.45);
+    const bool isOn = option.state & QStyle::State_On;
+    if (isDefault(option))
+        paintBox(painter, bounds, buttonRadius, groundOf(option, appearance.color(Role::Accent)), {});
+    else
+        paintBox(painter, bounds, buttonRadius,
+                 groundOf(option, appearance.color(isOn ? Role::AccentSoft : Role::Control)),
+                 appearance.color(isOn ? Role::Accent : Role::ControlBorder));
+    if (showsFocus(option, widget))
+        paintFocusRing(painter, bounds, buttonRadius);
+    painter.restore();
+}
+
+void drawFieldGround(const QStyleOption &option, QPainter &painter)
+{
+    const auto &appearance = Appearance::current();
+    const QRectF bounds(option.rect);
+    paintBox(painter, bounds, buttonRadius, appearance.color(Role::Control),
+             appearance.color(Role::ControlBorder));
+    if (option.state & QStyle::State_HasFocus)
+        paintFocusRing(painter, bounds, buttonRadius);
+}
+
+void drawIndicator(const QStyleOption &option, QPainter &painter, const QWidget *widget, bool isRadio)
+{
+    auto &appearance = Appearance::current();
+    const QRectF bounds(option.rect);
+    const qreal radius = isRadio ? bounds.height() / 2 : indicatorRadius;
+    const bool isOn = option.state & (QStyle::State_On | QStyle::State_NoChange);
+    painter.save();
+    if (!(option.state & QStyle::State_Enabled))
+        painter.setOpacity(0.45);
+    if (!isOn) {
+        paintBox(painter, bounds, radius, groundOf(option, appearance.color(Role::Control)),
+                 appearance.color(Role::ControlStrong));
+    } else {
+        paintBox(painter, bounds, radius, groundOf(option, appearance.color(Role::Accent)), {});
+        if (isRadio) {
+            const qreal inset = bounds.height() * 0.31;
+            paintBox(painter, bounds.adjusted(inset, inset, -inset, -inset), bounds.height(),
+                     appearance.color(Role::OnAccent), {});
+        } else {
+            appearance.paintIcon(painter, bounds.adjusted(2, 2, -2, -2), u"checkmark"_s, Role::OnAccent);
+        }
+    }
+    painter.restore();
+    if (showsFocus(option, widget))
+        paintFocusRing(painter, bounds.adjusted(-2, -2, 2, 2), radius + 2);
+}
+
+} // namespace
+
+Style::Style()
+    : QProxyStyle(u"Fusion"_s)
+{}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                          const QWidget *widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand:
+        drawButtonGround(*option, *painter, widget);
+        return;
+    case PE_PanelLineEdit:
+        drawFieldGround(*option, *painter);
+        return;
+    case PE_IndicatorCheckBox:
+        drawIndicator(*option, *painter, widget, false);
+        return;
+    case PE_IndicatorRadioButton:
+        drawIndicator(*option, *painter, widget, true);
+        return;
+    // Drawn with the control itself, and for keys only.
+    case PE_FrameFocusRect:
+    case PE_FrameDefaultButton:
+        return;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                        const QWidget *widget) const
+{
+    if (element == CE_PushButtonLabel && isDefault(*option)) {
+        auto label = *qstyleoption_cast<const QStyleOptionButton *>(option);
+        label.palette.setColor(QPalette::ButtonText, Appearance::current().color(Role::OnAccent));
+        QProxyStyle::drawControl(element, &label, painter, widget);
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
+{
+    const auto &appearance = Appearance::current();
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return appearance.scaled(indicatorSize);
+    case PM_ButtonIconSize:
+        return appearance.scaled(16);
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    case PM_ScrollBarExtent:
+        return 10;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                              const QWidget *widget) const
+{
+    auto result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const int height = Appearance::current().scaled(controlHeight);
+    switch (type) {
+    case CT_PushButton:
+        result.setWidth(size.width() + 2 * controlPadding);
+        result.setHeight(std::max(height, size.height() + 8));
+        break;
+    case CT_LineEdit:
+    case CT_ComboBox:
+        result.setHeight(std::max(height, result.height()));
+        break;
+    default:
+        break;
+    }
+    return result;
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                     QStyleHintReturn *data) const
+{
+    switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+    case SH_FormLayoutLabelAlignment:
+        return Qt::AlignLeft | Qt::AlignVCenter;
+    case SH_EtchDisabledText:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+}
+
+} // namespace quillmark::app

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "app/momentTexts.h"
+
+#include <QCoreApplication>
+
+namespace quillmark::app {
+
+namespace {
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Moment)
+};
+
+} // namespace
+
+QString timeText(const QDateTime &moment, const language::Formats &formats)
+{
+    return formats.date(moment, language::DateStyle::Time);
+}
+
+QString dayText(const QDateTime &moment, const language::Formats &formats)
+{
+    const bool isThisYear = moment.date().year() == QDate::currentDate().year();
+    return formats.date(moment, isThisYear ? language::DateStyle::Day : language::DateStyle::DayAndYear);
+}
+
+QString inspectedText(const QDateTime &moment, const language::Formats &formats)
+{
+    const auto days = moment.date().daysTo(QDate::currentDate());
+    if (days == 0)
+        return Text::tr("Inspected today at %1").arg(timeText(moment, formats));
+    if (days == 1)
+        return Text::tr("Inspected yesterday at %1").arg(timeText(moment, formats));
+    return Text::tr("Inspected on %1").arg(dayText(moment, formats));
+}
+
+} // namespace quillmark::app

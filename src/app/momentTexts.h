@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "language/Formats.h"
+
+#include <QDateTime>
+#include <QString>
+
+// How the window speaks of moments: near ones by what people call them.
+
+namespace quillmark::app {
+
+/// "08:41": hours and minutes.
+QString timeText(const QDateTime &moment, const language::Formats &formats);
+/// "12 November", with the year where it is not this one.
+QString dayText(const QDateTime &moment, const language::Formats &formats);
+
+/// "Inspected today at 08:41", "Inspected yesterday at 19:20", "Inspected on 12 November".
+QString inspectedText(const QDateTime &moment, const language::Formats &formats);
+
+} // namespace quillmark::app
