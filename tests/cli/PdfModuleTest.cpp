@@ -115,11 +115,9 @@ void PdfModuleTest::noModule()
     QVERIFY(QFile::copy(m_program, copy));
     const auto result = draw(copy);
     QCOMPARE(result.status, 1);
-    QCOMPARE(
-        result.err,
-        u"quillmark: the module quillmark-pdf, which draws PDF documents, is neither in %1 nor in %2"_s.arg(
-            QDir::cleanPath(folder.filePath(u"../" QUILLMARK_LIBDIR "/quillmark"_s)),
-            QDir::cleanPath(folder.filePath(u"../PlugIns"_s))));
+    QCOMPARE(result.err, u"quillmark: the module quillmark-pdf is neither in %1 nor in %2"_s.arg(
+                             QDir::cleanPath(folder.filePath(u"../" QUILLMARK_LIBDIR "/quillmark"_s)),
+                             QDir::cleanPath(folder.filePath(u"../PlugIns"_s))));
 }
 
 void PdfModuleTest::brokenModule()
