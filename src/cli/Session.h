@@ -29,6 +29,7 @@ public:
     Session(const Output &output, const MachineSource &thisMachine, const CommonOptions &options);
 
     const Output &output() const { return m_output; }
+    const CommonOptions &options() const { return m_options; }
     bool usesColor() const { return m_output.colorIsWelcome && !m_options.noColor; }
     /// How to lay text out for people: within the terminal, or without end where there is none.
     TerminalStyle terminalStyle() const

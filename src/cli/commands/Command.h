@@ -21,6 +21,7 @@ inline constexpr auto commonOptionsHint =
     "'quillmark --help'.\n";
 
 // Each adds its sub-command to the program; when that one is typed, `chosen` becomes what to do.
+void addApp(CLI::App &program, Command &chosen);
 void addBattery(CLI::App &program, Command &chosen);
 void addExport(CLI::App &program, Command &chosen);
 void addHistory(CLI::App &program, Command &chosen);

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "app/RunApp.h"
+#include "cli/Module.h"
+#include "cli/commands/Command.h"
+#include "reports/Report.h"
+
+#include <QFile>
+
+namespace quillmark::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::expected<void, Failure> openWindow(const Session &session)
+{
+    const auto machine = session.openMachine();
+    if (!machine)
+        return std::unexpected(machine.error());
+    const auto function = resolve(u"quillmark-app"_s, app::runAppName);
+    if (!function)
+        return std::unexpected(function.error());
+
+    const auto &options = session.options();
+    const app::Launch launch{.machine = **machine,
+                             .isRecording = !options.machineFile.empty(),
+                             .historyFile = QFile::decodeName(options.historyFile.c_str()),
+                             .language = QString::fromStdString(options.language)};
+    QString failure;
+    const int status =
+        reinterpret_cast<app::RunApp *>(*function)(reports::applicationVersion(), launch, failure);
+    if (status != Done)
+        return std::unexpected(Failure{failure});
+    return {};
+}
+
+} // namespace
+
+void addApp(CLI::App &program, Command &chosen)
+{
+    auto *command = program.add_subcommand("app", "Open the desktop application");
+    command->footer(std::string(commonOptionsHint) +
+                    "\nExamples:\n"
+                    "  quillmark app\n"
+                    "  quillmark app --machine machines/macbook-pro-m3-max.json");
+    command->callback([&chosen] { chosen = openWindow; });
+}
+
+} // namespace quillmark::cli
