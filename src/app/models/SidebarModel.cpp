@@ -29,7 +29,7 @@ int SidebarModel::rowCount(const QModelIndex &parent) const
 
 QVariant SidebarModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid())
         return {};
     const auto &row = m_rows[index.row()];
     switch (role) {
@@ -58,7 +58,7 @@ QVariant SidebarModel::data(const QModelIndex &index, int role) const
 
 Qt::ItemFlags SidebarModel::flags(const QModelIndex &index) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || m_rows[index.row()].place.isEmpty())
+    if (!index.isValid() || m_rows[index.row()].place.isEmpty())
         return Qt::NoItemFlags;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
 }

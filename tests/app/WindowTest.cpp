@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "app/models/Place.h"
+#include "app/models/SidebarModel.h"
+#include "app/views/ContentView.h"
+#include "support/AppStage.h"
+
+#include <QAbstractItemModelTester>
+#include <QLineEdit>
+#include <QListView>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace quillmark;
+using namespace quillmark::support;
+using namespace Qt::StringLiterals;
+
+class WindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensEveryPlaceOfEveryMachine_data()
+    {
+        QTest::addColumn<QString>("recording");
+        for (const auto &name : recordingNames())
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    void opensEveryPlaceOfEveryMachine()
+    {
+        QFETCH(QString, recording);
+        AppStage stage(recordingText(recording));
+        app::ContentView window(stage.context);
+        window.QWidget::show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_VERIFY(stage.inspection.lastUpdated());
+        app::SidebarModel places(stage.context);
+        for (int row = 0; row < places.rowCount(); ++row) {
+            const auto place = places.index(row).data(app::SidebarModel::PlaceRole).toString();
+            if (place.isEmpty())
+                continue;
+            window.showPlace(place);
+            QCOMPARE(window.place(), place);
+            QVERIFY(!window.grab().isNull());
+        }
+        QCOMPARE(stage.history.snapshots().size(), 1);
+    }
+
+    void sidebarIsASoundModel()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        app::SidebarModel model(stage.context);
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+        const auto before = model.rowCount();
+        stage.inspect();
+        QCOMPARE(model.rowCount(), before);
+        QVERIFY(!model.flags(model.index(1)).testFlag(Qt::ItemIsSelectable)); // a heading
+    }
+
+    void searchHidesThePlaceAndComesBackToIt()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        app::ContentView window(stage.context);
+        window.QWidget::show();
+        window.showPlace(app::place::ofSection(u"graphics"_s));
+        auto *section = window.currentPage();
+        auto *search = window.findChild<QLineEdit *>();
+        QTest::keyClicks(search, u"  Metal"_s);
+        QTRY_VERIFY(window.currentPage() != section);
+        QCOMPARE(window.place(), app::place::ofSection(u"graphics"_s));
+        QVERIFY(!window.findChild<QListView *>()->selectionModel()->hasSelection());
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(window.currentPage(), section);
+        QVERIFY(search->text().isEmpty());
+        QVERIFY(window.findChild<QListView *>()->selectionModel()->hasSelection());
+    }
+
+    void goesBackTheWayItCame()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        app::ContentView window(stage.context);
+        window.showPlace(app::place::battery);
+        window.showPlace(app::place::history);
+        window.showPlace(u"section/there is no such section"_s);
+        QCOMPARE(window.place(), app::place::overview);
+        QStringList way;
+        for (int step = 0; step < 4; ++step) {
+            window.actions().back->trigger();
+            way += window.place();
+        }
+        QCOMPARE(way, QStringList({app::place::history, app::place::battery, app::place::overview,
+                                   app::place::overview}));
+    }
+
+    void comesBackWhereItWasClosed()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        {
+            app::ContentView window(stage.context);
+            window.resize(1000, 700);
+            window.QWidget::show();
+            window.showPlace(app::place::battery);
+            window.actions().hideSidebar->setChecked(true);
+            QVERIFY(window.close());
+        }
+        app::ContentView window(stage.context);
+        window.restoreWindow();
+        QCOMPARE(window.size(), QSize(1000, 700));
+        QCOMPARE(window.place(), app::place::battery);
+        QVERIFY(window.actions().hideSidebar->isChecked());
+    }
+};
+
+QTEST_MAIN(WindowTest)
+#include "WindowTest.moc"
