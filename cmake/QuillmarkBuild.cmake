@@ -3,8 +3,8 @@
 
 # What every target of the project is built with, and how a layer is declared.
 
-# The languages of the interface, by their tags.
-set(QUILLMARK_LANGUAGES en)
+# The languages of the interface, by their tags. Each has its texts in translations/.
+set(QUILLMARK_LANGUAGES en de fr es it pt-BR nl pl ja ko zh-Hans ar)
 
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)

@@ -5,8 +5,8 @@
 # What Quillmark is built with, and how it gets onto this machine. Sourced by build.sh, whose say and fail it uses.
 
 # Fonts: Noto has Latin, Greek, Cyrillic, Arabic and more, Sawarabi Japanese. poppler-utils reads PDF documents in tests.
-debianPackages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libicu-dev libcli11-dev
-    fonts-noto-core fonts-sawarabi-gothic poppler-utils)
+debianPackages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    qt6-translations-l10n libicu-dev libcli11-dev fonts-noto-core fonts-sawarabi-gothic poppler-utils)
 # What installs the compiler that checks the Mac's sources, which continuous integration must have.
 macCheckPackages=(npm)
 homebrewPackages=(cmake ninja ccache qt icu4c cli11 librsvg poppler)

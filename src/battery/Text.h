@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include <QCoreApplication>
+#include "language/texts.h"
 
 namespace quillmark::battery {
 
 /// The words about a battery in the interface language of the moment.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Battery)
+    QUILLMARK_TEXTS(Battery)
 };
 
 } // namespace quillmark::battery

@@ -5,8 +5,7 @@
 
 #include "cli/TerminalReport.h"
 #include "history/SnapshotChange.h"
-
-#include <QCoreApplication>
+#include "language/texts.h"
 
 #include <algorithm>
 
@@ -23,7 +22,7 @@ using Weight = TerminalPage::Weight;
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Terminal)
+    QUILLMARK_TEXTS(Terminal)
 };
 
 QString scoreOf(const ScanSnapshot &scan)
@@ -139,7 +138,7 @@ QString historyPage(const std::vector<StoredSnapshot> &scans, const language::Fo
                 newsOf(scan, i + 1 < scans.size() ? &scans[i + 1].snapshot : nullptr)};
         rows += row;
     }
-    page.addParagraph(Text::tr("Saved scans: %1").arg(scans.size()), Weight::Bold);
+    page.addParagraph(Text::tr("%n saved scans", nullptr, static_cast<int>(scans.size())), Weight::Bold);
     page.addGap();
     page.addTable(columns, rows);
     return page.text();

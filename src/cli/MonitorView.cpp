@@ -4,10 +4,9 @@
 #include "cli/MonitorView.h"
 
 #include "cli/TextWidth.h"
+#include "language/texts.h"
 #include "monitor/texts.h"
 #include "monitor/verdicts.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <array>
@@ -24,7 +23,7 @@ namespace {
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(TerminalMonitor)
+    QUILLMARK_TEXTS(TerminalMonitor)
 };
 
 constexpr int margin = 1;
@@ -208,7 +207,7 @@ void MonitorView::drawProcessor(Screen &screen, Area area) const
 void MonitorView::drawCores(Screen &screen, Area area) const
 {
     const auto cores = static_cast<int>(m_model.perCore.size());
-    const auto count = cores == 1 ? Text::tr("1 core") : Text::tr("%n cores", nullptr, cores);
+    const auto count = Text::tr("%n cores", nullptr, cores);
     const std::array<Words, 1> figure = {{{count, Role::Quiet}}};
     putTitle(screen, area.row, area.column, area.width, Text::tr("Per core"), figure);
     const Area rest = {area.row + 1, area.column, area.width, area.height - 1};

@@ -22,8 +22,9 @@ struct Output
     int columns = 80;            ///< its width
     bool colorIsWelcome = false; ///< it is a terminal, and the environment does not say NO_COLOR
     Console *console = nullptr;  ///< for what goes on and on; without one nothing is waited for or redrawn
-    /// Puts a question that yes or no answers to the person at the terminal; empty: nobody is there.
-    std::function<bool(const QString &question)> ask;
+    /// Puts a question to the person at the terminal and gives the line that was typed; empty: nobody is
+    /// there.
+    std::function<QString(const QString &question)> ask;
 
     void write(const QString &text) const;
     void write(const QByteArray &utf8) const;

@@ -15,8 +15,9 @@ namespace {
 
 QStringList languageOrder(const CommonOptions &options)
 {
-    return options.language.empty() ? language::environmentLanguages()
-                                    : QStringList{QString::fromStdString(options.language)};
+    if (!options.language.empty())
+        return {QString::fromStdString(options.language)};
+    return QStringList{settings::Settings().value(language::languageKey)} + language::environmentLanguages();
 }
 
 } // namespace

@@ -18,7 +18,7 @@ struct CommonOptions
 {
     std::string machineFile; ///< of a recording; empty: this machine
     std::string historyFile; ///< empty: the one of the interface
-    std::string language;    ///< tag; empty: as the environment asks
+    std::string language;    ///< tag; empty: as was chosen in the window, else as the environment asks
     bool noColor = false;
 };
 

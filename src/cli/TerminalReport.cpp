@@ -3,7 +3,7 @@
 
 #include "cli/TerminalReport.h"
 
-#include <QCoreApplication>
+#include "language/texts.h"
 
 namespace quillmark::cli {
 
@@ -15,7 +15,7 @@ using inspection::CapabilityStatus;
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Terminal)
+    QUILLMARK_TEXTS(Terminal)
 };
 
 void addHeadline(TerminalPage &page, const inspection::DeviceSummary &summary)

@@ -73,13 +73,12 @@ bool environmentRefusesColor()
     return (noColor && *noColor) || (terminal && std::strcmp(terminal, "dumb") == 0);
 }
 
-/// Anything but a yes is a no.
-bool ask(const QString &question)
+QString ask(const QString &question)
 {
     std::cerr << question.toStdString() << std::flush;
     std::string answer;
     std::getline(std::cin, answer);
-    return answer == "y" || answer == "Y" || answer == "yes";
+    return QString::fromStdString(answer);
 }
 
 } // namespace

@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include <QCoreApplication>
+#include "language/texts.h"
 
 namespace quillmark::inspection {
 
 /// The words of an inspection: Text::tr("Uptime") is the text in the interface language of the moment.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Inspection)
+    QUILLMARK_TEXTS(Inspection)
 };
 
 } // namespace quillmark::inspection

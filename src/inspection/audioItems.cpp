@@ -90,9 +90,7 @@ std::optional<Verdict> outputFormatVerdict(const AudioDevice *device, const lang
     const bool isForCalls = rate < leastMusicRate && platform::personalDevice(device->transport) ==
                                                          platform::PersonalDevice::Bluetooth;
     const int channels = static_cast<int>(device->outputChannels);
-    const auto format =
-        channels == 1 ? Text::tr("%1, 1 channel") : Text::tr("%1, %n channels", nullptr, channels);
-    const auto text = format.arg(kilohertz(rate, formats));
+    const auto text = Text::tr("%1, %n channels", nullptr, channels).arg(kilohertz(rate, formats));
     if (isForCalls)
         return Verdict{Text::tr("%1 (call quality: a microphone is in use)").arg(text),
                        CapabilityStatus::Warning};

@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // MTLGPUFamily
-constexpr std::int32_t metal3Family = 5001;
-constexpr std::int32_t metal4Family = 5002;
+constexpr int metal3Family = 5001;
+constexpr int metal4Family = 5002;
 
-constexpr std::int32_t firstSystemWithMetal4 = 26;
+constexpr int firstSystemWithMetal4 = 26;
 constexpr int firstFamilyWithHardwareRayTracing = 9;
 
 QString nameWithTags(const platform::GraphicsDevice &device, const language::Formats &formats)

@@ -6,6 +6,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/formattedvalue.h>
 #include <unicode/listformatter.h>
+#include <unicode/locdspnm.h>
 #include <unicode/locid.h>
 #include <unicode/measunit.h>
 #include <unicode/numberformatter.h>
@@ -275,9 +276,24 @@ QString Formats::date(const QDateTime &moment, DateStyle style) const
     return result.replace(QChar(0x202F), QChar::Nbsp); // many fonts lack the narrow one
 }
 
+<<<<<<< HEAD
 QString Formats::dateAndTime(const QDateTime &moment) const
 {
     return date(moment, DateStyle::DateAndTime);
+=======
+QString Formats::languageName(const QString &tag) const
+{
+    std::array<UDisplayContext, 2> contexts = {UDISPCTX_DIALECT_NAMES,
+                                               UDISPCTX_CAPITALIZATION_FOR_UI_LIST_OR_MENU};
+    const std::unique_ptr<icu::LocaleDisplayNames> names(icu::LocaleDisplayNames::createInstance(
+        localeOf(m_language), contexts.data(), static_cast<int32_t>(contexts.size())));
+    if (!names)
+        return tag;
+    icu::UnicodeString name;
+    UErrorCode status = U_ZERO_ERROR;
+    const auto locale = icu::Locale::forLanguageTag(tag.toStdString(), status);
+    return toQString(names->localeDisplayName(locale, name));
+>>>>>>> language
 }
 
 } // namespace quillmark::language

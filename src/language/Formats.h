@@ -54,6 +54,9 @@ public:
     QString date(const QDateTime &moment, DateStyle style) const;
     QString dateAndTime(const QDateTime &moment) const;
 
+    /// "German", "Português (Brasil)": what the language calls the one of that tag, as in a list of choices.
+    QString languageName(const QString &tag) const;
+
 private:
     QString m_language;
 };

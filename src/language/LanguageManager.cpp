@@ -3,9 +3,32 @@
 
 #include "language/LanguageManager.h"
 
+#include "language/Catalogue.h"
+#include "language/texts.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+
+#include <tuple>
+#include <utility>
+
+/// A static library's resources are linked in by being asked for; Qt wants this outside of namespaces.
+static void loadCatalogues()
+{
+    Q_INIT_RESOURCE(catalogues);
+}
+
 namespace quillmark::language {
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+class Text
+{
+    QUILLMARK_TEXTS(Language)
+};
 
 QString english()
 {
@@ -21,32 +44,81 @@ QString firstMatch(const QStringList &preferred)
     return english();
 }
 
+QString primaryPart(const QString &tag)
+{
+    return tag.section(u'-', 0, 0).toLower();
+}
+
 } // namespace
+
+Catalogue::Catalogue(const QString &tag)
+    : language(tag)
+{
+    loadCatalogues();
+    // English has texts for its plurals alone.
+    [[maybe_unused]] const bool isThere =
+        texts.load(u"quillmark_"_s + tag, u":/quillmark/translations"_s, {}, u".qm"_s);
+    Q_ASSERT_X(isThere, "Catalogue", qPrintable(tag));
+    if (QCoreApplication::instance() && tag != english()) {
+        // Not all systems install it.
+        std::ignore =
+            ofQt.load(QLocale(tag), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    }
+}
 
 LanguageManager::LanguageManager(const QStringList &preferred, QObject *parent)
     : QObject(parent)
-    , m_formats(firstMatch(preferred))
-{}
+    , m_systemLanguage(firstMatch(preferred))
+    , m_formats(m_systemLanguage)
+{
+    install();
+}
+
+LanguageManager::LanguageManager(settings::Settings &settings, const QStringList &system, QObject *parent)
+    : QObject(parent)
+    , m_systemLanguage(firstMatch(system))
+    , m_formats(firstMatch(QStringList{settings.value(languageKey)} + system))
+{
+    install();
+    connect(&settings, &settings::Settings::changed, this, [this, &settings](const QString &key) {
+        if (key == languageKey.name && !setLanguage(settings.value(languageKey)))
+            setLanguage(m_systemLanguage);
+    });
+}
+
+LanguageManager::~LanguageManager() = default;
 
 QStringList LanguageManager::available()
 {
-    return {english()};
+    static const auto tags = QStringLiteral(QUILLMARK_LANGUAGES).split(u' ');
+    return tags;
 }
 
 QString LanguageManager::match(const QString &tag)
 {
     // "de_CH.UTF-8@euro" → "de-CH", then "de"
-    QString wanted = tag.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('@'), 0, 0);
-    wanted.replace(QLatin1Char('_'), QLatin1Char('-'));
+    QString wanted = tag.section(u'.', 0, 0).section(u'@', 0, 0);
+    wanted.replace(u'_', u'-');
     const auto languages = available();
-    while (!wanted.isEmpty()) {
+    for (auto shorter = wanted; !shorter.isEmpty();
+         shorter.truncate(qMax(shorter.lastIndexOf(u'-'), qsizetype(0)))) {
         for (const auto &language : languages) {
-            if (language.compare(wanted, Qt::CaseInsensitive) == 0)
+            if (language.compare(shorter, Qt::CaseInsensitive) == 0)
                 return language;
         }
-        wanted.truncate(qMax(wanted.lastIndexOf(QLatin1Char('-')), qsizetype(0)));
+    }
+    // Another country's, in the same script: "pt-PT" → "pt-BR", "zh-SG" → "zh-Hans", but nothing for "zh-TW".
+    for (const auto &language : languages) {
+        if (primaryPart(language) == primaryPart(wanted) &&
+            QLocale(language).script() == QLocale(wanted).script())
+            return language;
     }
     return {};
+}
+
+Qt::LayoutDirection LanguageManager::direction() const
+{
+    return QLocale(language()).textDirection();
 }
 
 bool LanguageManager::setLanguage(const QString &tag)
@@ -56,9 +128,46 @@ bool LanguageManager::setLanguage(const QString &tag)
         return false;
     if (language != m_formats.language()) {
         m_formats = Formats(language);
+        install();
         Q_EMIT languageChanged();
     }
     return true;
+}
+
+QString LanguageManager::nativeName(const QString &tag)
+{
+    return Formats(tag).languageName(tag);
+}
+
+QString LanguageManager::name(const QString &tag) const
+{
+    return m_formats.languageName(tag);
+}
+
+QString LanguageManager::systemChoiceName() const
+{
+    //: A choice among languages; %1 is the name of the system's.
+    return Text::tr("Same as system (%1)").arg(nativeName(m_systemLanguage));
+}
+
+void LanguageManager::install()
+{
+    const auto before = std::exchange(m_catalogue, std::make_shared<Catalogue>(language()));
+    setCatalogue(m_catalogue);
+    if (!QCoreApplication::instance())
+        return;
+    QLocale::setDefault(QLocale(language()));
+    if (before) {
+        QCoreApplication::removeTranslator(&before->ofQt);
+        QCoreApplication::removeTranslator(&before->texts);
+    }
+    QCoreApplication::installTranslator(&m_catalogue->ofQt);
+    QCoreApplication::installTranslator(&m_catalogue->texts);
+}
+
+QStringList systemLanguages()
+{
+    return QLocale::system().uiLanguages();
 }
 
 QStringList environmentLanguages()

@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include <QCoreApplication>
+#include "language/texts.h"
 
 namespace quillmark::monitor {
 
 /// The words of the live monitor in the interface language of the moment.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Monitor)
+    QUILLMARK_TEXTS(Monitor)
 };
 
 } // namespace quillmark::monitor

@@ -3,16 +3,15 @@
 
 #pragma once
 
+#include "language/texts.h"
 #include "reports/Report.h"
-
-#include <QCoreApplication>
 
 namespace quillmark::reports {
 
 /// The words of a report in the interface language of the moment.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Report)
+    QUILLMARK_TEXTS(Report)
 };
 
 /// The text for one line of a report: line breaks become spaces, other control characters, which would steer

@@ -7,6 +7,7 @@
 #include "language/folding.h"
 
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimeZone>
 
@@ -54,6 +55,8 @@ private Q_SLOTS:
     void matches_data();
     void matches();
     void manager();
+    void choice();
+    void names();
 };
 
 void LanguageTest::byteCounts_data()
@@ -281,8 +284,15 @@ void LanguageTest::matches_data()
     for (const auto &tag :
          {u"en"_s, u"EN"_s, u"en-GB"_s, u"en_US.UTF-8"_s, u"en_US@euro"_s, u"en-Latn-US-x-private"_s})
         row(tag, u"en"_s);
-    for (const auto &tag : {u""_s, u"C"_s, u"C.UTF-8"_s, u"POSIX"_s, u"e"_s, u"eng"_s, u"xx"_s, u"-"_s,
-                            u"-en"_s, u"tlh-en"_s, u"."_s, u"@en"_s})
+    for (const auto &tag : {u"zh"_s, u"zh_CN.UTF-8"_s, u"zh-SG"_s, u"zh-Hans-CN"_s})
+        row(tag, u"zh-Hans"_s);
+    for (const auto &tag : {u"pt"_s, u"pt_BR.UTF-8"_s, u"pt-PT"_s})
+        row(tag, u"pt-BR"_s);
+    row(u"de_CH.UTF-8@euro"_s, u"de"_s);
+    row(u"ar_EG"_s, u"ar"_s);
+    for (const auto &tag :
+         {u""_s, u"C"_s, u"C.UTF-8"_s, u"POSIX"_s, u"e"_s, u"eng"_s, u"xx"_s, u"-"_s, u"-en"_s, u"tlh-en"_s,
+          u"."_s, u"@en"_s, u"zh_TW.UTF-8"_s, u"zh-Hant"_s, u"zh-HK"_s})
         row(tag, QString());
 }
 
@@ -308,6 +318,39 @@ void LanguageTest::manager()
     QVERIFY(manager.setLanguage(u"en-AU"_s));
     QCOMPARE(manager.language(), u"en"_s);
     QCOMPARE(changes.size(), 0); // it was that already
+}
+
+/// What is chosen holds at once, is kept, and is above what the system asks for.
+void LanguageTest::choice()
+{
+    const QTemporaryDir folder;
+    quillmark::settings::Settings settings(folder.filePath(u"settings.conf"_s));
+    LanguageManager manager(settings, {u"de-AT"_s, u"fr"_s});
+    const QSignalSpy changes(&manager, &LanguageManager::languageChanged);
+    QCOMPARE(manager.language(), u"de"_s);
+    QCOMPARE(manager.direction(), Qt::LeftToRight);
+
+    settings.setValue(languageKey, u"ar"_s);
+    QCOMPARE(manager.language(), u"ar"_s);
+    QCOMPARE(manager.direction(), Qt::RightToLeft);
+    QCOMPARE(LanguageManager(settings, {u"de"_s}).language(), u"ar"_s);
+    settings.setValue(languageKey, u"tlh"_s); // of another version, say
+    QCOMPARE(manager.language(), u"de"_s);
+    QCOMPARE(LanguageManager(settings, {u"fr"_s}).language(), u"fr"_s);
+    settings.setValue(languageKey, u"ja"_s);
+    settings.remove(languageKey);
+    QCOMPARE(manager.language(), u"de"_s);
+    QCOMPARE(changes.size(), 4);
+}
+
+void LanguageTest::names()
+{
+    QCOMPARE(LanguageManager::nativeName(u"de"_s), u"Deutsch"_s);
+    QCOMPARE(LanguageManager::nativeName(u"pt-BR"_s), u"Português (Brasil)"_s);
+    QCOMPARE(LanguageManager::nativeName(u"zh-Hans"_s), u"简体中文"_s);
+    QCOMPARE(LanguageManager({u"en"_s}).name(u"zh-Hans"_s), u"Simplified Chinese"_s);
+    QCOMPARE(LanguageManager({u"fr"_s}).name(u"de"_s), u"Allemand"_s);
+    QVERIFY(LanguageManager({u"de"_s}).systemChoiceName().contains(u"Deutsch"));
 }
 
 QTEST_GUILESS_MAIN(LanguageTest)

@@ -19,7 +19,7 @@ struct Terminal
 {
     int columns = 0; ///< 0: the output is none
     bool color = false;
-    std::function<bool(const QString &question)> ask; ///< empty: nobody is there
+    std::function<QString(const QString &question)> ask; ///< empty: nobody is there
     cli::Console *console = nullptr;
     bool isClosed = false; ///< what is written to it is lost
 };

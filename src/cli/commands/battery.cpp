@@ -10,8 +10,7 @@
 #include "inspection/batteryItems.h"
 #include "inspection/rows.h"
 #include "inspection/values.h"
-
-#include <QCoreApplication>
+#include "language/texts.h"
 
 #include <memory>
 #include <vector>
@@ -27,7 +26,7 @@ using Weight = TerminalPage::Weight;
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Terminal)
+    QUILLMARK_TEXTS(Terminal)
 };
 
 /// The row with the judgement's own word where it has one, else that of its status.

@@ -7,10 +7,12 @@
 #include "cli/inspectMachine.h"
 #include "history/HistoryFile.h"
 #include "history/ScanHistory.h"
+#include "language/folding.h"
+#include "language/texts.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <string>
@@ -34,7 +36,7 @@ constexpr qsizetype shortestPrefix = 4;
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Terminal)
+    QUILLMARK_TEXTS(Terminal)
 };
 
 struct HistoryOptions
@@ -70,7 +72,8 @@ std::expected<StoredSnapshot, Failure> findScan(const std::vector<StoredSnapshot
     if (meant.empty() && isNumber && position < scans.size())
         meant.push_back(&scans[position]);
     if (meant.empty())
-        return std::unexpected(Failure{u"there is no scan '%1' in the history"_s.arg(QString::fromStdString(given))});
+        return std::unexpected(
+            Failure{u"there is no scan '%1' in the history"_s.arg(QString::fromStdString(given))});
     if (meant.size() > 1)
         return std::unexpected(
             Failure{u"'%1' is the beginning of more than one scan's identifier"_s.arg(text)});
@@ -157,14 +160,25 @@ Result remove(const Session &session, const HistoryOptions &options)
     return {};
 }
 
+/// Anything but a yes is a no. An English one counts in every language.
+bool isYes(const QString &answer)
+{
+    //: What may be typed for yes, as shown in "[y/N]"; separated by commas.
+    const auto words = Text::tr("y, yes").split(u',') << u"y"_s << u"yes"_s;
+    return std::ranges::any_of(words, [typed = language::folded(answer.trimmed())](const QString &word) {
+        return language::folded(word.trimmed()) == typed;
+    });
+}
+
 Result clear(const Session &session, const HistoryOptions &options)
 {
     ScanHistory history(session.language(), session.historyFile(), patience);
     const auto count = history.snapshots().size();
     const auto &ask = session.output().ask;
     if (ask && !options.isConfirmed && count > 0 &&
-        !ask(Text::tr("All saved scans (%1) will be removed. This can’t be undone. Remove them? [y/N] ")
-                 .arg(count)))
+        !isYes(ask(Text::tr("%n saved scans will be removed. This can’t be undone. Remove them? [y/N]",
+                            nullptr, static_cast<int>(count)) +
+                   u' ')))
         return std::unexpected(Failure{u"nothing was removed"_s});
     history.clear();
     const auto result = saved(session, history);
@@ -195,11 +209,11 @@ Result record(const Session &session, const HistoryOptions &options)
         session.output().write("{\"recorded\": "_ba + (isNews ? "true" : "false") + ", \"id\": \"" +
                                history::idText(newest.id).toLatin1() + "\"}\n");
     else
-        session.output().write(
-            (isNews ? Text::tr("Scan %1 was saved.").arg(history::idText(newest.id).first(8))
-                    : Text::tr("Nothing has changed since the scan of %1, so none was saved.")
-                          .arg(dateOf(newest, formats))) +
-            u'\n');
+        session.output().write((isNews
+                                    ? Text::tr("Scan %1 was saved.").arg(history::idText(newest.id).first(8))
+                                    : Text::tr("Nothing has changed since the scan of %1, so none was saved.")
+                                          .arg(dateOf(newest, formats))) +
+                               u'\n');
     return {};
 }
 

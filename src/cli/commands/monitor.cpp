@@ -4,12 +4,12 @@
 #include "cli/MonitorView.h"
 #include "cli/commands/Command.h"
 #include "json/Writer.h"
+#include "language/texts.h"
 #include "monitor/SystemSampler.h"
 #include "monitor/texts.h"
 #include "monitor/verdicts.h"
 
 #include <CLI/Validators.hpp>
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,7 @@ namespace {
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(TerminalMonitor)
+    QUILLMARK_TEXTS(TerminalMonitor)
 };
 
 constexpr std::chrono::seconds interval(1);
@@ -105,22 +105,24 @@ QString localTime(monitor::Date date)
 }
 
 /// The same for people, where the output is no terminal.
-std::string plainLine(const MonitorSample &sample, const language::Formats &formats)
+QString plainLine(const MonitorSample &sample, const language::Formats &formats)
 {
     using namespace monitor;
-    QStringList parts = {localTime(sample.date),
-                         Text::tr("Processor") + u' ' + percentText(sample.cpuUsage),
-                         Text::tr("Memory") + u' ' + memoryText(sample.memoryUsed, formats) + u' ' +
-                             Text::tr("of %1").arg(memoryText(sample.memoryTotal, formats)),
-                         title(pressureVerdict(sample.memoryPressure)) + u' ' +
-                             percentText(sample.memoryPressure),
-                         Text::tr("Swap used") + u' ' + swapText(sample.swapUsed, formats),
-                         Text::tr("In") + u' ' + rateText(sample.networkInPerSecond, formats),
-                         Text::tr("Out") + u' ' + rateText(sample.networkOutPerSecond, formats),
-                         Text::tr("Thermal state") + u' ' + title(sample.thermalState)};
+    QStringList parts = {
+        localTime(sample.date), Text::tr("Processor %1").arg(percentText(sample.cpuUsage)),
+        Text::tr("Memory %1 of %2")
+            .arg(memoryText(sample.memoryUsed, formats), memoryText(sample.memoryTotal, formats)),
+        //: A verdict ("Pressure normal") and its measure.
+        Text::tr("%1 %2").arg(title(pressureVerdict(sample.memoryPressure)),
+                              percentText(sample.memoryPressure)),
+        Text::tr("Swap used %1").arg(swapText(sample.swapUsed, formats)),
+        Text::tr("In %1").arg(rateText(sample.networkInPerSecond, formats)),
+        Text::tr("Out %1").arg(rateText(sample.networkOutPerSecond, formats)),
+        Text::tr("Thermal state %1").arg(title(sample.thermalState))};
     if (sample.batteryLevel)
-        parts += batteryTitle(sample.isCharging.value_or(false)) + u' ' + percentText(*sample.batteryLevel);
-    return parts.join(u"  "_s).toStdString() + '\n';
+        parts += Text::tr("%1 %2").arg(batteryTitle(sample.isCharging.value_or(false)),
+                                       percentText(*sample.batteryLevel));
+    return parts.join(u"  "_s) + u'\n';
 }
 
 /// A line for each sample, until there are enough or nobody reads them.
@@ -135,8 +137,10 @@ void writeLines(const Session &session, const platform::Machine &machine, const 
             output.console->waitUntil(pace.next());
         pace.advance();
         const auto sample = sampler.sample();
-        output.out << (options.json ? jsonLine(sample) : plainLine(sample, session.language().formats()))
-                   << std::flush;
+        if (options.json)
+            output.out << jsonLine(sample) << std::flush;
+        else
+            output.out << plainLine(sample, session.language().formats()).toStdString() << std::flush;
     }
 }
 
