@@ -70,7 +70,8 @@ std::expected<StoredSnapshot, Failure> findScan(const std::vector<StoredSnapshot
     if (meant.empty() && isNumber && position < scans.size())
         meant.push_back(&scans[position]);
     if (meant.empty())
-        return std::unexpected(Failure{u"there is no scan '%1' in the history"_s.arg(QString::fromStdString(given))});
+        return std::unexpected(
+            Failure{u"there is no scan '%1' in the history"_s.arg(QString::fromStdString(given))});
     if (meant.size() > 1)
         return std::unexpected(
             Failure{u"'%1' is the beginning of more than one scan's identifier"_s.arg(text)});
@@ -195,11 +196,11 @@ Result record(const Session &session, const HistoryOptions &options)
         session.output().write("{\"recorded\": "_ba + (isNews ? "true" : "false") + ", \"id\": \"" +
                                history::idText(newest.id).toLatin1() + "\"}\n");
     else
-        session.output().write(
-            (isNews ? Text::tr("Scan %1 was saved.").arg(history::idText(newest.id).first(8))
-                    : Text::tr("Nothing has changed since the scan of %1, so none was saved.")
-                          .arg(dateOf(newest, formats))) +
-            u'\n');
+        session.output().write((isNews
+                                    ? Text::tr("Scan %1 was saved.").arg(history::idText(newest.id).first(8))
+                                    : Text::tr("Nothing has changed since the scan of %1, so none was saved.")
+                                          .arg(dateOf(newest, formats))) +
+                               u'\n');
     return {};
 }
 
