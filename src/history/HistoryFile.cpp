@@ -3,19 +3,18 @@
 
 #include "history/HistoryFile.h"
 
+#include "platform/posix/writeFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace quillmark::history {
 
@@ -36,72 +35,29 @@ std::unexpected<SaveError> inUse(const QString &reason)
     return std::unexpected(SaveError{SaveError::Kind::InUse, reason});
 }
 
-/// The file that the path leads to, be it there or not.
-QString withLinksResolved(const QString &path)
+std::filesystem::path pathOf(const QString &name)
 {
-    constexpr int mostLinks = 40; // as the system itself follows
-    QFileInfo file(path);
-    for (int i = 0; i < mostLinks && file.isSymLink(); ++i)
-        file.setFile(file.symLinkTarget());
-    return file.absoluteFilePath();
+    return QFile::encodeName(name).toStdString();
 }
 
-/// Makes the folder and those above it that are missing, for their owner only. 0, or errno.
-int makeFolder(const QString &path)
+std::expected<void, SaveError> written(const std::expected<void, platform::FileError> &outcome)
 {
-    const auto make = [&path] { return mkdir(QFile::encodeName(path).constData(), 0700) == 0 ? 0 : errno; };
-    int error = make();
-    if (error == ENOENT && !QFileInfo(path).isRoot()) {
-        error = makeFolder(QFileInfo(path).path());
-        if (error == 0)
-            error = make();
-    }
-    if (error == EEXIST)
-        return QFileInfo(path).isDir() ? 0 : ENOTDIR;
-    return error;
+    if (outcome)
+        return {};
+    return notWritten(messageOf(outcome.error().number));
 }
 
-/// Has the system put what was written on the disk. 0, or errno; a file system that cannot is no error.
-int synchronize(int descriptor)
-{
-    return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : errno;
-}
-
-void synchronizeFolder(const QString &path)
-{
-    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    synchronize(descriptor); // the file is whole either way: at worst it is the one from before
-    close(descriptor);
-}
-
-/// A full disk takes a part of the text first, and gives its reason only when asked to take the rest.
-bool writeAll(QIODevice &device, QByteArrayView text)
-{
-    while (!text.isEmpty()) {
-        const auto written = device.write(text.data(), text.size());
-        if (written <= 0)
-            return false;
-        text = text.sliced(written);
-    }
-    return true;
-}
-
-/// Replaces the file or leaves it alone, whenever this ends. QSaveFile by itself would not notice that the
-/// disk did not take the text.
+/// For its owner only. Replaces the file or leaves it alone, whenever this ends.
 std::expected<void, SaveError> replace(const QString &path, const QByteArray &text)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-        !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) || !writeAll(file, text))
-        return notWritten(file.errorString());
-    if (const int error = synchronize(file.handle()); error != 0)
-        return notWritten(messageOf(error));
-    if (!file.commit())
-        return notWritten(file.errorString());
-    synchronizeFolder(QFileInfo(path).path());
-    return {};
+    const std::string_view bytes(text.constData(), static_cast<std::size_t>(text.size()));
+    return written(platform::writeFile(pathOf(path), bytes, platform::Existing::Replace, 0600));
+}
+
+QString withLinksResolved(const QString &path)
+{
+    const auto file = platform::withLinksResolved(pathOf(path));
+    return file ? QFileInfo(QFile::decodeName(file->c_str())).absoluteFilePath() : path;
 }
 
 /// "snapshots.unreadable.json"; "snapshots.unreadable-2.json" where that is taken, and so on.
@@ -209,12 +165,12 @@ std::expected<void, SaveError> HistoryFile::write(const QList<QByteArray> &snaps
 
 std::optional<HistoryFile::Version> HistoryFile::versionOf(const QString &path)
 {
-    const auto name = QFile::encodeName(path);
+    const auto name = pathOf(path);
     struct stat found = {};
-    if (stat(name.constData(), &found) != 0)
+    if (stat(name.c_str(), &found) != 0)
         return std::nullopt;
     std::error_code error;
-    const auto modified = std::filesystem::last_write_time(name.constData(), error).time_since_epoch();
+    const auto modified = std::filesystem::last_write_time(name, error).time_since_epoch();
     return Version{.device = static_cast<quint64>(found.st_dev),
                    .number = static_cast<quint64>(found.st_ino),
                    .size = found.st_size,
@@ -224,9 +180,9 @@ std::optional<HistoryFile::Version> HistoryFile::versionOf(const QString &path)
 /// True: this program became the one that writes just now.
 std::expected<bool, SaveError> HistoryFile::takeLock()
 {
-    if (const int error = makeFolder(QFileInfo(m_path).path()); error != 0)
-        return notWritten(messageOf(error));
-    const auto taken = m_lock.take((QFile::encodeName(m_path) + ".lock").toStdString(), m_patience);
+    if (const auto made = written(platform::makeFolder(pathOf(m_path).parent_path(), 0700)); !made)
+        return std::unexpected(made.error());
+    const auto taken = m_lock.take(pathOf(m_path) += ".lock", m_patience);
     if (taken)
         return *taken;
     if (taken.error().error != 0)

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "history/FileLock.h"
 #include "history/snapshotJson.h"
+#include "platform/posix/FileLock.h"
 
 #include <QByteArray>
 #include <QList>
@@ -79,7 +79,7 @@ private:
 
     QString m_path; ///< with links resolved
     std::chrono::milliseconds m_patience;
-    FileLock m_lock;
+    platform::FileLock m_lock;
     std::optional<Version> m_version; ///< absent: no file
     bool m_isUnreadable = false;
 };

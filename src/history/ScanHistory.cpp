@@ -3,8 +3,9 @@
 
 #include "history/ScanHistory.h"
 
-#include "history/dataFolder.h"
+#include "platform/dataFolder.h"
 
+#include <QFile>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -40,7 +41,7 @@ ScanHistory &ScanHistory::shared(const language::LanguageManager &language)
 
 QString ScanHistory::defaultFile()
 {
-    return dataFolder() + QStringLiteral("/History/snapshots.json");
+    return QFile::decodeName((platform::dataFolder() / "History/snapshots.json").c_str());
 }
 
 bool ScanHistory::record(const inspection::DeviceSummary &summary,

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/posix/writeFile.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -35,16 +37,11 @@ QString title(const SaveError &error);
 /// Why, in one sentence of the interface language: "You don’t have permission to write there."
 QString reasonText(const SaveError &error);
 
-enum class Existing { Keep, Replace };
+using platform::Existing;
 
-/// Writes the file whole or not at all: whatever fails, a file that stood there stands as it was, and no part
-/// of the new one stays behind. A new file gets the permissions that the process gives its files, a replaced
-/// one keeps its own. A symbolic link stays, and the file behind it is written. A device or a pipe is written
-/// to, not replaced.
-///
-/// Where the length of files is limited (RLIMIT_FSIZE), the process has to ignore SIGXFSZ, or it ends here.
-///
-/// Existing::Keep never overwrites a file, not even one that comes into being meanwhile.
+/// Writes the file as platform::writeFile() does, which says what stays as it was whatever fails: whole or
+/// not at all. A new file gets the permissions that the process gives its files, a replaced one keeps its
+/// own.
 std::expected<void, SaveError> saveFile(const std::filesystem::path &file, const QByteArray &bytes,
                                         Existing existing);
 

@@ -290,7 +290,7 @@ void ScanHistoryTest::failures()
     record(history, u"b"_s);
     QVERIFY(history.flush());
     QCOMPARE(values(snapshotsIn(m_path)), hasFile ? u"b a before"_s : u"b a"_s);
-    QCOMPARE(QDir(folder).entryList(QDir::Files).size(), 2); // the history and its lock
+    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 2); // the history and its lock
 }
 
 void ScanHistoryTest::keepsTheUnreadableAside()
@@ -360,7 +360,7 @@ void ScanHistoryTest::twoPrograms()
 void ScanHistoryTest::waitsForAnother()
 {
     QVERIFY(QDir().mkpath(QFileInfo(m_path).path()));
-    FileLock lock;
+    platform::FileLock lock;
     QVERIFY(lock.take((m_path + u".lock"_s).toStdString(), {}));
     std::thread ending([&lock] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -455,6 +455,10 @@ void ScanHistoryTest::survivesKilling()
         midWrite += last > told;
         newest = last;
     }
+    ScanHistory history(m_language, m_path);
+    record(history, u"after"_s);
+    QVERIFY(history.flush());
+    QCOMPARE(QFileInfo(m_path).dir().entryList(QDir::Files | QDir::Hidden).size(), 2);
     qInfo() << newest << "scans saved," << midWrite << "kills between saving and telling";
     QVERIFY(newest > 0);
 }

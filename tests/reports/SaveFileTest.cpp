@@ -11,6 +11,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void protectedTargets();
     void noSpace();
     void modes();
+    void removesTheAbandoned();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -160,6 +162,26 @@ void SaveFileTest::modes()
     QVERIFY(isSaved && bytes == "new");
     QCOMPARE(mode(u"fresh.txt"_s), 0640u);
     QCOMPARE(mode(u"old.txt"_s), 0604u);
+}
+
+/// What a program that was killed has left is gone; what another is writing, or is none of ours, stays.
+void SaveFileTest::removesTheAbandoned()
+{
+    const auto abandoned = u".quillmark-0123456789abcdef"_s;
+    const auto held = u".quillmark-0123456789abcde0"_s;
+    const QStringList others = {u".quillmark-notes"_s, u".quillmark-0123456789abcdef0"_s,
+                                u"quillmark-0123456789abcdef"_s};
+    auto expected = names() + others + QStringList{held, u"fresh.txt"_s};
+    for (const auto &name : others + QStringList{abandoned, held})
+        QVERIFY(QFile(path(name)).open(QIODevice::WriteOnly));
+    const int descriptor = ::open(qPrintable(path(held)), O_RDONLY);
+    QCOMPARE(::flock(descriptor, LOCK_EX), 0);
+    QVERIFY(!save(u"fresh.txt"_s, Existing::Keep));
+    ::close(descriptor);
+    auto found = names();
+    found.sort();
+    expected.sort();
+    QCOMPARE(found, expected);
 }
 
 QTEST_GUILESS_MAIN(SaveFileTest)

@@ -3,6 +3,8 @@
 
 #include "platform/posix/FileDescriptor.h"
 
+#include <cerrno>
+
 #include <unistd.h>
 
 namespace quillmark::platform {
@@ -17,6 +19,11 @@ FileDescriptor::~FileDescriptor()
 {
     if (m_number >= 0)
         ::close(m_number);
+}
+
+int FileDescriptor::close()
+{
+    return ::close(std::exchange(m_number, -1)) == 0 ? 0 : errno;
 }
 
 } // namespace quillmark::platform

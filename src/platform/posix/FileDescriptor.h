@@ -24,6 +24,10 @@ public:
     explicit operator bool() const { return m_number >= 0; }
     int number() const { return m_number; }
 
+    /// Closes it early, for who has to know how that went: 0, or errno. Some file systems say only now that
+    /// they had no room.
+    int close();
+
 private:
     int m_number = -1;
 };

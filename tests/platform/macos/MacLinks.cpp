@@ -6,6 +6,8 @@
 #include "platform/macos/interfaces.h"
 #include "platform/macos/mountedVolumes.h"
 #include "platform/posix/ChildProcess.h"
+#include "platform/posix/FileLock.h"
+#include "platform/posix/writeFile.h"
 
 using namespace quillmark::platform;
 
@@ -16,5 +18,8 @@ int main()
     const bool isTold = processorTicks(host) && virtualMemory(host) && hostPageSize(host) &&
                         MacKernelValues().read("hw.model") && mountedVolumes() &&
                         !readInterfaces(InterfaceEntries::All).empty();
-    return isTold && ChildProcess({"/usr/bin/true"}).answer({}) ? 0 : 1;
+    FileLock lock;
+    const bool isKept = makeFolder("folder", 0700) && lock.take("folder/lock", {}) &&
+                        writeFile("folder/file", {}, Existing::Keep);
+    return isTold && isKept && ChildProcess({"/usr/bin/true"}).answer({}) ? 0 : 1;
 }

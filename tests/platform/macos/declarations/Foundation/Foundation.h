@@ -41,6 +41,19 @@ typedef double NSTimeInterval;
 @property(readonly) NSInteger code;
 @end
 
+typedef CF_ENUM(NSUInteger, NSSearchPathDirectory) {
+    NSApplicationSupportDirectory = 14,
+};
+
+typedef CF_ENUM(NSUInteger, NSSearchPathDomainMask) {
+    NSUserDomainMask = 1,
+};
+
+extern "C" NSArray<NSString *> *NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory,
+                                                                    NSSearchPathDomainMask domainMask,
+                                                                    BOOL expandTilde);
+extern "C" NSString *NSHomeDirectory(void);
+
 @interface NSHost : NSObject
 + (instancetype)currentHost;
 @property(readonly, copy) NSString *localizedName;

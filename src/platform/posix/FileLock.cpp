@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "history/FileLock.h"
+#include "platform/posix/FileLock.h"
 
 #include <array>
 #include <cerrno>
@@ -13,7 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace quillmark::history {
+namespace quillmark::platform {
 
 namespace {
 
@@ -57,34 +57,26 @@ std::expected<bool, FileLock::Refusal> FileLock::take(const std::string &path,
         return false;
     const auto end = Clock::now() + patience;
     do { // again when the file was removed between opening and locking it
-        release();
-        m_descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-        if (m_descriptor < 0)
+        m_file = FileDescriptor(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+        if (!m_file)
             return std::unexpected(Refusal{.error = errno});
-        if (const int error = lockUntil(m_descriptor, end); error != 0) {
+        if (const int error = lockUntil(m_file.number(), end); error != 0) {
             const Refusal refusal{.error = error == EWOULDBLOCK ? 0 : error,
-                                  .holder = error == EWOULDBLOCK ? signatureOf(m_descriptor) : 0};
+                                  .holder = error == EWOULDBLOCK ? signatureOf(m_file.number()) : 0};
             release();
             return std::unexpected(refusal);
         }
     } while (!isInPlace(path));
-    signLock(m_descriptor);
+    signLock(m_file.number());
     return true;
-}
-
-void FileLock::release()
-{
-    if (m_descriptor >= 0)
-        close(m_descriptor);
-    m_descriptor = -1;
 }
 
 bool FileLock::isInPlace(const std::string &path) const
 {
     struct stat held = {};
     struct stat found = {};
-    return m_descriptor >= 0 && fstat(m_descriptor, &held) == 0 && stat(path.c_str(), &found) == 0 &&
+    return m_file && fstat(m_file.number(), &held) == 0 && stat(path.c_str(), &found) == 0 &&
            held.st_dev == found.st_dev && held.st_ino == found.st_ino;
 }
 
-} // namespace quillmark::history
+} // namespace quillmark::platform

@@ -3,11 +3,13 @@
 
 #pragma once
 
+#include "platform/posix/FileDescriptor.h"
+
 #include <chrono>
 #include <expected>
 #include <string>
 
-namespace quillmark::history {
+namespace quillmark::platform {
 
 /// Lets one program at a time write a file: an advisory lock (flock) on a file beside it. The system gives
 /// the lock up when its holder ends, however that happens; the lock file stays.
@@ -21,20 +23,15 @@ public:
         int holder = 0; ///< that program's process number; 0: not known
     };
 
-    FileLock() = default;
-    FileLock(const FileLock &) = delete;
-    FileLock &operator=(const FileLock &) = delete;
-    ~FileLock() { release(); }
-
     /// Takes the lock on the lock file `path`, which is made when it is missing; waits that long for another
     /// holder. True: it was not held before, or its file had been replaced.
     std::expected<bool, Refusal> take(const std::string &path, std::chrono::milliseconds patience);
-    void release();
+    void release() { m_file = FileDescriptor(); }
 
 private:
     bool isInPlace(const std::string &path) const;
 
-    int m_descriptor = -1;
+    FileDescriptor m_file;
 };
 
-} // namespace quillmark::history
+} // namespace quillmark::platform
