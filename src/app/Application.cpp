@@ -5,6 +5,7 @@
 
 #include "app/AppContext.h"
 #include "app/Appearance.h"
+#include "app/SingleInstance.h"
 #include "app/painting.h"
 #include "app/views/ContentView.h"
 #include "history/ScanHistory.h"
@@ -49,7 +50,8 @@ QString historyFile(const Launch &launch, const QTemporaryDir &passing)
 {
     if (!launch.historyFile.isEmpty())
         return launch.historyFile;
-    return launch.isRecording ? passing.filePath(u"snapshots.json"_s) : history::ScanHistory::defaultFile();
+    return !launch.recording.isEmpty() ? passing.filePath(u"snapshots.json"_s)
+                                       : history::ScanHistory::defaultFile();
 }
 
 } // namespace
@@ -66,12 +68,17 @@ int run(const Launch &launch, QString &)
     QGuiApplication::setDesktopFileName(u"com.tarnwick.Quillmark"_s);
     application.setWindowIcon(QIcon(u":/quillmark/icons/app-icon.svg"_s));
     application.setQuitOnLastWindowClosed(false);
+
+    SingleInstance instance(launch.recording + u'\n' + launch.historyFile);
+    if (!instance.claim())
+        return 0;
     watchFocus();
     Appearance::current();
 
     settings::Settings settings;
-    language::LanguageManager language(launch.language.isEmpty() ? language::environmentLanguages()
-                                                                 : QStringList{launch.language});
+    language::LanguageManager language(settings, language::systemLanguages());
+    if (!launch.language.isEmpty())
+        language.setLanguage(launch.language);
     const QTemporaryDir passing;
     history::ScanHistory history(language, historyFile(launch, passing));
     monitor::LiveMonitor::setSharedMachine(launch.machine);
@@ -85,6 +92,10 @@ int run(const Launch &launch, QString &)
     ContentView window(context);
     QObject::connect(&window, &ContentView::closed, &application, &QApplication::quit);
     QObject::connect(&window, &ContentView::quitAsked, &window, &ContentView::close);
+    QObject::connect(&instance, &SingleInstance::activated, &window, &ContentView::bringForward);
+    const auto followLanguage = [&] { application.setLayoutDirection(language.direction()); };
+    QObject::connect(&language, &language::LanguageManager::languageChanged, &window, followLanguage);
+    followLanguage();
     window.restoreWindow();
     window.QWidget::show();
     return application.exec();

@@ -13,13 +13,13 @@ namespace quillmark::app {
 struct Launch
 {
     const platform::Machine &machine;
-    bool isRecording = false; ///< of a machine, which may be another one
-    QString historyFile;      ///< empty: the user's; for a recording, one that is not kept
-    QString language;         ///< tag; empty: as the user has chosen
+    QString recording;   ///< file that the machine was read from; empty: the machine at hand
+    QString historyFile; ///< empty: the user's; for a recording, one that is not kept
+    QString language;    ///< tag; empty: as the user has chosen
 };
 
 /// The function that the module quillmark-app exports, with C linkage, as `runAppName`: opens the window and
-/// runs until the user quits; where an instance of the user's already runs, brings its window forward
+/// runs until the user quits; where the same user has such a window already, brings its window forward
 /// instead. Returns the exit status. When no window can be opened it says why in `failure`. There must be no
 /// application object yet. To be called on the main thread.
 ///

@@ -276,11 +276,11 @@ QString Formats::date(const QDateTime &moment, DateStyle style) const
     return result.replace(QChar(0x202F), QChar::Nbsp); // many fonts lack the narrow one
 }
 
-<<<<<<< HEAD
 QString Formats::dateAndTime(const QDateTime &moment) const
 {
     return date(moment, DateStyle::DateAndTime);
-=======
+}
+
 QString Formats::languageName(const QString &tag) const
 {
     std::array<UDisplayContext, 2> contexts = {UDISPCTX_DIALECT_NAMES,
@@ -293,7 +293,6 @@ QString Formats::languageName(const QString &tag) const
     UErrorCode status = U_ZERO_ERROR;
     const auto locale = icu::Locale::forLanguageTag(tag.toStdString(), status);
     return toQString(names->localeDisplayName(locale, name));
->>>>>>> language
 }
 
 } // namespace quillmark::language

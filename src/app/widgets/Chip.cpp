@@ -89,7 +89,7 @@ QString Chip::countText() const
 {
     if (!m_hasCount)
         return {};
-    return m_count ? locale().toString(*m_count) : u"–"_s;
+    return m_count ? QLocale().toString(*m_count) : u"–"_s;
 }
 
 QSize Chip::sizeHint() const

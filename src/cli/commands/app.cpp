@@ -25,7 +25,7 @@ std::expected<void, Failure> openWindow(const Session &session)
 
     const auto &options = session.options();
     const app::Launch launch{.machine = **machine,
-                             .isRecording = !options.machineFile.empty(),
+                             .recording = QFile::decodeName(options.machineFile.c_str()),
                              .historyFile = QFile::decodeName(options.historyFile.c_str()),
                              .language = QString::fromStdString(options.language)};
     QString failure;
