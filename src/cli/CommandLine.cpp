@@ -112,6 +112,7 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     addExport(program, command);
     addMachine(program, command);
     addMonitor(program, command);
+    addUpdate(program, command);
 
     try {
         program.parse(argumentCount, arguments);
