@@ -56,15 +56,14 @@ function(quillmark_layer name)
     target_link_libraries(quillmark_${name} PUBLIC ${layer_USES} PRIVATE quillmark_options)
 endfunction()
 
-# quillmark_module(NAME SOURCES file... [USES target...])
+# quillmark_module(NAME SOURCES file... USES target...)
 #
-# Declares quillmark-NAME, a part of the program that is loaded when it is first used: the target
-# quillmark_NAME_module.
+# Declares the module quillmark-NAME, the target quillmark_NAME_module: code that the program loads when it is first
+# needed (src/cli/Module.h), so that the libraries it links cost nothing otherwise.
 function(quillmark_module name)
     cmake_parse_arguments(PARSE_ARGV 1 module "" "" "SOURCES;USES")
-    set(target "quillmark_${name}_module")
-    add_library(${target} MODULE ${module_SOURCES})
-    target_link_libraries(${target} PRIVATE quillmark_options ${module_USES})
+    add_library(quillmark_${name}_module MODULE ${module_SOURCES})
+    target_link_libraries(quillmark_${name}_module PRIVATE quillmark_options ${module_USES})
     if(APPLE)
         set(installed "Quillmark.app/Contents/PlugIns")
         set(built "bin/${installed}")
@@ -72,7 +71,7 @@ function(quillmark_module name)
         set(installed "${CMAKE_INSTALL_LIBDIR}/quillmark")
         set(built "${installed}")
     endif()
-    set_target_properties(${target} PROPERTIES
-        PREFIX "" OUTPUT_NAME "quillmark-${name}" LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${built}")
-    install(TARGETS ${target} LIBRARY DESTINATION "${installed}")
+    set_target_properties(quillmark_${name}_module PROPERTIES
+        PREFIX "" OUTPUT_NAME quillmark-${name} LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${built}")
+    install(TARGETS quillmark_${name}_module LIBRARY DESTINATION "${installed}")
 endfunction()

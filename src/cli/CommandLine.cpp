@@ -113,6 +113,7 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     addMachine(program, command);
     addMonitor(program, command);
     addApp(program, command);
+    addUpdate(program, command);
 
     try {
         program.parse(argumentCount, arguments);

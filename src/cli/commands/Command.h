@@ -28,5 +28,6 @@ void addHistory(CLI::App &program, Command &chosen);
 void addInspect(CLI::App &program, Command &chosen);
 void addMachine(CLI::App &program, Command &chosen);
 void addMonitor(CLI::App &program, Command &chosen);
+void addUpdate(CLI::App &program, Command &chosen);
 
 } // namespace quillmark::cli

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace quillmark::update {
+
+/// Empty when there is no such file or it cannot be read, or when it is longer than any that is written here.
+QByteArray readPrivateFile(const QString &path);
+
+/// Writes the file whole or not at all, for its owner alone to read; makes its folder. False: it could not.
+bool writePrivateFile(const QString &path, const QByteArray &bytes);
+
+} // namespace quillmark::update
