@@ -132,10 +132,12 @@
     </message>
     <message>
         <source>Internal</source>
+        <extracomment>How a display is connected.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>None</source>
+        <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -223,6 +225,7 @@
     </message>
     <message>
         <source>Full</source>
+        <extracomment>Of a battery.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -239,6 +242,7 @@
     </message>
     <message>
         <source>%1 until full</source>
+        <extracomment>%1 is a duration.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -263,6 +267,7 @@
     </message>
     <message>
         <source>Charge</source>
+        <extracomment>How full the battery is.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -287,6 +292,7 @@
     </message>
     <message>
         <source>Best picture</source>
+        <extracomment>The largest picture that the camera gives.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -311,6 +317,7 @@
     </message>
     <message>
         <source>output</source>
+        <extracomment>A sound card plays; the next: it records.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -335,6 +342,7 @@
     </message>
     <message>
         <source>main</source>
+        <extracomment>Stands behind a display’s name in parentheses.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -359,6 +367,7 @@
     </message>
     <message>
         <source>Fixed</source>
+        <extracomment>Of a display’s refresh rate.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -375,6 +384,7 @@
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
+        <extracomment>A size in inches.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -614,6 +624,7 @@
     </message>
     <message>
         <source>Sealed</source>
+        <extracomment>Of the system volume, which is signed.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -670,6 +681,7 @@
     </message>
     <message>
         <source>Hardware</source>
+        <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -750,6 +762,7 @@
     </message>
     <message>
         <source>Cellular</source>
+        <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -830,6 +843,7 @@
     </message>
     <message>
         <source>Built in</source>
+        <extracomment>Of a battery: it has one.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -838,6 +852,7 @@
     </message>
     <message>
         <source>Balanced</source>
+        <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -942,6 +957,7 @@
     </message>
     <message>
         <source>%1 (low)</source>
+        <extracomment>%1 is the space that is free.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1081,18 +1097,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>−%1ꃛm (good)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (fair)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (weak)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Wi-Fi standard in use</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1122,6 +1126,23 @@
     </message>
     <message>
         <source>external eGPU</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>charge limit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (good)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (fair)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (weak)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1157,6 +1178,7 @@
     </message>
     <message>
         <source>None</source>
+        <extracomment>Swap space that is in use.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1274,6 +1296,7 @@
     </message>
     <message>
         <source>%1 – %2</source>
+        <extracomment>The title of a report, and the computer’s name.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1359,6 +1382,7 @@
     </message>
     <message>
         <source>Left out</source>
+        <extracomment>Stands for a name or an address.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1620,6 +1644,7 @@
     </message>
     <message>
         <source>of %1</source>
+        <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1628,6 +1653,7 @@
     </message>
     <message>
         <source>Used</source>
+        <extracomment>A curve: the memory that is in use.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1636,6 +1662,7 @@
     </message>
     <message>
         <source>In</source>
+        <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

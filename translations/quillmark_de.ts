@@ -5,1116 +5,1137 @@
     <name>Battery</name>
     <message>
         <source>Not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gemeldet</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>Vermindert</translation>
     </message>
     <message>
         <source>Worn</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschlissen</translation>
     </message>
     <message>
         <source>Cold</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalt</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Heiß</translation>
     </message>
     <message>
         <source>Service recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartung empfohlen</translation>
     </message>
     <message>
         <source>Permanent failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauerhafter Defekt</translation>
     </message>
     <message>
         <source>This battery needs attention.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Batterie braucht Aufmerksamkeit.</translation>
     </message>
     <message>
         <source>This battery does not tell how much it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Batterie teilt nicht mit, wie viel sie fasst.</translation>
     </message>
     <message>
         <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Batterie ist in gutem Zustand. Sie fasst fast so viel Ladung wie im Neuzustand.</translation>
     </message>
     <message>
         <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Batterie fasst weniger als früher. Sie funktioniert noch gut, hält aber spürbar kürzer.</translation>
     </message>
     <message>
         <source>This battery is worn. Consider having it replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Batterie ist verschlissen. Ein Austausch ist zu erwägen.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat die vorgesehene Zahl an Ladezyklen erreicht.</translation>
     </message>
     <message>
         <source>It is hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist heiß.</translation>
     </message>
     <message>
         <source>%1 of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 der Nennkapazität</translation>
     </message>
     <message>
         <source>macOS reports %1</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS meldet %1</translation>
     </message>
     <message>
         <source>macOS smooths its figure and keeps a reserve, so the two can differ by a few points.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS glättet seinen Wert und hält eine Reserve zurück, daher können die beiden um einige Punkte voneinander abweichen.</translation>
     </message>
     <message>
         <source>This Mac has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Mac hat keine Batterie</translation>
     </message>
     <message>
         <source>This computer has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer hat keine Batterie</translation>
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Batteriezustand wird auf tragbaren Macs angezeigt. Alles andere in Quillmark funktioniert wie gewohnt.</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Batteriezustand wird auf tragbaren Computern angezeigt. Alles andere in Quillmark funktioniert wie gewohnt.</translation>
     </message>
 </context>
 <context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterstützt</translation>
     </message>
     <message>
         <source>Not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht unterstützt</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Not requested yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht angefragt</translation>
     </message>
     <message>
         <source>Restricted</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingeschränkt</translation>
     </message>
     <message>
         <source>Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Verweigert</translation>
     </message>
     <message>
         <source>Allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlaubt</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>Internal</source>
-        <translation type="unfinished"></translation>
+        <extracomment>How a display is connected.</extracomment>
+        <translation>Intern</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
+        <translation>Nicht vorhanden</translation>
     </message>
     <message>
         <source>None (desktop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine (Schreibtischgerät)</translation>
     </message>
     <message>
         <source>Bluetooth device</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth-Gerät</translation>
     </message>
     <message>
         <source>AirPlay device</source>
-        <translation type="unfinished"></translation>
+        <translation>AirPlay-Gerät</translation>
     </message>
     <message>
         <source>iPhone or iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone oder iPad</translation>
     </message>
     <message>
         <source>%1&#xa0;kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;kHz</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n channels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n Kanal</numerusform>
+            <numerusform>%1, %n Kanäle</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 (call quality: a microphone is in use)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Telefonqualität: Ein Mikrofon ist in Benutzung)</translation>
     </message>
     <message>
         <source>Built-in speakers</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingebaute Lautsprecher</translation>
     </message>
     <message>
         <source>Built-in microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingebautes Mikrofon</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonausgabe</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeformat</translation>
     </message>
     <message>
         <source>Highest output rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchste Ausgaberate</translation>
     </message>
     <message>
         <source>Sound input</source>
-        <translation type="unfinished"></translation>
+        <translation>Toneingabe</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2&#xa0;mAh</translation>
     </message>
     <message>
         <source>−%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;°C</translation>
     </message>
     <message>
         <source>%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;°C</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geladen</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Of a battery.</extracomment>
+        <translation>Voll</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Angeschlossen, lädt nicht</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteriebetrieb</translation>
     </message>
     <message>
         <source>Being estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird ermittelt</translation>
     </message>
     <message>
         <source>%1 until full</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is a duration.</extracomment>
+        <translation>%1 bis voll</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteriezustand</translation>
     </message>
     <message>
         <source>Battery condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteriestatus</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladezyklen</translation>
     </message>
     <message>
         <source>Battery capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteriekapazität</translation>
     </message>
     <message>
         <source>Battery temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterietemperatur</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <extracomment>How full the battery is.</extracomment>
+        <translation>Ladestand</translation>
     </message>
     <message>
         <source>Time remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Restzeit</translation>
     </message>
     <message>
         <source>built in</source>
-        <translation type="unfinished"></translation>
+        <translation>eingebaut</translation>
     </message>
     <message>
         <source>external</source>
-        <translation type="unfinished"></translation>
+        <translation>extern</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera %1</translation>
     </message>
     <message>
         <source>Best picture</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The largest picture that the camera gives.</extracomment>
+        <translation>Beste Auflösung</translation>
     </message>
     <message>
         <source>Best picture (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste Auflösung (Kamera %1)</translation>
     </message>
     <message>
         <source>%1, up to %2 frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, bis zu %2 Bilder pro Sekunde</translation>
     </message>
     <message>
         <source>Center Stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgemodus</translation>
     </message>
     <message>
         <source>Center Stage (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgemodus (Kamera %1)</translation>
     </message>
     <message>
         <source>Sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>Soundkarte</translation>
     </message>
     <message>
         <source>output</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A sound card plays; the next: it records.</extracomment>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>input</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe</translation>
     </message>
     <message>
         <source>Sound card %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Soundkarte %1</translation>
     </message>
     <message>
         <source>Camera access</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamerazugriff</translation>
     </message>
     <message>
         <source>Microphone access</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrofonzugriff</translation>
     </message>
     <message>
         <source>Camera &amp; Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera &amp; Audio</translation>
     </message>
     <message>
         <source>main</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands behind a display’s name in parentheses.</extracomment>
+        <translation>Hauptbildschirm</translation>
     </message>
     <message>
         <source>mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>synchronisiert</translation>
     </message>
     <message>
         <source>%1, up to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, bis zu %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1, %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>%1 (looks like %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (sieht aus wie %2)</translation>
     </message>
     <message>
         <source>Fixed</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Of a display’s refresh rate.</extracomment>
+        <translation>Fest</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz (ProMotion)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2&#xa0;Hz (ProMotion)</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>Up to %1×</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis zu %1×</translation>
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A size in inches.</extracomment>
+        <translation>%1&#xa0;Zoll, %2 Pixel pro Zoll</translation>
     </message>
     <message>
         <source>%1&#xa0;in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Zoll</translation>
     </message>
     <message>
         <source>Variable refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable Bildwiederholrate</translation>
     </message>
     <message>
         <source>Variable refresh rate (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable Bildwiederholrate (Bildschirm %1)</translation>
     </message>
     <message>
         <source>Extended dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterter Dynamikumfang</translation>
     </message>
     <message>
         <source>Extended dynamic range (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterter Dynamikumfang (Bildschirm %1)</translation>
     </message>
     <message>
         <source>Wide color</source>
-        <translation type="unfinished"></translation>
+        <translation>Großer Farbraum</translation>
     </message>
     <message>
         <source>Wide color (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Großer Farbraum (Bildschirm %1)</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm</translation>
     </message>
     <message>
         <source>Display %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm %1</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung</translation>
     </message>
     <message>
         <source>Resolution (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung (Bildschirm %1)</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalierung</translation>
     </message>
     <message>
         <source>Scaling (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalierung (Bildschirm %1)</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Size (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe (Bildschirm %1)</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschluss</translation>
     </message>
     <message>
         <source>Connection (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschluss (Bildschirm %1)</translation>
     </message>
     <message>
         <source>Displays connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbundene Bildschirme</translation>
     </message>
     <message>
         <source>Displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirme</translation>
     </message>
     <message>
         <source>GPU</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU</translation>
     </message>
     <message>
         <source>GPU %1</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU %1</translation>
     </message>
     <message>
         <source>Requires macOS 26</source>
-        <translation type="unfinished"></translation>
+        <translation>Benötigt macOS 26</translation>
     </message>
     <message>
         <source>Recommended GPU memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfohlener GPU-Speicher</translation>
     </message>
     <message>
         <source>Apple GPU family</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple-GPU-Familie</translation>
     </message>
     <message>
         <source>Ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>Raytracing</translation>
     </message>
     <message>
         <source>Hardware ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardware-Raytracing</translation>
     </message>
     <message>
         <source>Graphics &amp; Metal</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafik &amp; Metal</translation>
     </message>
     <message>
         <source>On, encrypting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein, wird verschlüsselt</translation>
     </message>
     <message>
         <source>Turning off</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird ausgeschaltet</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Off (the disk is still encrypted by hardware)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus (die Hardware verschlüsselt die Festplatte trotzdem)</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Partly on</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilweise ein</translation>
     </message>
     <message>
         <source>On, blocks all incoming connections</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein, blockiert alle eingehenden Verbindungen</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar</translation>
     </message>
     <message>
         <source>Turned off in System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Systemeinstellungen ausgeschaltet</translation>
     </message>
     <message>
         <source>Not ready (downloading, or not offered for this language or region)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht bereit (wird geladen oder für diese Sprache oder Region nicht angeboten)</translation>
     </message>
     <message>
         <source>Neural Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Neural Engine</translation>
     </message>
     <message>
         <source>CPU only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur CPU</translation>
     </message>
     <message>
         <source>Core ML acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Core-ML-Beschleunigung</translation>
     </message>
     <message>
         <source>Neural Engine cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Neural-Engine-Kerne</translation>
     </message>
     <message>
         <source>GPU cores</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU-Kerne</translation>
     </message>
     <message>
         <source>Int8 matrix instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Int8-Matrixbefehle</translation>
     </message>
     <message>
         <source>Found, no driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefunden, kein Treiber</translation>
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Berechtigung</translation>
     </message>
     <message>
         <source>Neural processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuronaler Prozessor</translation>
     </message>
     <message>
         <source>GPU computing</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechnen auf der GPU</translation>
     </message>
     <message>
         <source>Artificial Intelligence</source>
-        <translation type="unfinished"></translation>
+        <translation>Künstliche Intelligenz</translation>
     </message>
     <message>
         <source>Virtual machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtuelle Maschine</translation>
     </message>
     <message>
         <source>SELinux, enforcing</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux, erzwingend</translation>
     </message>
     <message>
         <source>SELinux, permissive</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux, nur meldend</translation>
     </message>
     <message>
         <source>All mitigated</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle entschärft</translation>
     </message>
     <message numerus="yes">
         <source>%n not mitigated</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nicht entschärft</numerusform>
+            <numerusform>%n nicht entschärft</numerusform>
         </translation>
     </message>
     <message>
         <source>Secure boot</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicheres Starten</translation>
     </message>
     <message>
         <source>Disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>Festplattenverschlüsselung</translation>
     </message>
     <message>
         <source>Access control</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriffskontrolle</translation>
     </message>
     <message>
         <source>Processor vulnerabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessor-Schwachstellen</translation>
     </message>
     <message>
         <source>Sealed</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Of the system volume, which is signed.</extracomment>
+        <translation>Versiegelt</translation>
     </message>
     <message>
         <source>Not sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht versiegelt</translation>
     </message>
     <message>
         <source>Broken</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschädigt</translation>
     </message>
     <message>
         <source>Sealed system volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Versiegeltes Systemvolume</translation>
     </message>
     <message>
         <source>No security</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Sicherheit</translation>
     </message>
     <message>
         <source>Medium security</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Sicherheit</translation>
     </message>
     <message>
         <source>Full security</source>
-        <translation type="unfinished"></translation>
+        <translation>Volle Sicherheit</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verbunden</translation>
     </message>
     <message>
         <source>Available, not set up</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar, nicht eingerichtet</translation>
     </message>
     <message>
         <source>Available, locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar, gesperrt</translation>
     </message>
     <message>
         <source>System Integrity Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemintegritätsschutz</translation>
     </message>
     <message>
         <source>Firewall</source>
-        <translation type="unfinished"></translation>
+        <translation>Firewall</translation>
     </message>
     <message>
         <source>Secure Enclave</source>
-        <translation type="unfinished"></translation>
+        <translation>Secure Enclave</translation>
     </message>
     <message>
         <source>Lockdown Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Blockierungsmodus</translation>
     </message>
     <message>
         <source>Hardware</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
+        <translation>Hardware</translation>
     </message>
     <message>
         <source>Not in hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht in Hardware</translation>
     </message>
     <message>
         <source>Software only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Software</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen und Schreiben</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Lesen</translation>
     </message>
     <message>
         <source>H.264 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>H.264-Decodierung</translation>
     </message>
     <message>
         <source>HEVC decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>HEVC-Decodierung</translation>
     </message>
     <message>
         <source>VP9 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>VP9-Decodierung</translation>
     </message>
     <message>
         <source>AV1 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>AV1-Decodierung</translation>
     </message>
     <message>
         <source>ProRes decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ProRes-Decodierung</translation>
     </message>
     <message>
         <source>H.264 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>H.264-Codierung</translation>
     </message>
     <message>
         <source>HEVC encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>HEVC-Codierung</translation>
     </message>
     <message>
         <source>ProRes encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ProRes-Codierung</translation>
     </message>
     <message>
         <source>AV1 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>AV1-Codierung</translation>
     </message>
     <message>
         <source>HEIC images</source>
-        <translation type="unfinished"></translation>
+        <translation>HEIC-Bilder</translation>
     </message>
     <message>
         <source>AVIF images</source>
-        <translation type="unfinished"></translation>
+        <translation>AVIF-Bilder</translation>
     </message>
     <message>
         <source>Not readable (vainfo is not installed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht lesbar (vainfo ist nicht installiert)</translation>
     </message>
     <message>
         <source>Not readable (the GPU is asleep)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht lesbar (die GPU schläft)</translation>
     </message>
     <message>
         <source>Video driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Videotreiber</translation>
     </message>
     <message>
         <source>Media</source>
-        <translation type="unfinished"></translation>
+        <translation>Medien</translation>
     </message>
     <message>
         <source>Cellular</source>
-        <translation type="unfinished"></translation>
+        <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
+        <translation>Mobilfunk</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>Not offered by this network</source>
-        <translation type="unfinished"></translation>
+        <translation>Von diesem Netzwerk nicht angeboten</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar</translation>
     </message>
     <message>
         <source>Metered connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Getaktete Verbindung</translation>
     </message>
     <message>
         <source>Low Data Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Datensparmodus</translation>
     </message>
     <message>
         <source>%1 (self-assigned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (selbst zugewiesen)</translation>
     </message>
     <message>
         <source>Address (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse (%1)</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiv</translation>
     </message>
     <message>
         <source>None detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht erkannt</translation>
     </message>
     <message>
         <source>%1&#xa0;Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Mbit/s</translation>
     </message>
     <message>
         <source>%1, full duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Vollduplex</translation>
     </message>
     <message>
         <source>%1, half duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Halbduplex</translation>
     </message>
     <message>
         <source>Ethernet speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ethernet-Tempo</translation>
     </message>
     <message>
         <source>Ethernet speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ethernet-Tempo %1</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Power adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzteil</translation>
     </message>
     <message>
         <source>Mains power</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzstrom</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>UPS</source>
-        <translation type="unfinished"></translation>
+        <translation>USV</translation>
     </message>
     <message>
         <source>Built in</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Of a battery: it has one.</extracomment>
+        <translation>Eingebaut</translation>
     </message>
     <message>
         <source>%1&#xa0;W</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;W</translation>
     </message>
     <message>
         <source>Balanced</source>
-        <translation type="unfinished"></translation>
+        <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
+        <translation>Ausgewogen</translation>
     </message>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung</translation>
     </message>
     <message>
         <source>Low power</source>
-        <translation type="unfinished"></translation>
+        <translation>Stromsparend</translation>
     </message>
     <message>
         <source>Quiet</source>
-        <translation type="unfinished"></translation>
+        <translation>Leise</translation>
     </message>
     <message>
         <source>Cool</source>
-        <translation type="unfinished"></translation>
+        <translation>Kühl</translation>
     </message>
     <message>
         <source>Low power mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Stromsparmodus</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladelimit</translation>
     </message>
     <message>
         <source>Power profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Energieprofil</translation>
     </message>
     <message>
         <source>Power source</source>
-        <translation type="unfinished"></translation>
+        <translation>Stromquelle</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Energie</translation>
     </message>
     <message>
         <source>SME instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>SME-Befehle</translation>
     </message>
     <message>
         <source>BF16 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>BF16-Befehle</translation>
     </message>
     <message>
         <source>AVX2 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>AVX2-Befehle</translation>
     </message>
     <message>
         <source>AVX-512 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>AVX-512-Befehle</translation>
     </message>
     <message>
         <source>Physical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Physische Kerne</translation>
     </message>
     <message>
         <source>Logical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Logische Kerne</translation>
     </message>
     <message>
         <source>Performance cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Performance-Kerne</translation>
     </message>
     <message>
         <source>Efficiency cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Effizienz-Kerne</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessor</translation>
     </message>
     <message>
         <source>Max frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchsttakt</translation>
     </message>
     <message>
         <source>Memory (RAM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsspeicher (RAM)</translation>
     </message>
     <message>
         <source>Processor &amp; Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessor &amp; Speicher</translation>
     </message>
     <message>
         <source>Not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht lesbar</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheit</translation>
     </message>
     <message>
         <source>%1 (low)</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is the space that is free.</extracomment>
+        <translation>%1 (knapp)</translation>
     </message>
     <message>
         <source>File cloning</source>
-        <translation type="unfinished"></translation>
+        <translation>Klonen von Dateien</translation>
     </message>
     <message>
         <source>Case-sensitive names</source>
-        <translation type="unfinished"></translation>
+        <translation>Groß-/Kleinschreibung in Namen</translation>
     </message>
     <message>
         <source>Start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Startvolume</translation>
     </message>
     <message>
         <source>Capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapazität</translation>
     </message>
     <message>
         <source>Available space</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbarer Platz</translation>
     </message>
     <message>
         <source>File system</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateisystem</translation>
     </message>
     <message>
         <source>SSD</source>
-        <translation type="unfinished"></translation>
+        <translation>SSD</translation>
     </message>
     <message>
         <source>hard disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Festplatte</translation>
     </message>
     <message>
         <source>internal</source>
-        <translation type="unfinished"></translation>
+        <translation>intern</translation>
     </message>
     <message>
         <source>removable</source>
-        <translation type="unfinished"></translation>
+        <translation>wechselbar</translation>
     </message>
     <message>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerk</translation>
     </message>
     <message>
         <source>Disk %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerk %1</translation>
     </message>
     <message>
         <source>Connection (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschluss (Laufwerk %1)</translation>
     </message>
     <message>
         <source>TRIM</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM</translation>
     </message>
     <message>
         <source>TRIM (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM (Laufwerk %1)</translation>
     </message>
     <message>
         <source>read only</source>
-        <translation type="unfinished"></translation>
+        <translation>nur lesbar</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>Volume %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume %1</translation>
     </message>
     <message>
         <source>Volume space</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz auf dem Volume</translation>
     </message>
     <message>
         <source>Volume space (volume %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz auf dem Volume (Volume %1)</translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherplatz</translation>
     </message>
     <message>
         <source>via Rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>über Rosetta</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>Architektur</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>Warm</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Heiß</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Kritisch</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>Device name</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerätename</translation>
     </message>
     <message>
         <source>Model identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell-Identifikation</translation>
     </message>
     <message>
         <source>Operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>Betriebssystem</translation>
     </message>
     <message>
         <source>Uptime</source>
-        <translation type="unfinished"></translation>
+        <translation>Betriebszeit</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperaturzustand</translation>
     </message>
     <message>
         <source>%1&#xa0;%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (good)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (fair)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (weak)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Wi-Fi standard in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzter WLAN-Standard</translation>
     </message>
     <message>
         <source>Wi-Fi band</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Band</translation>
     </message>
     <message>
         <source>%1&#xa0;GHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GHz</translation>
     </message>
     <message>
         <source>Wi-Fi signal</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Signal</translation>
     </message>
     <message>
         <source>Wi-Fi rate</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Rate</translation>
     </message>
     <message>
         <source>unified memory</source>
-        <translation type="unfinished"></translation>
+        <translation>gemeinsamer Speicher</translation>
     </message>
     <message>
         <source>low power</source>
-        <translation type="unfinished"></translation>
+        <translation>stromsparend</translation>
     </message>
     <message>
         <source>external eGPU</source>
-        <translation type="unfinished"></translation>
+        <translation>externe eGPU</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>charge limit</comment>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (good)</source>
+        <translation>−%1&#xa0;dBm (gut)</translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (fair)</source>
+        <translation>−%1&#xa0;dBm (mittel)</translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (weak)</source>
+        <translation>−%1&#xa0;dBm (schwach)</translation>
     </message>
 </context>
 <context>
@@ -1122,426 +1143,429 @@
     <message>
         <source>Same as system (%1)</source>
         <extracomment>A choice among languages; %1 is the name of the system&apos;s.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wie das System (%1)</translation>
     </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>%1&#xa0;KB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;KB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;MB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;GB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;TB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;TB/s</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Swap space that is in use.</extracomment>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>Battery · charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie · wird geladen</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Pressure normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck normal</translation>
     </message>
     <message>
         <source>Pressure elevated</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck erhöht</translation>
     </message>
     <message>
         <source>Pressure critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck kritisch</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>Warm</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Heiß</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Kritisch</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
 </context>
 <context>
     <name>Report</name>
     <message>
         <source>computer name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Computers</translation>
     </message>
     <message>
         <source>addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Adressen</translation>
     </message>
     <message>
         <source>volume names</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der Volumes</translation>
     </message>
     <message>
         <source>Capability score: %1% (%2 of %3 rated capabilities supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fähigkeitswert: %1&#xa0;% (%2 von %3 bewerteten Fähigkeiten unterstützt)</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Arbeitsspeicher</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Speicherplatz</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine passenden Zeilen.</translation>
     </message>
     <message>
         <source>Left out of this report: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Bericht ausgelassen: %1.</translation>
     </message>
     <message>
         <source>Worth a look</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Blick wert</translation>
     </message>
     <message>
         <source>%1 (continued)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Fortsetzung)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 unterstützt</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <extracomment>The title of a report, and the computer’s name.</extracomment>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>This Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Mac</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer</translation>
     </message>
     <message>
         <source>What this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Was dieser Mac wirklich kann</translation>
     </message>
     <message>
         <source>What this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Was dieser Computer wirklich kann</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt mit %1 · Alle Daten wurden auf diesem Mac gelesen</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt mit %1 · Alle Daten wurden auf diesem Computer gelesen</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil der bewerteten Fähigkeiten, die dieser Mac unterstützt</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil der bewerteten Fähigkeiten, die dieser Computer unterstützt</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>Fähigkeitswert</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist bewertet</translation>
     </message>
     <message>
         <source>Quillmark report</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark-Bericht</translation>
     </message>
     <message>
         <source>In this report</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Bericht</translation>
     </message>
     <message>
         <source>p. %1</source>
         <extracomment>The number of a page, in a list of contents.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>S. %1</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 von %2</translation>
     </message>
     <message>
         <source>Capability</source>
-        <translation type="unfinished"></translation>
+        <translation>Fähigkeit</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Inspected on %1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Untersucht am %1 um %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 [%3]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 [%3]</translation>
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands for a name or an address.</extracomment>
+        <translation>Ausgelassen</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Address %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse %1</translation>
     </message>
     <message>
         <source>The report couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bericht konnte nicht gesichert werden.</translation>
     </message>
     <message>
         <source>There is a file with this name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt bereits eine Datei mit diesem Namen.</translation>
     </message>
     <message>
         <source>This is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Ordner.</translation>
     </message>
     <message>
         <source>The folder does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner existiert nicht.</translation>
     </message>
     <message>
         <source>You don’t have permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben keine Berechtigung, dort zu schreiben.</translation>
     </message>
     <message>
         <source>There is not enough free space on “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf „%1“ ist nicht genug Platz frei.</translation>
     </message>
     <message>
         <source>The disk is no longer connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk ist nicht mehr verbunden.</translation>
     </message>
     <message>
         <source>No file can have this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>So kann keine Datei heißen.</translation>
     </message>
     <message>
         <source>The system says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System meldet: %1</translation>
     </message>
 </context>
 <context>
     <name>Terminal</name>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n geändert</numerusform>
+            <numerusform>%n geändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n hinzugefügt</numerusform>
+            <numerusform>%n hinzugefügt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n entfernt</numerusform>
+            <numerusform>%n entfernt</numerusform>
         </translation>
     </message>
     <message>
         <source>First scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Untersuchung</translation>
     </message>
     <message>
         <source>Another computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderer Computer</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Unterschiede</translation>
     </message>
     <message>
         <source>Added</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzugefügt</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt</translation>
     </message>
     <message>
         <source>%1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 → %2</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert</translation>
     </message>
     <message>
         <source>No saved scans yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine gesicherten Untersuchungen</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>„quillmark history record“ untersucht diesen Computer und sichert die erste.</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitpunkt</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Against the scan before</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegenüber der vorigen</translation>
     </message>
     <message>
         <source>Scan of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Untersuchung vom %1</translation>
     </message>
     <message>
         <source>Older</source>
-        <translation type="unfinished"></translation>
+        <translation>Ältere</translation>
     </message>
     <message>
         <source>Newer</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuere</translation>
     </message>
     <message>
         <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beiden Untersuchungen sind in verschiedenen Sprachen, daher werden nur Änderungen des Status gezeigt.</translation>
     </message>
     <message>
         <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide Untersuchungen zeigen dieselben Fähigkeiten. Werte, die sich ständig ändern, wie die Betriebszeit, werden nicht verglichen.</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>Fähigkeitswert</translation>
     </message>
     <message>
         <source>%1 of %2 rated capabilities supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 bewerteten Fähigkeiten unterstützt</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine passenden Zeilen.</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteriezustand</translation>
     </message>
     <message>
         <source>The scan of %1 was removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Untersuchung vom %1 wurde entfernt.</translation>
     </message>
     <message>
         <source>All saved scans were removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle gesicherten Untersuchungen wurden entfernt.</translation>
     </message>
     <message>
         <source>Scan %1 was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Untersuchung %1 wurde gesichert.</translation>
     </message>
     <message>
         <source>Nothing has changed since the scan of %1, so none was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seit der Untersuchung vom %1 hat sich nichts geändert, daher wurde keine gesichert.</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n gesicherte Untersuchung</numerusform>
+            <numerusform>%n gesicherte Untersuchungen</numerusform>
         </translation>
     </message>
     <message>
         <source>y, yes</source>
         <extracomment>What may be typed for yes, as shown in &quot;[y/N]&quot;; separated by commas.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>j, ja</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans will be removed. This can’t be undone. Remove them? [y/N]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n gesicherte Untersuchung wird entfernt. Das lässt sich nicht rückgängig machen. Entfernen? [j/N]</numerusform>
+            <numerusform>%n gesicherte Untersuchungen werden entfernt. Das lässt sich nicht rückgängig machen. Entfernen? [j/N]</numerusform>
         </translation>
     </message>
 </context>
@@ -1549,111 +1573,114 @@
     <name>TerminalMonitor</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished"></translation>
+        <translation>Messwerte werden gesammelt…</translation>
     </message>
     <message>
         <source>q ends</source>
-        <translation type="unfinished"></translation>
+        <translation>q beendet</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Sekunde aktualisiert · letzte 2 Minuten</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Monitor</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessor</translation>
     </message>
     <message numerus="yes">
         <source>%n cores</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Kern</numerusform>
+            <numerusform>%n Kerne</numerusform>
         </translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro Kern</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
+        <translation>von %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsspeicher</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A curve: the memory that is in use.</extracomment>
+        <translation>Benutzt</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
+        <translation>Empfangen</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesendet</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Min.</translation>
     </message>
     <message>
         <source>2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>2 Min.</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperaturzustand</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap benutzt</translation>
     </message>
     <message>
         <source>Processor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessor %1</translation>
     </message>
     <message>
         <source>Memory %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsspeicher %1 von %2</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>A verdict (&quot;Pressure normal&quot;) and its measure.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Swap used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap benutzt %1</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfangen %1</translation>
     </message>
     <message>
         <source>Out %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesendet %1</translation>
     </message>
     <message>
         <source>Thermal state %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperaturzustand %1</translation>
     </message>
 </context>
 </TS>

@@ -132,10 +132,12 @@
     </message>
     <message>
         <source>Internal</source>
+        <extracomment>How a display is connected.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>None</source>
+        <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -219,6 +221,7 @@
     </message>
     <message>
         <source>Full</source>
+        <extracomment>Of a battery.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -235,6 +238,7 @@
     </message>
     <message>
         <source>%1 until full</source>
+        <extracomment>%1 is a duration.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -259,6 +263,7 @@
     </message>
     <message>
         <source>Charge</source>
+        <extracomment>How full the battery is.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -283,6 +288,7 @@
     </message>
     <message>
         <source>Best picture</source>
+        <extracomment>The largest picture that the camera gives.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -307,6 +313,7 @@
     </message>
     <message>
         <source>output</source>
+        <extracomment>A sound card plays; the next: it records.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -331,6 +338,7 @@
     </message>
     <message>
         <source>main</source>
+        <extracomment>Stands behind a display’s name in parentheses.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -355,6 +363,7 @@
     </message>
     <message>
         <source>Fixed</source>
+        <extracomment>Of a display’s refresh rate.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -371,6 +380,7 @@
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
+        <extracomment>A size in inches.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -606,6 +616,7 @@
     </message>
     <message>
         <source>Sealed</source>
+        <extracomment>Of the system volume, which is signed.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -662,6 +673,7 @@
     </message>
     <message>
         <source>Hardware</source>
+        <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -742,6 +754,7 @@
     </message>
     <message>
         <source>Cellular</source>
+        <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -822,6 +835,7 @@
     </message>
     <message>
         <source>Built in</source>
+        <extracomment>Of a battery: it has one.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -830,6 +844,7 @@
     </message>
     <message>
         <source>Balanced</source>
+        <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -934,6 +949,7 @@
     </message>
     <message>
         <source>%1 (low)</source>
+        <extracomment>%1 is the space that is free.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1073,18 +1089,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>−%1ꃛm (good)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (fair)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (weak)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Wi-Fi standard in use</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1114,6 +1118,23 @@
     </message>
     <message>
         <source>external eGPU</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>charge limit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (good)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (fair)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (weak)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1149,6 +1170,7 @@
     </message>
     <message>
         <source>None</source>
+        <extracomment>Swap space that is in use.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1258,6 +1280,7 @@
     </message>
     <message>
         <source>%1 – %2</source>
+        <extracomment>The title of a report, and the computer’s name.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1343,6 +1366,7 @@
     </message>
     <message>
         <source>Left out</source>
+        <extracomment>Stands for a name or an address.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1580,6 +1604,7 @@
     </message>
     <message>
         <source>of %1</source>
+        <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1588,6 +1613,7 @@
     </message>
     <message>
         <source>Used</source>
+        <extracomment>A curve: the memory that is in use.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1596,6 +1622,7 @@
     </message>
     <message>
         <source>In</source>
+        <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -132,10 +132,12 @@
     </message>
     <message>
         <source>Internal</source>
+        <extracomment>How a display is connected.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>None</source>
+        <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -220,6 +222,7 @@
     </message>
     <message>
         <source>Full</source>
+        <extracomment>Of a battery.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -236,6 +239,7 @@
     </message>
     <message>
         <source>%1 until full</source>
+        <extracomment>%1 is a duration.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -260,6 +264,7 @@
     </message>
     <message>
         <source>Charge</source>
+        <extracomment>How full the battery is.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -284,6 +289,7 @@
     </message>
     <message>
         <source>Best picture</source>
+        <extracomment>The largest picture that the camera gives.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -308,6 +314,7 @@
     </message>
     <message>
         <source>output</source>
+        <extracomment>A sound card plays; the next: it records.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -332,6 +339,7 @@
     </message>
     <message>
         <source>main</source>
+        <extracomment>Stands behind a display’s name in parentheses.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -356,6 +364,7 @@
     </message>
     <message>
         <source>Fixed</source>
+        <extracomment>Of a display’s refresh rate.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -372,6 +381,7 @@
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
+        <extracomment>A size in inches.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -608,6 +618,7 @@
     </message>
     <message>
         <source>Sealed</source>
+        <extracomment>Of the system volume, which is signed.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -664,6 +675,7 @@
     </message>
     <message>
         <source>Hardware</source>
+        <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -744,6 +756,7 @@
     </message>
     <message>
         <source>Cellular</source>
+        <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -824,6 +837,7 @@
     </message>
     <message>
         <source>Built in</source>
+        <extracomment>Of a battery: it has one.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -832,6 +846,7 @@
     </message>
     <message>
         <source>Balanced</source>
+        <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -936,6 +951,7 @@
     </message>
     <message>
         <source>%1 (low)</source>
+        <extracomment>%1 is the space that is free.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1075,18 +1091,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>−%1ꃛm (good)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (fair)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>−%1ꃛm (weak)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Wi-Fi standard in use</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1116,6 +1120,23 @@
     </message>
     <message>
         <source>external eGPU</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>charge limit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (good)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (fair)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>−%1&#xa0;dBm (weak)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1151,6 +1172,7 @@
     </message>
     <message>
         <source>None</source>
+        <extracomment>Swap space that is in use.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1262,6 +1284,7 @@
     </message>
     <message>
         <source>%1 – %2</source>
+        <extracomment>The title of a report, and the computer’s name.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1347,6 +1370,7 @@
     </message>
     <message>
         <source>Left out</source>
+        <extracomment>Stands for a name or an address.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1590,6 +1614,7 @@
     </message>
     <message>
         <source>of %1</source>
+        <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1598,6 +1623,7 @@
     </message>
     <message>
         <source>Used</source>
+        <extracomment>A curve: the memory that is in use.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1606,6 +1632,7 @@
     </message>
     <message>
         <source>In</source>
+        <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

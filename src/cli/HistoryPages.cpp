@@ -123,6 +123,8 @@ QString historyPage(const std::vector<StoredSnapshot> &scans, const language::Fo
         return page.text();
     }
     const bool ofOneDevice = areOfOneDevice(scans);
+    //: The heads of a table’s columns, of few characters each: when a scan was made, of which computer, and
+    //: so on.
     QList<TerminalColumn> columns = {{u"#"_s}, {Text::tr("ID"), 2}, {Text::tr("Taken")}};
     if (!ofOneDevice)
         columns += {Text::tr("Computer"), 4};

@@ -264,6 +264,7 @@ void MonitorView::drawMemory(Screen &screen, Area area) const
 {
     const std::array<Words, 2> figures = {
         {{monitor::memoryText(m_model.memoryUsed, m_formats), Role::Strong},
+         //: Stands behind the memory in use; %1 is all that there is.
          {u" "_s + Text::tr("of %1").arg(monitor::memoryText(m_model.memoryTotal, m_formats)), Role::Quiet}}};
     putTitle(screen, area.row, area.column, area.width, Text::tr("Memory"), figures);
 
@@ -276,6 +277,7 @@ void MonitorView::drawMemory(Screen &screen, Area area) const
     const auto concern = monitor::concernOf(verdict);
     const QString space(2, u' ');
     const std::array<Words, 6> all = {
+        //: A curve: the memory that is in use.
         {{Text::tr("Used"), Role::Memory},
          {u" "_s + monitor::percentText(m_model.points.back().memory) + space, Role::Text},
          {Text::tr("Pressure"), Role::Pressure},
@@ -293,6 +295,7 @@ void MonitorView::drawMemory(Screen &screen, Area area) const
 void MonitorView::drawNetwork(Screen &screen, Area area) const
 {
     const auto rate = [this](double value) { return monitor::rateText(value, m_formats); };
+    //: Network traffic that comes in; the next: that goes out.
     const std::array<Words, 4> figures = {{{u"↓ "_s + Text::tr("In"), Role::NetworkIn},
                                            {u" "_s + rate(m_model.networkIn), Role::Text},
                                            {u"  ↑ "_s + Text::tr("Out"), Role::NetworkOut},

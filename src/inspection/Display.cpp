@@ -73,6 +73,7 @@ QString connectionOf(const QString &connector)
 {
     const auto kind = kindOfConnector(connector);
     if (isInternal(kind))
+        //: How a display is connected.
         return Text::tr("Internal");
     if (kind == "DP"_L1)
         return u"DisplayPort"_s;

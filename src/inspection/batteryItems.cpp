@@ -73,6 +73,7 @@ QString chargeStateText(ChargeState state)
     case ChargeState::Charging:
         return Text::tr("Charging");
     case ChargeState::Full:
+        //: Of a battery.
         return Text::tr("Full");
     case ChargeState::NotCharging:
         return Text::tr("Connected, not charging");
@@ -88,6 +89,7 @@ QString timeText(const battery::TimeRemaining &time, const language::Formats &fo
         time.minutes ? formats.uptime(static_cast<double>(*time.minutes) * 60) : std::nullopt;
     if (!duration)
         return Text::tr("Being estimated");
+    //: %1 is a duration.
     return time.untilFull ? Text::tr("%1 until full").arg(*duration) : *duration;
 }
 
@@ -132,6 +134,7 @@ QList<CapabilityItem> batteryItems(const BatteryReading &reading, bool onMac,
     // "Current Capacity" of "Max Capacity"; CAPACITY
     const auto percent = chargePercent(reading);
     items += passing(
+        //: How full the battery is.
         fact(u"charge"_s, Text::tr("Charge"), percent ? percentText(*percent, formats) : notReadable()));
     // "Is Charging", "Is Charged", "Power Source State"; STATUS
     items += passing(fact(u"charging"_s, Text::tr("Charging"),

@@ -73,6 +73,7 @@ CapabilityItem bestPictureItem(const CameraFormat &format, const Numbered &place
 {
     const auto size = sizeText(format.width, format.height);
     return fact(u"camera.%1.bestPicture"_s.arg(place.number),
+                //: The largest picture that the camera gives.
                 place.label(Text::tr("Best picture"), Text::tr("Best picture (camera %1)")),
                 format.maxFrameRate > 0 ? Text::tr("%1, up to %2 frames per second")
                                               .arg(size, shortNumber(format.maxFrameRate, 2, formats))
@@ -145,6 +146,7 @@ QList<CapabilityItem> soundCardItems(const platform::Machine &machine, const lan
             break;
         QStringList tags;
         if (card.playback)
+            //: A sound card plays; the next: it records.
             tags += Text::tr("output");
         if (card.capture)
             tags += Text::tr("input");

@@ -23,6 +23,7 @@ QString nameText(const Display &display, const language::Formats &formats)
     if (display.isBuiltIn)
         tags += Text::tr("built in");
     if (display.isMain)
+        //: Stands behind a display’s name in parentheses.
         tags += Text::tr("main");
     if (display.isMirrored)
         tags += Text::tr("mirrored");
@@ -61,6 +62,7 @@ QString scalingText(const Display &display, const language::Formats &formats)
 QString refreshText(const Display &display, const language::Formats &formats)
 {
     if (!isVariable(display))
+        //: Of a display’s refresh rate.
         return Text::tr("Fixed");
     const auto &[slowest, fastest] = *display.refreshRange;
     const bool isProMotion = display.isBuiltIn && fastest >= slowestProMotion;
@@ -80,6 +82,7 @@ QString screenText(const Display &display, const language::Formats &formats)
 {
     const auto inches = shortNumber(*display.diagonal(), 2, formats);
     if (const auto density = display.pixelsPerInch())
+        //: A size in inches.
         return Text::tr("%1\u00A0in, %2 pixels per inch").arg(inches, formats.number(*density));
     return Text::tr("%1\u00A0in").arg(inches);
 }

@@ -144,6 +144,7 @@ std::optional<Verdict> neuralProcessorVerdict(const platform::Machine &machine,
         return Verdict{listOfDrivers(drivers, formats), CapabilityStatus::Supported};
     if (!accelerators->empty())
         return Verdict{Text::tr("Found, no driver"), CapabilityStatus::Warning};
+    //: Of a processor, a camera, a device: there is none.
     return Verdict{Text::tr("None")};
 }
 

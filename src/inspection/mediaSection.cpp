@@ -24,6 +24,7 @@ using Codes = std::span<const std::string_view>;
 Verdict hardwareVerdict(bool isInHardware)
 {
     if (isInHardware)
+        //: Video is decoded or encoded by a part of the processor made for it.
         return {Text::tr("Hardware"), CapabilityStatus::Supported};
     return {Text::tr("Not in hardware"), CapabilityStatus::Unsupported};
 }

@@ -29,6 +29,7 @@ QString connectionName(const NetworkPath &path)
         return u"Wi-Fi"_s;
     if (uses(InterfaceType::Wired))
         return u"Ethernet"_s;
+    //: How the computer is connected: by a mobile network, or in another way.
     return uses(InterfaceType::Cellular) ? Text::tr("Cellular") : Text::tr("Other");
 }
 

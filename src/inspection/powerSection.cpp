@@ -70,6 +70,7 @@ std::optional<Verdict> batteryVerdict(bool hasBattery, bool areSourcesKnown)
 {
     // The first power source of type "InternalBattery"; the first supply of type Battery
     if (hasBattery)
+        //: Of a battery: it has one.
         return Verdict{Text::tr("Built in"), CapabilityStatus::Supported};
     return areSourcesKnown ? std::optional(Verdict{Text::tr("None (desktop)")}) : std::nullopt;
 }
@@ -92,6 +93,7 @@ std::optional<QString> adapterText(const PowerSettings &settings, const language
 QString profileText(const std::string &word)
 {
     if (word == "balanced")
+        //: This and the next four are power profiles of the firmware: of the fans, noise and heat.
         return Text::tr("Balanced");
     if (word == "performance")
         return Text::tr("Performance");
@@ -119,7 +121,7 @@ QList<CapabilityItem> settingItems(const platform::Machine &machine, bool onMac,
     if (reading && reading->chargeLimit) {
         const auto limit = static_cast<int>(*reading->chargeLimit);
         items += fact(u"chargeLimit"_s, Text::tr("Charge limit"),
-                      limit == 100 ? Text::tr("None") : percentText(limit, formats));
+                      limit == 100 ? Text::tr("None", "charge limit") : percentText(limit, formats));
     }
     // /sys/firmware/acpi/platform_profile
     if (settings.platformProfile)

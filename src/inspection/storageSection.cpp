@@ -54,6 +54,7 @@ std::optional<Verdict> availableSpaceVerdict(const std::optional<StartupVolume> 
         return std::nullopt;
     const auto size = fileSize(capacity.available, formats);
     if (isLow(capacity.available, capacity.total))
+        //: %1 is the space that is free.
         return Verdict{Text::tr("%1 (low)").arg(size), CapabilityStatus::Warning};
     return Verdict{size, CapabilityStatus::Supported};
 }

@@ -54,10 +54,18 @@ Verdict signalVerdict(int decibels, const language::Formats &formats)
     constexpr int leastFair = -75;
     const auto magnitude = wholeNumber(-std::int64_t{decibels}, formats);
     if (decibels >= leastGood)
-        return {Text::tr("−%1\u00a0dBm (good)").arg(magnitude), CapabilityStatus::Supported};
+        return {Text::tr("−%1\u00a0"
+                         "dBm (good)")
+                    .arg(magnitude),
+                CapabilityStatus::Supported};
     if (decibels >= leastFair)
-        return {Text::tr("−%1\u00a0dBm (fair)").arg(magnitude)};
-    return {Text::tr("−%1\u00a0dBm (weak)").arg(magnitude), CapabilityStatus::Warning};
+        return {Text::tr("−%1\u00a0"
+                         "dBm (fair)")
+                    .arg(magnitude)};
+    return {Text::tr("−%1\u00a0"
+                     "dBm (weak)")
+                .arg(magnitude),
+            CapabilityStatus::Warning};
 }
 
 /// The Wi-Fi connection of the moment; nothing where there is none.

@@ -61,6 +61,7 @@ QString memoryText(std::int64_t bytes, const language::Formats &formats)
 
 QString swapText(std::int64_t bytes, const language::Formats &formats)
 {
+    //: Swap space that is in use.
     return bytes == 0 ? Text::tr("None") : memoryText(bytes, formats);
 }
 

@@ -113,6 +113,7 @@ void describeMachine(ReportDocument &document, const Report &report)
     document.machine = singleLine(report.summary.deviceName).trimmed();
     document.fileTitle = document.name;
     if (!document.machine.isEmpty())
+        //: The title of a report, and the computer’s name.
         document.fileTitle = Text::tr("%1 – %2").arg(document.name, document.machine);
     else
         document.machine = ofMac ? Text::tr("This Mac") : Text::tr("This computer");

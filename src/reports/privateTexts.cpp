@@ -113,6 +113,7 @@ private:
     void leaveOut(const CapabilitySection &section, CapabilityItem &item, const QString &name,
                   bool isOnlyAddress)
     {
+        //: Stands for a name or an address.
         const auto replacement = Text::tr("Left out");
         if (isRow(addressRow, section, item)) {
             // The interface's name may be a hardware address, or that of somebody's network.
