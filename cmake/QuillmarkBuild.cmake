@@ -35,6 +35,10 @@ else()
     target_link_options(quillmark_options INTERFACE -Wl,--as-needed -Wl,-O1 -Wl,--gc-sections)
 endif()
 
+# As Debian hardens its own packages. Binding every symbol at the start would cost an inspection 1 to 3 % more.
+target_compile_options(quillmark_options INTERFACE
+    $<$<CONFIG:Release>:-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+
 if(QUILLMARK_SANITIZERS)
     target_compile_options(quillmark_options INTERFACE
         -fsanitize=${QUILLMARK_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)

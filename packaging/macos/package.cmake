@@ -1,0 +1,22 @@
+# SPDX-FileCopyrightText: 2026 Quillmark contributors
+# SPDX-License-Identifier: MIT
+
+# The disk image: cpack, after a build of the release preset. What is in the bundle then needs no Qt of the machine's.
+
+set(modules "")
+foreach(module IN ITEMS quillmark_app_module quillmark_pdf_module quillmark_update_module)
+    if(TARGET ${module})
+        list(APPEND modules "Quillmark.app/Contents/PlugIns/$<TARGET_FILE_NAME:${module}>")
+    endif()
+endforeach()
+file(GENERATE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/bundleQt.cmake" CONTENT "
+include(\"${QT_DEPLOY_SUPPORT}\")
+qt_deploy_runtime_dependencies(EXECUTABLE Quillmark.app ADDITIONAL_MODULES ${modules} NO_APP_STORE_COMPLIANCE)
+# Moving libraries into the bundle breaks the signatures that Apple silicon asks for.
+execute_process(COMMAND codesign --force --deep --sign - \"\${QT_DEPLOY_PREFIX}/Quillmark.app\"
+    COMMAND_ERROR_IS_FATAL ANY)
+")
+install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/bundleQt.cmake")
+
+set(CPACK_GENERATOR DragNDrop)
+set(CPACK_DMG_VOLUME_NAME Quillmark)
