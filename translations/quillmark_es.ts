@@ -5,1137 +5,1137 @@
     <name>Battery</name>
     <message>
         <source>Not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>No indicado</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducida</translation>
     </message>
     <message>
         <source>Worn</source>
-        <translation type="unfinished"></translation>
+        <translation>Desgastada</translation>
     </message>
     <message>
         <source>Cold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fría</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Caliente</translation>
     </message>
     <message>
         <source>Service recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>Se recomienda revisión</translation>
     </message>
     <message>
         <source>Permanent failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Fallo permanente</translation>
     </message>
     <message>
         <source>This battery needs attention.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta batería necesita atención.</translation>
     </message>
     <message>
         <source>This battery does not tell how much it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta batería no indica cuánta carga admite.</translation>
     </message>
     <message>
         <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta batería está en buen estado. Admite casi tanta carga como cuando era nueva.</translation>
     </message>
     <message>
         <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta batería admite menos carga que antes. Sigue funcionando bien, pero dura bastante menos.</translation>
     </message>
     <message>
         <source>This battery is worn. Consider having it replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta batería está desgastada. Plantéate cambiarla.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha alcanzado los ciclos para los que fue diseñada.</translation>
     </message>
     <message>
         <source>It is hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Está caliente.</translation>
     </message>
     <message>
         <source>%1 of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de la capacidad de diseño</translation>
     </message>
     <message>
         <source>macOS reports %1</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS indica %1</translation>
     </message>
     <message>
         <source>macOS smooths its figure and keeps a reserve, so the two can differ by a few points.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS suaviza su cifra y guarda una reserva, así que ambas pueden diferir en unos puntos.</translation>
     </message>
     <message>
         <source>This Mac has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Este Mac no tiene batería</translation>
     </message>
     <message>
         <source>This computer has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ordenador no tiene batería</translation>
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>El estado de la batería se muestra en los Mac portátiles. Todo lo demás en Quillmark funciona como siempre.</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>El estado de la batería se muestra en los ordenadores portátiles. Todo lo demás en Quillmark funciona como siempre.</translation>
     </message>
 </context>
 <context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Compatible</translation>
     </message>
     <message>
         <source>Not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>No compatible</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
     <message>
         <source>Not requested yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin solicitar</translation>
     </message>
     <message>
         <source>Restricted</source>
-        <translation type="unfinished"></translation>
+        <translation>Restringido</translation>
     </message>
     <message>
         <source>Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Denegado</translation>
     </message>
     <message>
         <source>Allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitido</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconocido</translation>
     </message>
     <message>
         <source>Internal</source>
         <extracomment>How a display is connected.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Interna</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>None (desktop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna (sobremesa)</translation>
     </message>
     <message>
         <source>Bluetooth device</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo Bluetooth</translation>
     </message>
     <message>
         <source>AirPlay device</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo AirPlay</translation>
     </message>
     <message>
         <source>iPhone or iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone o iPad</translation>
     </message>
     <message>
         <source>%1&#xa0;kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;kHz</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n channels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n canal</numerusform>
+            <numerusform>%1, %n canales</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 (call quality: a microphone is in use)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (calidad de llamada: hay un micrófono en uso)</translation>
     </message>
     <message>
         <source>Built-in speakers</source>
-        <translation type="unfinished"></translation>
+        <translation>Altavoces integrados</translation>
     </message>
     <message>
         <source>Built-in microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>Micrófono integrado</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida de sonido</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de salida</translation>
     </message>
     <message>
         <source>Highest output rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia máx. de salida</translation>
     </message>
     <message>
         <source>Sound input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada de sonido</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;de %2&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;de %2&#xa0;mAh</translation>
     </message>
     <message>
         <source>−%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;°C</translation>
     </message>
     <message>
         <source>%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;°C</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando</translation>
     </message>
     <message>
         <source>Full</source>
         <extracomment>Of a battery.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Completa</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectada, sin cargar</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Con batería</translation>
     </message>
     <message>
         <source>Being estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculando</translation>
     </message>
     <message>
         <source>%1 until full</source>
         <extracomment>%1 is a duration.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 hasta la carga completa</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salud de la batería</translation>
     </message>
     <message>
         <source>Battery condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de la batería</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de ciclos</translation>
     </message>
     <message>
         <source>Battery capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad de la batería</translation>
     </message>
     <message>
         <source>Battery temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura de la batería</translation>
     </message>
     <message>
         <source>Charge</source>
         <extracomment>How full the battery is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Carga</translation>
     </message>
     <message>
         <source>Time remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo restante</translation>
     </message>
     <message>
         <source>built in</source>
-        <translation type="unfinished"></translation>
+        <translation>integrada</translation>
     </message>
     <message>
         <source>external</source>
-        <translation type="unfinished"></translation>
+        <translation>externa</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara %1</translation>
     </message>
     <message>
         <source>Best picture</source>
         <extracomment>The largest picture that the camera gives.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mejor imagen</translation>
     </message>
     <message>
         <source>Best picture (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mejor imagen (cámara %1)</translation>
     </message>
     <message>
         <source>%1, up to %2 frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, hasta %2 fotogramas por segundo</translation>
     </message>
     <message>
         <source>Center Stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Encuadre centrado</translation>
     </message>
     <message>
         <source>Center Stage (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Encuadre centrado (cámara %1)</translation>
     </message>
     <message>
         <source>Sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjeta de sonido</translation>
     </message>
     <message>
         <source>output</source>
         <extracomment>A sound card plays; the next: it records.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>salida</translation>
     </message>
     <message>
         <source>input</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada</translation>
     </message>
     <message>
         <source>Sound card %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjeta de sonido %1</translation>
     </message>
     <message>
         <source>Camera access</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso a la cámara</translation>
     </message>
     <message>
         <source>Microphone access</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso al micrófono</translation>
     </message>
     <message>
         <source>Camera &amp; Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara y audio</translation>
     </message>
     <message>
         <source>main</source>
         <extracomment>Stands behind a display’s name in parentheses.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>principal</translation>
     </message>
     <message>
         <source>mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>duplicada</translation>
     </message>
     <message>
         <source>%1, up to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, hasta %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1, %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>%1 (looks like %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (se ve como %2)</translation>
     </message>
     <message>
         <source>Fixed</source>
         <extracomment>Of a display’s refresh rate.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fija</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz (ProMotion)</source>
-        <translation type="unfinished"></translation>
+        <translation>De %1&#xa0;a %2&#xa0;Hz (ProMotion)</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>De %1&#xa0;a %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>Up to %1×</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasta %1×</translation>
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
         <extracomment>A size in inches.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 pulgadas, %2 píxeles por pulgada</translation>
     </message>
     <message>
         <source>%1&#xa0;in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pulgadas</translation>
     </message>
     <message>
         <source>Variable refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia de actualización variable</translation>
     </message>
     <message>
         <source>Variable refresh rate (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia de actualización variable (pantalla %1)</translation>
     </message>
     <message>
         <source>Extended dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Rango dinámico extendido</translation>
     </message>
     <message>
         <source>Extended dynamic range (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rango dinámico extendido (pantalla %1)</translation>
     </message>
     <message>
         <source>Wide color</source>
-        <translation type="unfinished"></translation>
+        <translation>Gama amplia de colores</translation>
     </message>
     <message>
         <source>Wide color (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gama amplia de colores (pantalla %1)</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla</translation>
     </message>
     <message>
         <source>Display %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla %1</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución</translation>
     </message>
     <message>
         <source>Resolution (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución (pantalla %1)</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala</translation>
     </message>
     <message>
         <source>Scaling (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala (pantalla %1)</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Size (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño (pantalla %1)</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión</translation>
     </message>
     <message>
         <source>Connection (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión (pantalla %1)</translation>
     </message>
     <message>
         <source>Displays connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantallas conectadas</translation>
     </message>
     <message>
         <source>Displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantallas</translation>
     </message>
     <message>
         <source>GPU</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU</translation>
     </message>
     <message>
         <source>GPU %1</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU %1</translation>
     </message>
     <message>
         <source>Requires macOS 26</source>
-        <translation type="unfinished"></translation>
+        <translation>Requiere macOS 26</translation>
     </message>
     <message>
         <source>Recommended GPU memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria recomendada de la GPU</translation>
     </message>
     <message>
         <source>Apple GPU family</source>
-        <translation type="unfinished"></translation>
+        <translation>Familia de GPU de Apple</translation>
     </message>
     <message>
         <source>Ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazado de rayos</translation>
     </message>
     <message>
         <source>Hardware ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazado de rayos por hardware</translation>
     </message>
     <message>
         <source>Graphics &amp; Metal</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos y Metal</translation>
     </message>
     <message>
         <source>On, encrypting</source>
-        <translation type="unfinished"></translation>
+        <translation>Activado, cifrando</translation>
     </message>
     <message>
         <source>Turning off</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivándose</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Activado</translation>
     </message>
     <message>
         <source>Off (the disk is still encrypted by hardware)</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivado (el disco sigue cifrado por hardware)</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivado</translation>
     </message>
     <message>
         <source>Partly on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activado en parte</translation>
     </message>
     <message>
         <source>On, blocks all incoming connections</source>
-        <translation type="unfinished"></translation>
+        <translation>Activado, bloquea todas las conexiones entrantes</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible</translation>
     </message>
     <message>
         <source>Turned off in System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivado en Ajustes del Sistema</translation>
     </message>
     <message>
         <source>Not ready (downloading, or not offered for this language or region)</source>
-        <translation type="unfinished"></translation>
+        <translation>No está listo (descargándose, o no se ofrece para este idioma o región)</translation>
     </message>
     <message>
         <source>Neural Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Neural Engine</translation>
     </message>
     <message>
         <source>CPU only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo CPU</translation>
     </message>
     <message>
         <source>Core ML acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración de Core ML</translation>
     </message>
     <message>
         <source>Neural Engine cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos de Neural Engine</translation>
     </message>
     <message>
         <source>GPU cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos de GPU</translation>
     </message>
     <message>
         <source>Int8 matrix instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Instrucciones de matrices Int8</translation>
     </message>
     <message>
         <source>Found, no driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrado, sin controlador</translation>
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin permiso</translation>
     </message>
     <message>
         <source>Neural processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Procesador neuronal</translation>
     </message>
     <message>
         <source>GPU computing</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo en la GPU</translation>
     </message>
     <message>
         <source>Artificial Intelligence</source>
-        <translation type="unfinished"></translation>
+        <translation>Inteligencia artificial</translation>
     </message>
     <message>
         <source>Virtual machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Máquina virtual</translation>
     </message>
     <message>
         <source>SELinux, enforcing</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux, obligatorio</translation>
     </message>
     <message>
         <source>SELinux, permissive</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux, permisivo</translation>
     </message>
     <message>
         <source>All mitigated</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas mitigadas</translation>
     </message>
     <message numerus="yes">
         <source>%n not mitigated</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sin mitigar</numerusform>
+            <numerusform>%n sin mitigar</numerusform>
         </translation>
     </message>
     <message>
         <source>Secure boot</source>
-        <translation type="unfinished"></translation>
+        <translation>Arranque seguro</translation>
     </message>
     <message>
         <source>Disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifrado del disco</translation>
     </message>
     <message>
         <source>Access control</source>
-        <translation type="unfinished"></translation>
+        <translation>Control de acceso</translation>
     </message>
     <message>
         <source>Processor vulnerabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Vulnerabilidades del procesador</translation>
     </message>
     <message>
         <source>Sealed</source>
         <extracomment>Of the system volume, which is signed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sellado</translation>
     </message>
     <message>
         <source>Not sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin sellar</translation>
     </message>
     <message>
         <source>Broken</source>
-        <translation type="unfinished"></translation>
+        <translation>Roto</translation>
     </message>
     <message>
         <source>Sealed system volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen de sistema sellado</translation>
     </message>
     <message>
         <source>No security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin seguridad</translation>
     </message>
     <message>
         <source>Medium security</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguridad media</translation>
     </message>
     <message>
         <source>Full security</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguridad total</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>No conectado</translation>
     </message>
     <message>
         <source>Available, not set up</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible, sin configurar</translation>
     </message>
     <message>
         <source>Available, locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible, bloqueado</translation>
     </message>
     <message>
         <source>System Integrity Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Protección de la integridad del sistema</translation>
     </message>
     <message>
         <source>Firewall</source>
-        <translation type="unfinished"></translation>
+        <translation>Firewall</translation>
     </message>
     <message>
         <source>Secure Enclave</source>
-        <translation type="unfinished"></translation>
+        <translation>Secure Enclave</translation>
     </message>
     <message>
         <source>Lockdown Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de aislamiento</translation>
     </message>
     <message>
         <source>Hardware</source>
         <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hardware</translation>
     </message>
     <message>
         <source>Not in hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>No por hardware</translation>
     </message>
     <message>
         <source>Software only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo por software</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>Lectura y escritura</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo lectura</translation>
     </message>
     <message>
         <source>H.264 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Descodificación H.264</translation>
     </message>
     <message>
         <source>HEVC decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Descodificación HEVC</translation>
     </message>
     <message>
         <source>VP9 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Descodificación VP9</translation>
     </message>
     <message>
         <source>AV1 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Descodificación AV1</translation>
     </message>
     <message>
         <source>ProRes decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Descodificación ProRes</translation>
     </message>
     <message>
         <source>H.264 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codificación H.264</translation>
     </message>
     <message>
         <source>HEVC encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codificación HEVC</translation>
     </message>
     <message>
         <source>ProRes encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codificación ProRes</translation>
     </message>
     <message>
         <source>AV1 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codificación AV1</translation>
     </message>
     <message>
         <source>HEIC images</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes HEIC</translation>
     </message>
     <message>
         <source>AVIF images</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes AVIF</translation>
     </message>
     <message>
         <source>Not readable (vainfo is not installed)</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer (vainfo no está instalado)</translation>
     </message>
     <message>
         <source>Not readable (the GPU is asleep)</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer (la GPU está en reposo)</translation>
     </message>
     <message>
         <source>Video driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlador de vídeo</translation>
     </message>
     <message>
         <source>Media</source>
-        <translation type="unfinished"></translation>
+        <translation>Multimedia</translation>
     </message>
     <message>
         <source>Cellular</source>
         <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Red móvil</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra</translation>
     </message>
     <message>
         <source>Not offered by this network</source>
-        <translation type="unfinished"></translation>
+        <translation>No la ofrece esta red</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>No disponible</translation>
     </message>
     <message>
         <source>Metered connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión de uso medido</translation>
     </message>
     <message>
         <source>Low Data Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de datos reducidos</translation>
     </message>
     <message>
         <source>%1 (self-assigned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (autoasignada)</translation>
     </message>
     <message>
         <source>Address (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección (%1)</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Activa</translation>
     </message>
     <message>
         <source>None detected</source>
-        <translation type="unfinished"></translation>
+        <translation>No se detecta ninguna</translation>
     </message>
     <message>
         <source>%1&#xa0;Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Mbit/s</translation>
     </message>
     <message>
         <source>%1, full duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, dúplex completo</translation>
     </message>
     <message>
         <source>%1, half duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, semidúplex</translation>
     </message>
     <message>
         <source>Ethernet speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de Ethernet</translation>
     </message>
     <message>
         <source>Ethernet speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de Ethernet %1</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Power adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Adaptador de corriente</translation>
     </message>
     <message>
         <source>Mains power</source>
-        <translation type="unfinished"></translation>
+        <translation>Red eléctrica</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería</translation>
     </message>
     <message>
         <source>UPS</source>
-        <translation type="unfinished"></translation>
+        <translation>SAI</translation>
     </message>
     <message>
         <source>Built in</source>
         <extracomment>Of a battery: it has one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Integrada</translation>
     </message>
     <message>
         <source>%1&#xa0;W</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;W</translation>
     </message>
     <message>
         <source>Balanced</source>
         <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Equilibrado</translation>
     </message>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendimiento</translation>
     </message>
     <message>
         <source>Low power</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajo consumo</translation>
     </message>
     <message>
         <source>Quiet</source>
-        <translation type="unfinished"></translation>
+        <translation>Silencioso</translation>
     </message>
     <message>
         <source>Cool</source>
-        <translation type="unfinished"></translation>
+        <translation>Refrigeración</translation>
     </message>
     <message>
         <source>Low power mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de bajo consumo</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Límite de carga</translation>
     </message>
     <message>
         <source>Power profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfil de energía</translation>
     </message>
     <message>
         <source>Power source</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente de alimentación</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Energía</translation>
     </message>
     <message>
         <source>SME instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Instrucciones SME</translation>
     </message>
     <message>
         <source>BF16 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Instrucciones BF16</translation>
     </message>
     <message>
         <source>AVX2 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Instrucciones AVX2</translation>
     </message>
     <message>
         <source>AVX-512 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Instrucciones AVX-512</translation>
     </message>
     <message>
         <source>Physical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos físicos</translation>
     </message>
     <message>
         <source>Logical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos lógicos</translation>
     </message>
     <message>
         <source>Performance cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos de rendimiento</translation>
     </message>
     <message>
         <source>Efficiency cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos de eficiencia</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Procesador</translation>
     </message>
     <message>
         <source>Max frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia máxima</translation>
     </message>
     <message>
         <source>Memory (RAM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria (RAM)</translation>
     </message>
     <message>
         <source>Processor &amp; Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Procesador y memoria</translation>
     </message>
     <message>
         <source>Not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguridad</translation>
     </message>
     <message>
         <source>%1 (low)</source>
         <extracomment>%1 is the space that is free.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (poco)</translation>
     </message>
     <message>
         <source>File cloning</source>
-        <translation type="unfinished"></translation>
+        <translation>Clonación de archivos</translation>
     </message>
     <message>
         <source>Case-sensitive names</source>
-        <translation type="unfinished"></translation>
+        <translation>Distingue mayúsculas</translation>
     </message>
     <message>
         <source>Start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen de arranque</translation>
     </message>
     <message>
         <source>Capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad</translation>
     </message>
     <message>
         <source>Available space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio disponible</translation>
     </message>
     <message>
         <source>File system</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema de archivos</translation>
     </message>
     <message>
         <source>SSD</source>
-        <translation type="unfinished"></translation>
+        <translation>SSD</translation>
     </message>
     <message>
         <source>hard disk</source>
-        <translation type="unfinished"></translation>
+        <translation>disco duro</translation>
     </message>
     <message>
         <source>internal</source>
-        <translation type="unfinished"></translation>
+        <translation>interno</translation>
     </message>
     <message>
         <source>removable</source>
-        <translation type="unfinished"></translation>
+        <translation>extraíble</translation>
     </message>
     <message>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco</translation>
     </message>
     <message>
         <source>Disk %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco %1</translation>
     </message>
     <message>
         <source>Connection (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión (disco %1)</translation>
     </message>
     <message>
         <source>TRIM</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM</translation>
     </message>
     <message>
         <source>TRIM (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM (disco %1)</translation>
     </message>
     <message>
         <source>read only</source>
-        <translation type="unfinished"></translation>
+        <translation>solo lectura</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen</translation>
     </message>
     <message>
         <source>Volume %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen %1</translation>
     </message>
     <message>
         <source>Volume space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio del volumen</translation>
     </message>
     <message>
         <source>Volume space (volume %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio del volumen (volumen %1)</translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>Almacenamiento</translation>
     </message>
     <message>
         <source>via Rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>mediante Rosetta</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquitectura</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>Templado</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Caliente</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Crítico</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Device name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del dispositivo</translation>
     </message>
     <message>
         <source>Model identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador del modelo</translation>
     </message>
     <message>
         <source>Operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema operativo</translation>
     </message>
     <message>
         <source>Uptime</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo encendido</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado térmico</translation>
     </message>
     <message>
         <source>%1&#xa0;%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Wi-Fi standard in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Estándar Wi-Fi en uso</translation>
     </message>
     <message>
         <source>Wi-Fi band</source>
-        <translation type="unfinished"></translation>
+        <translation>Banda Wi-Fi</translation>
     </message>
     <message>
         <source>%1&#xa0;GHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GHz</translation>
     </message>
     <message>
         <source>Wi-Fi signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Señal Wi-Fi</translation>
     </message>
     <message>
         <source>Wi-Fi rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad Wi-Fi</translation>
     </message>
     <message>
         <source>unified memory</source>
-        <translation type="unfinished"></translation>
+        <translation>memoria unificada</translation>
     </message>
     <message>
         <source>low power</source>
-        <translation type="unfinished"></translation>
+        <translation>bajo consumo</translation>
     </message>
     <message>
         <source>external eGPU</source>
-        <translation type="unfinished"></translation>
+        <translation>eGPU externa</translation>
     </message>
     <message>
         <source>None</source>
         <comment>charge limit</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (good)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (buena)</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (fair)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (aceptable)</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (weak)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (débil)</translation>
     </message>
 </context>
 <context>
@@ -1143,429 +1143,429 @@
     <message>
         <source>Same as system (%1)</source>
         <extracomment>A choice among languages; %1 is the name of the system&apos;s.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Igual que el sistema (%1)</translation>
     </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>%1&#xa0;KB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;kB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;MB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;GB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;TB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;TB/s</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Swap space that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Battery · charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería · cargando</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería</translation>
     </message>
     <message>
         <source>Pressure normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Presión normal</translation>
     </message>
     <message>
         <source>Pressure elevated</source>
-        <translation type="unfinished"></translation>
+        <translation>Presión elevada</translation>
     </message>
     <message>
         <source>Pressure critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Presión crítica</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>Templado</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Caliente</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Crítico</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconocido</translation>
     </message>
 </context>
 <context>
     <name>Report</name>
     <message>
         <source>computer name</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del ordenador</translation>
     </message>
     <message>
         <source>addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>las direcciones</translation>
     </message>
     <message>
         <source>volume names</source>
-        <translation type="unfinished"></translation>
+        <translation>los nombres de los volúmenes</translation>
     </message>
     <message>
         <source>Capability score: %1% (%2 of %3 rated capabilities supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación de capacidades: %1 % (%2 de %3 capacidades valoradas, compatibles)</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de memoria</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de almacenamiento</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila coincide.</translation>
     </message>
     <message>
         <source>Left out of this report: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha omitido en este informe: %1.</translation>
     </message>
     <message>
         <source>Worth a look</source>
-        <translation type="unfinished"></translation>
+        <translation>Merece un vistazo</translation>
     </message>
     <message>
         <source>%1 (continued)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (continuación)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 compatibles</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <extracomment>The title of a report, and the computer’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>This Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Este Mac</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ordenador</translation>
     </message>
     <message>
         <source>What this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que este Mac puede hacer de verdad</translation>
     </message>
     <message>
         <source>What this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que este ordenador puede hacer de verdad</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Hecho con %1 · Todos los datos se han leído en este Mac</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Hecho con %1 · Todos los datos se han leído en este ordenador</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de las capacidades valoradas que este Mac admite</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de las capacidades valoradas que este ordenador admite</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación de capacidades</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada valorado</translation>
     </message>
     <message>
         <source>Quillmark report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de Quillmark</translation>
     </message>
     <message>
         <source>In this report</source>
-        <translation type="unfinished"></translation>
+        <translation>En este informe</translation>
     </message>
     <message>
         <source>p. %1</source>
         <extracomment>The number of a page, in a list of contents.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>pág. %1</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1 de %2</translation>
     </message>
     <message>
         <source>Capability</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Inspected on %1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspeccionado el %1 a las %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 [%3]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 [%3]</translation>
     </message>
     <message>
         <source>Left out</source>
         <extracomment>Stands for a name or an address.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Omitido</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección</translation>
     </message>
     <message>
         <source>Address %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección %1</translation>
     </message>
     <message>
         <source>The report couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido guardar el informe.</translation>
     </message>
     <message>
         <source>There is a file with this name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un archivo con este nombre.</translation>
     </message>
     <message>
         <source>This is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es una carpeta.</translation>
     </message>
     <message>
         <source>The folder does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta no existe.</translation>
     </message>
     <message>
         <source>You don’t have permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tienes permiso para escribir ahí.</translation>
     </message>
     <message>
         <source>There is not enough free space on “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay suficiente espacio libre en “%1”.</translation>
     </message>
     <message>
         <source>The disk is no longer connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco ya no está conectado.</translation>
     </message>
     <message>
         <source>No file can have this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún archivo puede llamarse así.</translation>
     </message>
     <message>
         <source>The system says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema indica: %1</translation>
     </message>
 </context>
 <context>
     <name>Terminal</name>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cambiada</numerusform>
+            <numerusform>%n cambiadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n añadida</numerusform>
+            <numerusform>%n añadidas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n eliminada</numerusform>
+            <numerusform>%n eliminadas</numerusform>
         </translation>
     </message>
     <message>
         <source>First scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer análisis</translation>
     </message>
     <message>
         <source>Another computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro ordenador</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin diferencias</translation>
     </message>
     <message>
         <source>Added</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadida</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminada</translation>
     </message>
     <message>
         <source>%1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 → %2</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiada</translation>
     </message>
     <message>
         <source>No saved scans yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay análisis guardados</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>“quillmark history record” inspecciona este ordenador y guarda el primero.</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenador</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación</translation>
     </message>
     <message>
         <source>Against the scan before</source>
-        <translation type="unfinished"></translation>
+        <translation>Frente al anterior</translation>
     </message>
     <message>
         <source>Scan of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis del %1</translation>
     </message>
     <message>
         <source>Older</source>
-        <translation type="unfinished"></translation>
+        <translation>Anterior</translation>
     </message>
     <message>
         <source>Newer</source>
-        <translation type="unfinished"></translation>
+        <translation>Posterior</translation>
     </message>
     <message>
         <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los dos análisis están en idiomas distintos, así que solo se muestran los cambios de estado.</translation>
     </message>
     <message>
         <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambos análisis muestran las mismas capacidades. Los valores que cambian todo el tiempo, como el tiempo encendido, no se comparan.</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación de capacidades</translation>
     </message>
     <message>
         <source>%1 of %2 rated capabilities supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 capacidades valoradas, compatibles</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila coincide.</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salud de la batería</translation>
     </message>
     <message>
         <source>The scan of %1 was removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha eliminado el análisis del %1.</translation>
     </message>
     <message>
         <source>All saved scans were removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han eliminado todos los análisis guardados.</translation>
     </message>
     <message>
         <source>Scan %1 was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha guardado el análisis %1.</translation>
     </message>
     <message>
         <source>Nothing has changed since the scan of %1, so none was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada ha cambiado desde el análisis del %1, así que no se ha guardado ninguno.</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n análisis guardado</numerusform>
+            <numerusform>%n análisis guardados</numerusform>
         </translation>
     </message>
     <message>
         <source>y, yes</source>
         <extracomment>What may be typed for yes, as shown in &quot;[y/N]&quot;; separated by commas.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>s, sí, si</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans will be removed. This can’t be undone. Remove them? [y/N]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se eliminará %n análisis guardado. No se puede deshacer. ¿Eliminarlo? [s/N]</numerusform>
+            <numerusform>Se eliminarán %n análisis guardados. No se puede deshacer. ¿Eliminarlos? [s/N]</numerusform>
         </translation>
     </message>
 </context>
@@ -1573,114 +1573,114 @@
     <name>TerminalMonitor</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recopilando muestras…</translation>
     </message>
     <message>
         <source>q ends</source>
-        <translation type="unfinished"></translation>
+        <translation>q para salir</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizado cada segundo · últimos 2 minutos</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor en directo</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Procesador</translation>
     </message>
     <message numerus="yes">
         <source>%n cores</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n núcleo</numerusform>
+            <numerusform>%n núcleos</numerusform>
         </translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished"></translation>
+        <translation>Por núcleo</translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>de %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>Used</source>
         <extracomment>A curve: the memory that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>En uso</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Presión</translation>
     </message>
     <message>
         <source>In</source>
         <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Entrada</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado térmico</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap en uso</translation>
     </message>
     <message>
         <source>Processor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Procesador %1</translation>
     </message>
     <message>
         <source>Memory %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria %1 de %2</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>A verdict (&quot;Pressure normal&quot;) and its measure.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Swap used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap en uso %1</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada %1</translation>
     </message>
     <message>
         <source>Out %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida %1</translation>
     </message>
     <message>
         <source>Thermal state %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado térmico %1</translation>
     </message>
 </context>
 </TS>
