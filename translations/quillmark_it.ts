@@ -5,1137 +5,1137 @@
     <name>Battery</name>
     <message>
         <source>Not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Non indicato</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>Ridotta</translation>
     </message>
     <message>
         <source>Worn</source>
-        <translation type="unfinished"></translation>
+        <translation>Usurata</translation>
     </message>
     <message>
         <source>Cold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fredda</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Calda</translation>
     </message>
     <message>
         <source>Service recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistenza consigliata</translation>
     </message>
     <message>
         <source>Permanent failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Guasto permanente</translation>
     </message>
     <message>
         <source>This battery needs attention.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa batteria richiede attenzione.</translation>
     </message>
     <message>
         <source>This battery does not tell how much it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa batteria non indica quanta carica contiene.</translation>
     </message>
     <message>
         <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa batteria è in buone condizioni. Mantiene quasi la stessa carica di quando era nuova.</translation>
     </message>
     <message>
         <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa batteria mantiene meno carica di prima. Funziona ancora bene, ma dura sensibilmente meno.</translation>
     </message>
     <message>
         <source>This battery is worn. Consider having it replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa batteria è usurata. Valuta di farla sostituire.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha raggiunto i cicli per cui è stata progettata.</translation>
     </message>
     <message>
         <source>It is hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>È calda.</translation>
     </message>
     <message>
         <source>%1 of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 della capacità di progetto</translation>
     </message>
     <message>
         <source>macOS reports %1</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS indica %1</translation>
     </message>
     <message>
         <source>macOS smooths its figure and keeps a reserve, so the two can differ by a few points.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS attenua il suo valore e tiene una riserva, perciò i due possono differire di qualche punto.</translation>
     </message>
     <message>
         <source>This Mac has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo Mac non ha una batteria</translation>
     </message>
     <message>
         <source>This computer has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo computer non ha una batteria</translation>
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>La salute della batteria è mostrata sui Mac portatili. Tutto il resto in Quillmark funziona come sempre.</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>La salute della batteria è mostrata sui computer portatili. Tutto il resto in Quillmark funziona come sempre.</translation>
     </message>
 </context>
 <context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Supportato</translation>
     </message>
     <message>
         <source>Not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Non supportato</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviso</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazione</translation>
     </message>
     <message>
         <source>Not requested yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ancora richiesto</translation>
     </message>
     <message>
         <source>Restricted</source>
-        <translation type="unfinished"></translation>
+        <translation>Limitato</translation>
     </message>
     <message>
         <source>Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Negato</translation>
     </message>
     <message>
         <source>Allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Consentito</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Sconosciuto</translation>
     </message>
     <message>
         <source>Internal</source>
         <extracomment>How a display is connected.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Interno</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>None (desktop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna (fisso)</translation>
     </message>
     <message>
         <source>Bluetooth device</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo Bluetooth</translation>
     </message>
     <message>
         <source>AirPlay device</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo AirPlay</translation>
     </message>
     <message>
         <source>iPhone or iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone o iPad</translation>
     </message>
     <message>
         <source>%1&#xa0;kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;kHz</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n channels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n canale</numerusform>
+            <numerusform>%1, %n canali</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 (call quality: a microphone is in use)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (qualità di chiamata: un microfono è in uso)</translation>
     </message>
     <message>
         <source>Built-in speakers</source>
-        <translation type="unfinished"></translation>
+        <translation>Altoparlanti integrati</translation>
     </message>
     <message>
         <source>Built-in microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>Microfono integrato</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation>Uscita audio</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato di uscita</translation>
     </message>
     <message>
         <source>Highest output rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenza max. di uscita</translation>
     </message>
     <message>
         <source>Sound input</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingresso audio</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;di %2&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;di %2&#xa0;mAh</translation>
     </message>
     <message>
         <source>−%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;°C</translation>
     </message>
     <message>
         <source>%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;°C</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>In carica</translation>
     </message>
     <message>
         <source>Full</source>
         <extracomment>Of a battery.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Collegata, non in carica</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>A batteria</translation>
     </message>
     <message>
         <source>Being estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>Stima in corso</translation>
     </message>
     <message>
         <source>%1 until full</source>
         <extracomment>%1 is a duration.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 alla carica completa</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salute della batteria</translation>
     </message>
     <message>
         <source>Battery condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Condizione della batteria</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di cicli</translation>
     </message>
     <message>
         <source>Battery capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità della batteria</translation>
     </message>
     <message>
         <source>Battery temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura della batteria</translation>
     </message>
     <message>
         <source>Charge</source>
         <extracomment>How full the battery is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>Time remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo rimanente</translation>
     </message>
     <message>
         <source>built in</source>
-        <translation type="unfinished"></translation>
+        <translation>integrata</translation>
     </message>
     <message>
         <source>external</source>
-        <translation type="unfinished"></translation>
+        <translation>esterna</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocamera</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocamera %1</translation>
     </message>
     <message>
         <source>Best picture</source>
         <extracomment>The largest picture that the camera gives.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Immagine migliore</translation>
     </message>
     <message>
         <source>Best picture (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine migliore (fotocamera %1)</translation>
     </message>
     <message>
         <source>%1, up to %2 frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, fino a %2 fotogrammi al secondo</translation>
     </message>
     <message>
         <source>Center Stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Inquadratura automatica</translation>
     </message>
     <message>
         <source>Center Stage (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Inquadratura automatica (fotocamera %1)</translation>
     </message>
     <message>
         <source>Sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheda audio</translation>
     </message>
     <message>
         <source>output</source>
         <extracomment>A sound card plays; the next: it records.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>uscita</translation>
     </message>
     <message>
         <source>input</source>
-        <translation type="unfinished"></translation>
+        <translation>ingresso</translation>
     </message>
     <message>
         <source>Sound card %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheda audio %1</translation>
     </message>
     <message>
         <source>Camera access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accesso alla fotocamera</translation>
     </message>
     <message>
         <source>Microphone access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accesso al microfono</translation>
     </message>
     <message>
         <source>Camera &amp; Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocamera e audio</translation>
     </message>
     <message>
         <source>main</source>
         <extracomment>Stands behind a display’s name in parentheses.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>principale</translation>
     </message>
     <message>
         <source>mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>duplicato</translation>
     </message>
     <message>
         <source>%1, up to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, fino a %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1, %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>%1 (looks like %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (appare come %2)</translation>
     </message>
     <message>
         <source>Fixed</source>
         <extracomment>Of a display’s refresh rate.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fissa</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz (ProMotion)</source>
-        <translation type="unfinished"></translation>
+        <translation>Da %1&#xa0;a %2&#xa0;Hz (ProMotion)</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>Da %1&#xa0;a %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>Up to %1×</source>
-        <translation type="unfinished"></translation>
+        <translation>Fino a %1×</translation>
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
         <extracomment>A size in inches.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 pollici, %2&#xa0;pixel per pollice</translation>
     </message>
     <message>
         <source>%1&#xa0;in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pollici</translation>
     </message>
     <message>
         <source>Variable refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenza di aggiornamento variabile</translation>
     </message>
     <message>
         <source>Variable refresh rate (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenza di aggiornamento variabile (monitor %1)</translation>
     </message>
     <message>
         <source>Extended dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma dinamica estesa</translation>
     </message>
     <message>
         <source>Extended dynamic range (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma dinamica estesa (monitor %1)</translation>
     </message>
     <message>
         <source>Wide color</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampia gamma cromatica</translation>
     </message>
     <message>
         <source>Wide color (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampia gamma cromatica (monitor %1)</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor</translation>
     </message>
     <message>
         <source>Display %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor %1</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Risoluzione</translation>
     </message>
     <message>
         <source>Resolution (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Risoluzione (monitor %1)</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala</translation>
     </message>
     <message>
         <source>Scaling (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala (monitor %1)</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni</translation>
     </message>
     <message>
         <source>Size (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni (monitor %1)</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Collegamento</translation>
     </message>
     <message>
         <source>Connection (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Collegamento (monitor %1)</translation>
     </message>
     <message>
         <source>Displays connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor collegati</translation>
     </message>
     <message>
         <source>Displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor</translation>
     </message>
     <message>
         <source>GPU</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU</translation>
     </message>
     <message>
         <source>GPU %1</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU %1</translation>
     </message>
     <message>
         <source>Requires macOS 26</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiede macOS 26</translation>
     </message>
     <message>
         <source>Recommended GPU memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria GPU consigliata</translation>
     </message>
     <message>
         <source>Apple GPU family</source>
-        <translation type="unfinished"></translation>
+        <translation>Famiglia di GPU Apple</translation>
     </message>
     <message>
         <source>Ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ray tracing</translation>
     </message>
     <message>
         <source>Hardware ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ray tracing hardware</translation>
     </message>
     <message>
         <source>Graphics &amp; Metal</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafica e Metal</translation>
     </message>
     <message>
         <source>On, encrypting</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo, codifica in corso</translation>
     </message>
     <message>
         <source>Turning off</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattivazione in corso</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo</translation>
     </message>
     <message>
         <source>Off (the disk is still encrypted by hardware)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattivo (il disco resta codificato via hardware)</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattivo</translation>
     </message>
     <message>
         <source>Partly on</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo in parte</translation>
     </message>
     <message>
         <source>On, blocks all incoming connections</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo, blocca tutte le connessioni in entrata</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibile</translation>
     </message>
     <message>
         <source>Turned off in System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Disattivato in Impostazioni di Sistema</translation>
     </message>
     <message>
         <source>Not ready (downloading, or not offered for this language or region)</source>
-        <translation type="unfinished"></translation>
+        <translation>Non pronto (in download, o non offerto per questa lingua o area geografica)</translation>
     </message>
     <message>
         <source>Neural Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Neural Engine</translation>
     </message>
     <message>
         <source>CPU only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo CPU</translation>
     </message>
     <message>
         <source>Core ML acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Accelerazione Core ML</translation>
     </message>
     <message>
         <source>Neural Engine cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Core del Neural Engine</translation>
     </message>
     <message>
         <source>GPU cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Core della GPU</translation>
     </message>
     <message>
         <source>Int8 matrix instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Istruzioni per matrici Int8</translation>
     </message>
     <message>
         <source>Found, no driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Trovato, nessun driver</translation>
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun permesso</translation>
     </message>
     <message>
         <source>Neural processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Processore neurale</translation>
     </message>
     <message>
         <source>GPU computing</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo sulla GPU</translation>
     </message>
     <message>
         <source>Artificial Intelligence</source>
-        <translation type="unfinished"></translation>
+        <translation>Intelligenza artificiale</translation>
     </message>
     <message>
         <source>Virtual machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Macchina virtuale</translation>
     </message>
     <message>
         <source>SELinux, enforcing</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux, vincolante</translation>
     </message>
     <message>
         <source>SELinux, permissive</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux, permissivo</translation>
     </message>
     <message>
         <source>All mitigated</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte mitigate</translation>
     </message>
     <message numerus="yes">
         <source>%n not mitigated</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non mitigata</numerusform>
+            <numerusform>%n non mitigate</numerusform>
         </translation>
     </message>
     <message>
         <source>Secure boot</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvio protetto</translation>
     </message>
     <message>
         <source>Disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>Codifica del disco</translation>
     </message>
     <message>
         <source>Access control</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllo degli accessi</translation>
     </message>
     <message>
         <source>Processor vulnerabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Vulnerabilità del processore</translation>
     </message>
     <message>
         <source>Sealed</source>
         <extracomment>Of the system volume, which is signed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sigillato</translation>
     </message>
     <message>
         <source>Not sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non sigillato</translation>
     </message>
     <message>
         <source>Broken</source>
-        <translation type="unfinished"></translation>
+        <translation>Danneggiato</translation>
     </message>
     <message>
         <source>Sealed system volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume di sistema sigillato</translation>
     </message>
     <message>
         <source>No security</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna sicurezza</translation>
     </message>
     <message>
         <source>Medium security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicurezza media</translation>
     </message>
     <message>
         <source>Full security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicurezza completa</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Non collegato</translation>
     </message>
     <message>
         <source>Available, not set up</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibile, non configurato</translation>
     </message>
     <message>
         <source>Available, locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibile, bloccato</translation>
     </message>
     <message>
         <source>System Integrity Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Protezione dell’integrità del sistema</translation>
     </message>
     <message>
         <source>Firewall</source>
-        <translation type="unfinished"></translation>
+        <translation>Firewall</translation>
     </message>
     <message>
         <source>Secure Enclave</source>
-        <translation type="unfinished"></translation>
+        <translation>Secure Enclave</translation>
     </message>
     <message>
         <source>Lockdown Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità di isolamento</translation>
     </message>
     <message>
         <source>Hardware</source>
         <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hardware</translation>
     </message>
     <message>
         <source>Not in hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Non in hardware</translation>
     </message>
     <message>
         <source>Software only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo software</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura e scrittura</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Sola lettura</translation>
     </message>
     <message>
         <source>H.264 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Decodifica H.264</translation>
     </message>
     <message>
         <source>HEVC decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Decodifica HEVC</translation>
     </message>
     <message>
         <source>VP9 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Decodifica VP9</translation>
     </message>
     <message>
         <source>AV1 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Decodifica AV1</translation>
     </message>
     <message>
         <source>ProRes decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Decodifica ProRes</translation>
     </message>
     <message>
         <source>H.264 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codifica H.264</translation>
     </message>
     <message>
         <source>HEVC encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codifica HEVC</translation>
     </message>
     <message>
         <source>ProRes encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codifica ProRes</translation>
     </message>
     <message>
         <source>AV1 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Codifica AV1</translation>
     </message>
     <message>
         <source>HEIC images</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini HEIC</translation>
     </message>
     <message>
         <source>AVIF images</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini AVIF</translation>
     </message>
     <message>
         <source>Not readable (vainfo is not installed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Non leggibile (vainfo non è installato)</translation>
     </message>
     <message>
         <source>Not readable (the GPU is asleep)</source>
-        <translation type="unfinished"></translation>
+        <translation>Non leggibile (la GPU è a riposo)</translation>
     </message>
     <message>
         <source>Video driver</source>
-        <translation type="unfinished"></translation>
+        <translation>Driver video</translation>
     </message>
     <message>
         <source>Media</source>
-        <translation type="unfinished"></translation>
+        <translation>Multimedia</translation>
     </message>
     <message>
         <source>Cellular</source>
         <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rete cellulare</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro</translation>
     </message>
     <message>
         <source>Not offered by this network</source>
-        <translation type="unfinished"></translation>
+        <translation>Non offerto da questa rete</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>Non disponibile</translation>
     </message>
     <message>
         <source>Metered connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Connessione a consumo</translation>
     </message>
     <message>
         <source>Low Data Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Risparmio dati</translation>
     </message>
     <message>
         <source>%1 (self-assigned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (autoassegnato)</translation>
     </message>
     <message>
         <source>Address (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Indirizzo (%1)</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva</translation>
     </message>
     <message>
         <source>None detected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna rilevata</translation>
     </message>
     <message>
         <source>%1&#xa0;Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Mbit/s</translation>
     </message>
     <message>
         <source>%1, full duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, full duplex</translation>
     </message>
     <message>
         <source>%1, half duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, half duplex</translation>
     </message>
     <message>
         <source>Ethernet speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità Ethernet</translation>
     </message>
     <message>
         <source>Ethernet speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità Ethernet %1</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Rete</translation>
     </message>
     <message>
         <source>Power adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentatore</translation>
     </message>
     <message>
         <source>Mains power</source>
-        <translation type="unfinished"></translation>
+        <translation>Rete elettrica</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>UPS</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppo di continuità</translation>
     </message>
     <message>
         <source>Built in</source>
         <extracomment>Of a battery: it has one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Integrata</translation>
     </message>
     <message>
         <source>%1&#xa0;W</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;W</translation>
     </message>
     <message>
         <source>Balanced</source>
         <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bilanciato</translation>
     </message>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestazioni</translation>
     </message>
     <message>
         <source>Low power</source>
-        <translation type="unfinished"></translation>
+        <translation>Risparmio energetico</translation>
     </message>
     <message>
         <source>Quiet</source>
-        <translation type="unfinished"></translation>
+        <translation>Silenzioso</translation>
     </message>
     <message>
         <source>Cool</source>
-        <translation type="unfinished"></translation>
+        <translation>Raffreddamento</translation>
     </message>
     <message>
         <source>Low power mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Risparmio energetico</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Limite di carica</translation>
     </message>
     <message>
         <source>Power profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profilo energetico</translation>
     </message>
     <message>
         <source>Power source</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonte di alimentazione</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Energia</translation>
     </message>
     <message>
         <source>SME instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Istruzioni SME</translation>
     </message>
     <message>
         <source>BF16 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Istruzioni BF16</translation>
     </message>
     <message>
         <source>AVX2 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Istruzioni AVX2</translation>
     </message>
     <message>
         <source>AVX-512 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Istruzioni AVX-512</translation>
     </message>
     <message>
         <source>Physical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Core fisici</translation>
     </message>
     <message>
         <source>Logical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Core logici</translation>
     </message>
     <message>
         <source>Performance cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Core a prestazioni elevate</translation>
     </message>
     <message>
         <source>Efficiency cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Core ad alta efficienza</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Processore</translation>
     </message>
     <message>
         <source>Max frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenza massima</translation>
     </message>
     <message>
         <source>Memory (RAM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria (RAM)</translation>
     </message>
     <message>
         <source>Processor &amp; Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Processore e memoria</translation>
     </message>
     <message>
         <source>Not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>Non leggibile</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicurezza</translation>
     </message>
     <message>
         <source>%1 (low)</source>
         <extracomment>%1 is the space that is free.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (poco)</translation>
     </message>
     <message>
         <source>File cloning</source>
-        <translation type="unfinished"></translation>
+        <translation>Clonazione dei file</translation>
     </message>
     <message>
         <source>Case-sensitive names</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiuscole/minuscole distinte</translation>
     </message>
     <message>
         <source>Start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume di avvio</translation>
     </message>
     <message>
         <source>Capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità</translation>
     </message>
     <message>
         <source>Available space</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio disponibile</translation>
     </message>
     <message>
         <source>File system</source>
-        <translation type="unfinished"></translation>
+        <translation>File system</translation>
     </message>
     <message>
         <source>SSD</source>
-        <translation type="unfinished"></translation>
+        <translation>SSD</translation>
     </message>
     <message>
         <source>hard disk</source>
-        <translation type="unfinished"></translation>
+        <translation>disco rigido</translation>
     </message>
     <message>
         <source>internal</source>
-        <translation type="unfinished"></translation>
+        <translation>interno</translation>
     </message>
     <message>
         <source>removable</source>
-        <translation type="unfinished"></translation>
+        <translation>rimovibile</translation>
     </message>
     <message>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco</translation>
     </message>
     <message>
         <source>Disk %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco %1</translation>
     </message>
     <message>
         <source>Connection (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Collegamento (disco %1)</translation>
     </message>
     <message>
         <source>TRIM</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM</translation>
     </message>
     <message>
         <source>TRIM (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM (disco %1)</translation>
     </message>
     <message>
         <source>read only</source>
-        <translation type="unfinished"></translation>
+        <translation>sola lettura</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>Volume %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume %1</translation>
     </message>
     <message>
         <source>Volume space</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio del volume</translation>
     </message>
     <message>
         <source>Volume space (volume %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio del volume (volume %1)</translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>Archiviazione</translation>
     </message>
     <message>
         <source>via Rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>tramite Rosetta</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>Architettura</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiepido</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Caldo</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Critico</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Device name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome del dispositivo</translation>
     </message>
     <message>
         <source>Model identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificativo del modello</translation>
     </message>
     <message>
         <source>Operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema operativo</translation>
     </message>
     <message>
         <source>Uptime</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo di attività</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato termico</translation>
     </message>
     <message>
         <source>%1&#xa0;%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Wi-Fi standard in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard Wi-Fi in uso</translation>
     </message>
     <message>
         <source>Wi-Fi band</source>
-        <translation type="unfinished"></translation>
+        <translation>Banda Wi-Fi</translation>
     </message>
     <message>
         <source>%1&#xa0;GHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GHz</translation>
     </message>
     <message>
         <source>Wi-Fi signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnale Wi-Fi</translation>
     </message>
     <message>
         <source>Wi-Fi rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità Wi-Fi</translation>
     </message>
     <message>
         <source>unified memory</source>
-        <translation type="unfinished"></translation>
+        <translation>memoria unificata</translation>
     </message>
     <message>
         <source>low power</source>
-        <translation type="unfinished"></translation>
+        <translation>basso consumo</translation>
     </message>
     <message>
         <source>external eGPU</source>
-        <translation type="unfinished"></translation>
+        <translation>eGPU esterna</translation>
     </message>
     <message>
         <source>None</source>
         <comment>charge limit</comment>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (good)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (buono)</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (fair)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (discreto)</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (weak)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (debole)</translation>
     </message>
 </context>
 <context>
@@ -1143,429 +1143,429 @@
     <message>
         <source>Same as system (%1)</source>
         <extracomment>A choice among languages; %1 is the name of the system&apos;s.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Come il sistema (%1)</translation>
     </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>%1&#xa0;KB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;kB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;MB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;GB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;TB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;TB/s</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Swap space that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>Battery · charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria · in carica</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>Pressure normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione normale</translation>
     </message>
     <message>
         <source>Pressure elevated</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione elevata</translation>
     </message>
     <message>
         <source>Pressure critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione critica</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiepido</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Caldo</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>Critico</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Sconosciuto</translation>
     </message>
 </context>
 <context>
     <name>Report</name>
     <message>
         <source>computer name</source>
-        <translation type="unfinished"></translation>
+        <translation>nome del computer</translation>
     </message>
     <message>
         <source>addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>indirizzi</translation>
     </message>
     <message>
         <source>volume names</source>
-        <translation type="unfinished"></translation>
+        <translation>nomi dei volumi</translation>
     </message>
     <message>
         <source>Capability score: %1% (%2 of %3 rated capabilities supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>Punteggio delle capacità: %1% (%2 di %3 capacità valutate sono supportate)</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di memoria</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di archiviazione</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga corrisponde.</translation>
     </message>
     <message>
         <source>Left out of this report: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Omessi da questo report: %1.</translation>
     </message>
     <message>
         <source>Worth a look</source>
-        <translation type="unfinished"></translation>
+        <translation>Da guardare</translation>
     </message>
     <message>
         <source>%1 (continued)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (continua)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riga</numerusform>
+            <numerusform>%n righe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>e %n altra</numerusform>
+            <numerusform>e altre %n</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2 supportate</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <extracomment>The title of a report, and the computer’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>This Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo Mac</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo computer</translation>
     </message>
     <message>
         <source>What this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa sa fare davvero questo Mac</translation>
     </message>
     <message>
         <source>What this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa sa fare davvero questo computer</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Creato con %1 · Tutti i dati sono stati letti su questo Mac</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Creato con %1 · Tutti i dati sono stati letti su questo computer</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte delle capacità valutate che questo Mac supporta</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte delle capacità valutate che questo computer supporta</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>Punteggio delle capacità</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla di valutato</translation>
     </message>
     <message>
         <source>Quillmark report</source>
-        <translation type="unfinished"></translation>
+        <translation>Report di Quillmark</translation>
     </message>
     <message>
         <source>In this report</source>
-        <translation type="unfinished"></translation>
+        <translation>In questo report</translation>
     </message>
     <message>
         <source>p. %1</source>
         <extracomment>The number of a page, in a list of contents.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>p. %1</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina %1 di %2</translation>
     </message>
     <message>
         <source>Capability</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Inspected on %1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Esaminato il %1 alle %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 [%3]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 [%3]</translation>
     </message>
     <message>
         <source>Left out</source>
         <extracomment>Stands for a name or an address.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Omesso</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Indirizzo</translation>
     </message>
     <message>
         <source>Address %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Indirizzo %1</translation>
     </message>
     <message>
         <source>The report couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare il report.</translation>
     </message>
     <message>
         <source>There is a file with this name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste già un file con questo nome.</translation>
     </message>
     <message>
         <source>This is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>È una cartella.</translation>
     </message>
     <message>
         <source>The folder does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella non esiste.</translation>
     </message>
     <message>
         <source>You don’t have permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non hai il permesso di scrivere qui.</translation>
     </message>
     <message>
         <source>There is not enough free space on “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è abbastanza spazio libero su “%1”.</translation>
     </message>
     <message>
         <source>The disk is no longer connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disco non è più collegato.</translation>
     </message>
     <message>
         <source>No file can have this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun file può avere questo nome.</translation>
     </message>
     <message>
         <source>The system says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sistema riferisce: %1</translation>
     </message>
 </context>
 <context>
     <name>Terminal</name>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n modificata</numerusform>
+            <numerusform>%n modificate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n aggiunta</numerusform>
+            <numerusform>%n aggiunte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n rimossa</numerusform>
+            <numerusform>%n rimosse</numerusform>
         </translation>
     </message>
     <message>
         <source>First scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima scansione</translation>
     </message>
     <message>
         <source>Another computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro computer</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna differenza</translation>
     </message>
     <message>
         <source>Added</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunta</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimossa</translation>
     </message>
     <message>
         <source>%1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 → %2</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificata</translation>
     </message>
     <message>
         <source>No saved scans yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna scansione salvata</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>“quillmark history record” esamina questo computer e salva la prima.</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Punteggio</translation>
     </message>
     <message>
         <source>Against the scan before</source>
-        <translation type="unfinished"></translation>
+        <translation>Rispetto alla precedente</translation>
     </message>
     <message>
         <source>Scan of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Scansione del %1</translation>
     </message>
     <message>
         <source>Older</source>
-        <translation type="unfinished"></translation>
+        <translation>Precedente</translation>
     </message>
     <message>
         <source>Newer</source>
-        <translation type="unfinished"></translation>
+        <translation>Successiva</translation>
     </message>
     <message>
         <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le due scansioni sono in lingue diverse, perciò sono mostrati solo i cambiamenti di stato.</translation>
     </message>
     <message>
         <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrambe le scansioni mostrano le stesse capacità. I valori che cambiano di continuo, come il tempo di attività, non sono confrontati.</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>Punteggio delle capacità</translation>
     </message>
     <message>
         <source>%1 of %2 rated capabilities supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2 capacità valutate supportate</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga corrisponde.</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salute della batteria</translation>
     </message>
     <message>
         <source>The scan of %1 was removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scansione del %1 è stata rimossa.</translation>
     </message>
     <message>
         <source>All saved scans were removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le scansioni salvate sono state rimosse.</translation>
     </message>
     <message>
         <source>Scan %1 was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scansione %1 è stata salvata.</translation>
     </message>
     <message>
         <source>Nothing has changed since the scan of %1, so none was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla è cambiato dalla scansione del %1, perciò non ne è stata salvata un’altra.</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scansione salvata</numerusform>
+            <numerusform>%n scansioni salvate</numerusform>
         </translation>
     </message>
     <message>
         <source>y, yes</source>
         <extracomment>What may be typed for yes, as shown in &quot;[y/N]&quot;; separated by commas.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>s, sì, si</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans will be removed. This can’t be undone. Remove them? [y/N]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scansione salvata sarà rimossa. L’operazione non può essere annullata. Rimuoverla? [s/N]</numerusform>
+            <numerusform>%n scansioni salvate saranno rimosse. L’operazione non può essere annullata. Rimuoverle? [s/N]</numerusform>
         </translation>
     </message>
 </context>
@@ -1573,114 +1573,114 @@
     <name>TerminalMonitor</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccolta dei campioni…</translation>
     </message>
     <message>
         <source>q ends</source>
-        <translation type="unfinished"></translation>
+        <translation>q per uscire</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornato ogni secondo · ultimi 2 minuti</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor dal vivo</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>Processore</translation>
     </message>
     <message numerus="yes">
         <source>%n cores</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n core</numerusform>
+            <numerusform>%n core</numerusform>
         </translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished"></translation>
+        <translation>Per core</translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>di %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>Used</source>
         <extracomment>A curve: the memory that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>In uso</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione</translation>
     </message>
     <message>
         <source>In</source>
         <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>In entrata</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>In uscita</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Rete</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato termico</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap in uso</translation>
     </message>
     <message>
         <source>Processor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Processore %1</translation>
     </message>
     <message>
         <source>Memory %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria %1 di %2</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>A verdict (&quot;Pressure normal&quot;) and its measure.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Swap used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap in uso %1</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In entrata %1</translation>
     </message>
     <message>
         <source>Out %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In uscita %1</translation>
     </message>
     <message>
         <source>Thermal state %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato termico %1</translation>
     </message>
 </context>
 </TS>
