@@ -775,7 +775,7 @@
     </message>
     <message>
         <source>Low Data Mode</source>
-        <translation>Risparmio dati</translation>
+        <translation>Modalità dati ridotti</translation>
     </message>
     <message>
         <source>%1 (self-assigned)</source>
