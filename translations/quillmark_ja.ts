@@ -5,1135 +5,1135 @@
     <name>Battery</name>
     <message>
         <source>Not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>報告なし</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>低下</translation>
     </message>
     <message>
         <source>Worn</source>
-        <translation type="unfinished"></translation>
+        <translation>劣化</translation>
     </message>
     <message>
         <source>Cold</source>
-        <translation type="unfinished"></translation>
+        <translation>低温</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>高温</translation>
     </message>
     <message>
         <source>Service recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>修理推奨</translation>
     </message>
     <message>
         <source>Permanent failure</source>
-        <translation type="unfinished"></translation>
+        <translation>永久的な故障</translation>
     </message>
     <message>
         <source>This battery needs attention.</source>
-        <translation type="unfinished"></translation>
+        <translation>このバッテリーは確認が必要です。</translation>
     </message>
     <message>
         <source>This battery does not tell how much it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>このバッテリーは充電できる量を報告しません。</translation>
     </message>
     <message>
         <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation type="unfinished"></translation>
+        <translation>このバッテリーは良好な状態です。新品のときとほぼ同じ量を充電できます。</translation>
     </message>
     <message>
         <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation type="unfinished"></translation>
+        <translation>このバッテリーが充電できる量は以前より減っています。まだ問題なく使えますが、持続時間は明らかに短くなります。</translation>
     </message>
     <message>
         <source>This battery is worn. Consider having it replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>このバッテリーは劣化しています。交換を検討してください。</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>
-        <translation type="unfinished"></translation>
+        <translation>定格の充放電回数に達しています。</translation>
     </message>
     <message>
         <source>It is hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>高温になっています。</translation>
     </message>
     <message>
         <source>%1 of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>設計容量の%1</translation>
     </message>
     <message>
         <source>macOS reports %1</source>
-        <translation type="unfinished"></translation>
+        <translation>macOSの報告: %1</translation>
     </message>
     <message>
         <source>macOS smooths its figure and keeps a reserve, so the two can differ by a few points.</source>
-        <translation type="unfinished"></translation>
+        <translation>macOSは値をならし、予備を確保しているため、両者は数ポイント異なることがあります。</translation>
     </message>
     <message>
         <source>This Mac has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>このMacにはバッテリーがありません</translation>
     </message>
     <message>
         <source>This computer has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータにはバッテリーがありません</translation>
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの状態はノート型のMacで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの状態はノート型のコンピュータで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
     </message>
 </context>
 <context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
-        <translation type="unfinished"></translation>
+        <translation>対応</translation>
     </message>
     <message>
         <source>Not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>非対応</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>Not requested yet</source>
-        <translation type="unfinished"></translation>
+        <translation>未リクエスト</translation>
     </message>
     <message>
         <source>Restricted</source>
-        <translation type="unfinished"></translation>
+        <translation>制限あり</translation>
     </message>
     <message>
         <source>Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>拒否</translation>
     </message>
     <message>
         <source>Allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>許可</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>不明</translation>
     </message>
     <message>
         <source>Internal</source>
         <extracomment>How a display is connected.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>内蔵</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>None (desktop)</source>
-        <translation type="unfinished"></translation>
+        <translation>なし（デスクトップ）</translation>
     </message>
     <message>
         <source>Bluetooth device</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth機器</translation>
     </message>
     <message>
         <source>AirPlay device</source>
-        <translation type="unfinished"></translation>
+        <translation>AirPlay機器</translation>
     </message>
     <message>
         <source>iPhone or iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhoneまたはiPad</translation>
     </message>
     <message>
         <source>%1&#xa0;kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;kHz</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n channels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1、%nチャンネル</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 (call quality: a microphone is in use)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（通話品質: マイクを使用中）</translation>
     </message>
     <message>
         <source>Built-in speakers</source>
-        <translation type="unfinished"></translation>
+        <translation>内蔵スピーカー</translation>
     </message>
     <message>
         <source>Built-in microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>内蔵マイク</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンド出力</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation>出力形式</translation>
     </message>
     <message>
         <source>Highest output rate</source>
-        <translation type="unfinished"></translation>
+        <translation>最高出力レート</translation>
     </message>
     <message>
         <source>Sound input</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンド入力</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1／%2</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1／%2&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1／%2&#xa0;mAh</translation>
     </message>
     <message>
         <source>−%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;°C</translation>
     </message>
     <message>
         <source>%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;°C</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>充電中</translation>
     </message>
     <message>
         <source>Full</source>
         <extracomment>Of a battery.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>満充電</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中、充電していません</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーで動作中</translation>
     </message>
     <message>
         <source>Being estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>計算中</translation>
     </message>
     <message>
         <source>%1 until full</source>
         <extracomment>%1 is a duration.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>満充電まで%1</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの健康度</translation>
     </message>
     <message>
         <source>Battery condition</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの状態</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished"></translation>
+        <translation>充放電回数</translation>
     </message>
     <message>
         <source>Battery capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー容量</translation>
     </message>
     <message>
         <source>Battery temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー温度</translation>
     </message>
     <message>
         <source>Charge</source>
         <extracomment>How full the battery is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>充電量</translation>
     </message>
     <message>
         <source>Time remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>残り時間</translation>
     </message>
     <message>
         <source>built in</source>
-        <translation type="unfinished"></translation>
+        <translation>内蔵</translation>
     </message>
     <message>
         <source>external</source>
-        <translation type="unfinished"></translation>
+        <translation>外付け</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ%1</translation>
     </message>
     <message>
         <source>Best picture</source>
         <extracomment>The largest picture that the camera gives.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>最大画像</translation>
     </message>
     <message>
         <source>Best picture (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>最大画像（カメラ%1）</translation>
     </message>
     <message>
         <source>%1, up to %2 frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、最大%2フレーム/秒</translation>
     </message>
     <message>
         <source>Center Stage</source>
-        <translation type="unfinished"></translation>
+        <translation>センターフレーム</translation>
     </message>
     <message>
         <source>Center Stage (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>センターフレーム（カメラ%1）</translation>
     </message>
     <message>
         <source>Sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンドカード</translation>
     </message>
     <message>
         <source>output</source>
         <extracomment>A sound card plays; the next: it records.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>出力</translation>
     </message>
     <message>
         <source>input</source>
-        <translation type="unfinished"></translation>
+        <translation>入力</translation>
     </message>
     <message>
         <source>Sound card %1</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンドカード%1</translation>
     </message>
     <message>
         <source>Camera access</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラへのアクセス</translation>
     </message>
     <message>
         <source>Microphone access</source>
-        <translation type="unfinished"></translation>
+        <translation>マイクへのアクセス</translation>
     </message>
     <message>
         <source>Camera &amp; Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラとオーディオ</translation>
     </message>
     <message>
         <source>main</source>
         <extracomment>Stands behind a display’s name in parentheses.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>主</translation>
     </message>
     <message>
         <source>mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>ミラーリング</translation>
     </message>
     <message>
         <source>%1, up to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、最大%2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1, %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2&#xa0;Hz</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>%1 (looks like %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（擬似解像度%2）</translation>
     </message>
     <message>
         <source>Fixed</source>
         <extracomment>Of a display’s refresh rate.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>固定</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz (ProMotion)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2 Hz（ProMotion）</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2&#xa0;Hz</translation>
     </message>
     <message>
         <source>Up to %1×</source>
-        <translation type="unfinished"></translation>
+        <translation>最大%1×</translation>
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
         <extracomment>A size in inches.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1インチ、%2&#xa0;ppi</translation>
     </message>
     <message>
         <source>%1&#xa0;in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1インチ</translation>
     </message>
     <message>
         <source>Variable refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>可変リフレッシュレート</translation>
     </message>
     <message>
         <source>Variable refresh rate (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>可変リフレッシュレート（ディスプレイ%1）</translation>
     </message>
     <message>
         <source>Extended dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>拡張ダイナミックレンジ</translation>
     </message>
     <message>
         <source>Extended dynamic range (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>拡張ダイナミックレンジ（ディスプレイ%1）</translation>
     </message>
     <message>
         <source>Wide color</source>
-        <translation type="unfinished"></translation>
+        <translation>広色域</translation>
     </message>
     <message>
         <source>Wide color (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>広色域（ディスプレイ%1）</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスプレイ</translation>
     </message>
     <message>
         <source>Display %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスプレイ%1</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>解像度</translation>
     </message>
     <message>
         <source>Resolution (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>解像度（ディスプレイ%1）</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>スケーリング</translation>
     </message>
     <message>
         <source>Scaling (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>スケーリング（ディスプレイ%1）</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>サイズ</translation>
     </message>
     <message>
         <source>Size (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>サイズ（ディスプレイ%1）</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>接続</translation>
     </message>
     <message>
         <source>Connection (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>接続（ディスプレイ%1）</translation>
     </message>
     <message>
         <source>Displays connected</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中のディスプレイ</translation>
     </message>
     <message>
         <source>Displays</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスプレイ</translation>
     </message>
     <message>
         <source>GPU</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU</translation>
     </message>
     <message>
         <source>GPU %1</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU %1</translation>
     </message>
     <message>
         <source>Requires macOS 26</source>
-        <translation type="unfinished"></translation>
+        <translation>macOS 26が必要</translation>
     </message>
     <message>
         <source>Recommended GPU memory</source>
-        <translation type="unfinished"></translation>
+        <translation>推奨GPUメモリ</translation>
     </message>
     <message>
         <source>Apple GPU family</source>
-        <translation type="unfinished"></translation>
+        <translation>Apple GPUファミリー</translation>
     </message>
     <message>
         <source>Ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>レイトレーシング</translation>
     </message>
     <message>
         <source>Hardware ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>ハードウェアレイトレーシング</translation>
     </message>
     <message>
         <source>Graphics &amp; Metal</source>
-        <translation type="unfinished"></translation>
+        <translation>グラフィックスとMetal</translation>
     </message>
     <message>
         <source>On, encrypting</source>
-        <translation type="unfinished"></translation>
+        <translation>オン、暗号化中</translation>
     </message>
     <message>
         <source>Turning off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフに切り替え中</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>Off (the disk is still encrypted by hardware)</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ（ディスクはハードウェアで暗号化されています）</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Partly on</source>
-        <translation type="unfinished"></translation>
+        <translation>一部オン</translation>
     </message>
     <message>
         <source>On, blocks all incoming connections</source>
-        <translation type="unfinished"></translation>
+        <translation>オン、外部からの接続をすべてブロック</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>利用可能</translation>
     </message>
     <message>
         <source>Turned off in System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>システム設定でオフ</translation>
     </message>
     <message>
         <source>Not ready (downloading, or not offered for this language or region)</source>
-        <translation type="unfinished"></translation>
+        <translation>準備中（ダウンロード中、またはこの言語や地域では提供なし）</translation>
     </message>
     <message>
         <source>Neural Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Neural Engine</translation>
     </message>
     <message>
         <source>CPU only</source>
-        <translation type="unfinished"></translation>
+        <translation>CPUのみ</translation>
     </message>
     <message>
         <source>Core ML acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Core MLアクセラレーション</translation>
     </message>
     <message>
         <source>Neural Engine cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Neural Engineのコア</translation>
     </message>
     <message>
         <source>GPU cores</source>
-        <translation type="unfinished"></translation>
+        <translation>GPUのコア</translation>
     </message>
     <message>
         <source>Int8 matrix instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>Int8行列命令</translation>
     </message>
     <message>
         <source>Found, no driver</source>
-        <translation type="unfinished"></translation>
+        <translation>検出、ドライバなし</translation>
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>権限なし</translation>
     </message>
     <message>
         <source>Neural processor</source>
-        <translation type="unfinished"></translation>
+        <translation>ニューラルプロセッサ</translation>
     </message>
     <message>
         <source>GPU computing</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU計算</translation>
     </message>
     <message>
         <source>Artificial Intelligence</source>
-        <translation type="unfinished"></translation>
+        <translation>人工知能</translation>
     </message>
     <message>
         <source>Virtual machine</source>
-        <translation type="unfinished"></translation>
+        <translation>仮想マシン</translation>
     </message>
     <message>
         <source>SELinux, enforcing</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux、強制</translation>
     </message>
     <message>
         <source>SELinux, permissive</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux、許容</translation>
     </message>
     <message>
         <source>All mitigated</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて緩和済み</translation>
     </message>
     <message numerus="yes">
         <source>%n not mitigated</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>未緩和%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>Secure boot</source>
-        <translation type="unfinished"></translation>
+        <translation>セキュアブート</translation>
     </message>
     <message>
         <source>Disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクの暗号化</translation>
     </message>
     <message>
         <source>Access control</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセス制御</translation>
     </message>
     <message>
         <source>Processor vulnerabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサの脆弱性</translation>
     </message>
     <message>
         <source>Sealed</source>
         <extracomment>Of the system volume, which is signed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>シール済み</translation>
     </message>
     <message>
         <source>Not sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>シールなし</translation>
     </message>
     <message>
         <source>Broken</source>
-        <translation type="unfinished"></translation>
+        <translation>破損</translation>
     </message>
     <message>
         <source>Sealed system volume</source>
-        <translation type="unfinished"></translation>
+        <translation>シール済みシステムボリューム</translation>
     </message>
     <message>
         <source>No security</source>
-        <translation type="unfinished"></translation>
+        <translation>セキュリティなし</translation>
     </message>
     <message>
         <source>Medium security</source>
-        <translation type="unfinished"></translation>
+        <translation>標準のセキュリティ</translation>
     </message>
     <message>
         <source>Full security</source>
-        <translation type="unfinished"></translation>
+        <translation>完全なセキュリティ</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>未接続</translation>
     </message>
     <message>
         <source>Available, not set up</source>
-        <translation type="unfinished"></translation>
+        <translation>利用可能、未設定</translation>
     </message>
     <message>
         <source>Available, locked</source>
-        <translation type="unfinished"></translation>
+        <translation>利用可能、ロック中</translation>
     </message>
     <message>
         <source>System Integrity Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>システム整合性保護</translation>
     </message>
     <message>
         <source>Firewall</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイアウォール</translation>
     </message>
     <message>
         <source>Secure Enclave</source>
-        <translation type="unfinished"></translation>
+        <translation>Secure Enclave</translation>
     </message>
     <message>
         <source>Lockdown Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックダウンモード</translation>
     </message>
     <message>
         <source>Hardware</source>
         <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ハードウェア</translation>
     </message>
     <message>
         <source>Not in hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>ハードウェアなし</translation>
     </message>
     <message>
         <source>Software only</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフトウェアのみ</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>読み書き</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>読み出しのみ</translation>
     </message>
     <message>
         <source>H.264 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>H.264デコード</translation>
     </message>
     <message>
         <source>HEVC decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>HEVCデコード</translation>
     </message>
     <message>
         <source>VP9 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>VP9デコード</translation>
     </message>
     <message>
         <source>AV1 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>AV1デコード</translation>
     </message>
     <message>
         <source>ProRes decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ProResデコード</translation>
     </message>
     <message>
         <source>H.264 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>H.264エンコード</translation>
     </message>
     <message>
         <source>HEVC encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>HEVCエンコード</translation>
     </message>
     <message>
         <source>ProRes encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ProResエンコード</translation>
     </message>
     <message>
         <source>AV1 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>AV1エンコード</translation>
     </message>
     <message>
         <source>HEIC images</source>
-        <translation type="unfinished"></translation>
+        <translation>HEIC画像</translation>
     </message>
     <message>
         <source>AVIF images</source>
-        <translation type="unfinished"></translation>
+        <translation>AVIF画像</translation>
     </message>
     <message>
         <source>Not readable (vainfo is not installed)</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り不可（vainfoがインストールされていません）</translation>
     </message>
     <message>
         <source>Not readable (the GPU is asleep)</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り不可（GPUがスリープ中）</translation>
     </message>
     <message>
         <source>Video driver</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオドライバ</translation>
     </message>
     <message>
         <source>Media</source>
-        <translation type="unfinished"></translation>
+        <translation>メディア</translation>
     </message>
     <message>
         <source>Cellular</source>
         <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>モバイル通信</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
     <message>
         <source>Not offered by this network</source>
-        <translation type="unfinished"></translation>
+        <translation>このネットワークでは提供なし</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>利用不可</translation>
     </message>
     <message>
         <source>Metered connection</source>
-        <translation type="unfinished"></translation>
+        <translation>従量制接続</translation>
     </message>
     <message>
         <source>Low Data Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>省データモード</translation>
     </message>
     <message>
         <source>%1 (self-assigned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（自己割り当て）</translation>
     </message>
     <message>
         <source>Address (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレス（%1）</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>None detected</source>
-        <translation type="unfinished"></translation>
+        <translation>検出なし</translation>
     </message>
     <message>
         <source>%1&#xa0;Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Mbit/s</translation>
     </message>
     <message>
         <source>%1, full duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、全二重</translation>
     </message>
     <message>
         <source>%1, half duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、半二重</translation>
     </message>
     <message>
         <source>Ethernet speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ethernetの速度</translation>
     </message>
     <message>
         <source>Ethernet speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ethernet %1の速度</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Power adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>電源アダプタ</translation>
     </message>
     <message>
         <source>Mains power</source>
-        <translation type="unfinished"></translation>
+        <translation>電源コンセント</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー</translation>
     </message>
     <message>
         <source>UPS</source>
-        <translation type="unfinished"></translation>
+        <translation>UPS</translation>
     </message>
     <message>
         <source>Built in</source>
         <extracomment>Of a battery: it has one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>内蔵</translation>
     </message>
     <message>
         <source>%1&#xa0;W</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;W</translation>
     </message>
     <message>
         <source>Balanced</source>
         <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>バランス</translation>
     </message>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>パフォーマンス</translation>
     </message>
     <message>
         <source>Low power</source>
-        <translation type="unfinished"></translation>
+        <translation>低電力</translation>
     </message>
     <message>
         <source>Quiet</source>
-        <translation type="unfinished"></translation>
+        <translation>静音</translation>
     </message>
     <message>
         <source>Cool</source>
-        <translation type="unfinished"></translation>
+        <translation>冷却</translation>
     </message>
     <message>
         <source>Low power mode</source>
-        <translation type="unfinished"></translation>
+        <translation>低電力モード</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>充電上限</translation>
     </message>
     <message>
         <source>Power profile</source>
-        <translation type="unfinished"></translation>
+        <translation>電源プロファイル</translation>
     </message>
     <message>
         <source>Power source</source>
-        <translation type="unfinished"></translation>
+        <translation>電源</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>電源</translation>
     </message>
     <message>
         <source>SME instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>SME命令</translation>
     </message>
     <message>
         <source>BF16 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>BF16命令</translation>
     </message>
     <message>
         <source>AVX2 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>AVX2命令</translation>
     </message>
     <message>
         <source>AVX-512 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>AVX-512命令</translation>
     </message>
     <message>
         <source>Physical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>物理コア</translation>
     </message>
     <message>
         <source>Logical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>論理コア</translation>
     </message>
     <message>
         <source>Performance cores</source>
-        <translation type="unfinished"></translation>
+        <translation>高性能コア</translation>
     </message>
     <message>
         <source>Efficiency cores</source>
-        <translation type="unfinished"></translation>
+        <translation>高効率コア</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサ</translation>
     </message>
     <message>
         <source>Max frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>最大周波数</translation>
     </message>
     <message>
         <source>Memory (RAM)</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリ（RAM）</translation>
     </message>
     <message>
         <source>Processor &amp; Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサとメモリ</translation>
     </message>
     <message>
         <source>Not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り不可</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>セキュリティ</translation>
     </message>
     <message>
         <source>%1 (low)</source>
         <extracomment>%1 is the space that is free.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1（少ない）</translation>
     </message>
     <message>
         <source>File cloning</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルのクローン</translation>
     </message>
     <message>
         <source>Case-sensitive names</source>
-        <translation type="unfinished"></translation>
+        <translation>大文字と小文字の区別</translation>
     </message>
     <message>
         <source>Start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>起動ボリューム</translation>
     </message>
     <message>
         <source>Capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>容量</translation>
     </message>
     <message>
         <source>Available space</source>
-        <translation type="unfinished"></translation>
+        <translation>空き容量</translation>
     </message>
     <message>
         <source>File system</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルシステム</translation>
     </message>
     <message>
         <source>SSD</source>
-        <translation type="unfinished"></translation>
+        <translation>SSD</translation>
     </message>
     <message>
         <source>hard disk</source>
-        <translation type="unfinished"></translation>
+        <translation>ハードディスク</translation>
     </message>
     <message>
         <source>internal</source>
-        <translation type="unfinished"></translation>
+        <translation>内蔵</translation>
     </message>
     <message>
         <source>removable</source>
-        <translation type="unfinished"></translation>
+        <translation>取り外し可能</translation>
     </message>
     <message>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスク</translation>
     </message>
     <message>
         <source>Disk %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスク%1</translation>
     </message>
     <message>
         <source>Connection (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>接続（ディスク%1）</translation>
     </message>
     <message>
         <source>TRIM</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM</translation>
     </message>
     <message>
         <source>TRIM (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM（ディスク%1）</translation>
     </message>
     <message>
         <source>read only</source>
-        <translation type="unfinished"></translation>
+        <translation>読み出し専用</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリューム</translation>
     </message>
     <message>
         <source>Volume %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリューム%1</translation>
     </message>
     <message>
         <source>Volume space</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリュームの容量</translation>
     </message>
     <message>
         <source>Volume space (volume %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリュームの容量（ボリューム%1）</translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>ストレージ</translation>
     </message>
     <message>
         <source>via Rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosetta経由</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>アーキテクチャ</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>やや高温</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>高温</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>危険</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>システム</translation>
     </message>
     <message>
         <source>Device name</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス名</translation>
     </message>
     <message>
         <source>Model identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>機種ID</translation>
     </message>
     <message>
         <source>Operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>オペレーティングシステム</translation>
     </message>
     <message>
         <source>Uptime</source>
-        <translation type="unfinished"></translation>
+        <translation>稼働時間</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>熱の状態</translation>
     </message>
     <message>
         <source>%1&#xa0;%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Wi-Fi standard in use</source>
-        <translation type="unfinished"></translation>
+        <translation>使用中のWi-Fi規格</translation>
     </message>
     <message>
         <source>Wi-Fi band</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fi帯域</translation>
     </message>
     <message>
         <source>%1&#xa0;GHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GHz</translation>
     </message>
     <message>
         <source>Wi-Fi signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fi信号</translation>
     </message>
     <message>
         <source>Wi-Fi rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fi速度</translation>
     </message>
     <message>
         <source>unified memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ユニファイドメモリ</translation>
     </message>
     <message>
         <source>low power</source>
-        <translation type="unfinished"></translation>
+        <translation>低電力</translation>
     </message>
     <message>
         <source>external eGPU</source>
-        <translation type="unfinished"></translation>
+        <translation>外付けeGPU</translation>
     </message>
     <message>
         <source>None</source>
         <comment>charge limit</comment>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (good)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1 dBm（良好）</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (fair)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1 dBm（普通）</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (weak)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1 dBm（弱い）</translation>
     </message>
 </context>
 <context>
@@ -1141,422 +1141,422 @@
     <message>
         <source>Same as system (%1)</source>
         <extracomment>A choice among languages; %1 is the name of the system&apos;s.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>システムと同じ（%1）</translation>
     </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>%1&#xa0;KB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;KB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;MB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;GB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;GB/s</translation>
     </message>
     <message>
         <source>%1&#xa0;TB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;TB/s</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Swap space that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Battery · charging</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー・充電中</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー</translation>
     </message>
     <message>
         <source>Pressure normal</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリプレッシャー: 正常</translation>
     </message>
     <message>
         <source>Pressure elevated</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリプレッシャー: 高め</translation>
     </message>
     <message>
         <source>Pressure critical</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリプレッシャー: 危険</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>やや高温</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>高温</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>危険</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>不明</translation>
     </message>
 </context>
 <context>
     <name>Report</name>
     <message>
         <source>computer name</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピュータ名</translation>
     </message>
     <message>
         <source>addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレス</translation>
     </message>
     <message>
         <source>volume names</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリューム名</translation>
     </message>
     <message>
         <source>Capability score: %1% (%2 of %3 rated capabilities supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>機能スコア: %1%（評価対象%3件中%2件に対応）</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリ%1</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished"></translation>
+        <translation>ストレージ%1</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>一致する行はありません。</translation>
     </message>
     <message>
         <source>Left out of this report: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>このレポートから除外: %1。</translation>
     </message>
     <message>
         <source>Worth a look</source>
-        <translation type="unfinished"></translation>
+        <translation>注目点</translation>
     </message>
     <message>
         <source>%1 (continued)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（続き）</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ほか%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%2件中%1件に対応</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1／%2</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <extracomment>The title of a report, and the computer’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>This Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>このMac</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータ</translation>
     </message>
     <message>
         <source>What this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>このMacが本当にできること</translation>
     </message>
     <message>
         <source>What this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータが本当にできること</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>%1で作成・データはすべてこのMacで読み取られました</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1で作成・データはすべてこのコンピュータで読み取られました</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished"></translation>
+        <translation>評価対象の機能のうち、このMacが対応する割合</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished"></translation>
+        <translation>評価対象の機能のうち、このコンピュータが対応する割合</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>機能スコア</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>評価対象なし</translation>
     </message>
     <message>
         <source>Quillmark report</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkレポート</translation>
     </message>
     <message>
         <source>In this report</source>
-        <translation type="unfinished"></translation>
+        <translation>このレポートの内容</translation>
     </message>
     <message>
         <source>p. %1</source>
         <extracomment>The number of a page, in a list of contents.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1ページ</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1／%2ページ</translation>
     </message>
     <message>
         <source>Capability</source>
-        <translation type="unfinished"></translation>
+        <translation>機能</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
     <message>
         <source>Inspected on %1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>検査日時: %1 %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 [%3]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 [%3]</translation>
     </message>
     <message>
         <source>Left out</source>
         <extracomment>Stands for a name or an address.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>除外</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレス</translation>
     </message>
     <message>
         <source>Address %1</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレス%1</translation>
     </message>
     <message>
         <source>The report couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートを保存できませんでした。</translation>
     </message>
     <message>
         <source>There is a file with this name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>同じ名前のファイルがすでにあります。</translation>
     </message>
     <message>
         <source>This is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>これはフォルダです。</translation>
     </message>
     <message>
         <source>The folder does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダが存在しません。</translation>
     </message>
     <message>
         <source>You don’t have permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここに書き込む権限がありません。</translation>
     </message>
     <message>
         <source>There is not enough free space on “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”の空き容量が足りません。</translation>
     </message>
     <message>
         <source>The disk is no longer connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクの接続が解除されています。</translation>
     </message>
     <message>
         <source>No file can have this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前のファイルは作れません。</translation>
     </message>
     <message>
         <source>The system says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>システムからの報告: %1</translation>
     </message>
 </context>
 <context>
     <name>Terminal</name>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>変更%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>追加%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>削除%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>First scan</source>
-        <translation type="unfinished"></translation>
+        <translation>最初のスキャン</translation>
     </message>
     <message>
         <source>Another computer</source>
-        <translation type="unfinished"></translation>
+        <translation>別のコンピュータ</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差はありません</translation>
     </message>
     <message>
         <source>Added</source>
-        <translation type="unfinished"></translation>
+        <translation>追加</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>%1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 → %2</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>No saved scans yet</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されたスキャンはまだありません</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>「quillmark history record」はこのコンピュータを検査し、最初のスキャンを保存します。</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>日時</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピュータ</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>システム</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>スコア</translation>
     </message>
     <message>
         <source>Against the scan before</source>
-        <translation type="unfinished"></translation>
+        <translation>前回との差</translation>
     </message>
     <message>
         <source>Scan of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のスキャン</translation>
     </message>
     <message>
         <source>Older</source>
-        <translation type="unfinished"></translation>
+        <translation>古い方</translation>
     </message>
     <message>
         <source>Newer</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい方</translation>
     </message>
     <message>
         <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>2つのスキャンは言語が異なるため、状態の変更だけを表示しています。</translation>
     </message>
     <message>
         <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>どちらのスキャンも同じ機能を示しています。稼働時間のように常に変わる値は比較されません。</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>機能スコア</translation>
     </message>
     <message>
         <source>%1 of %2 rated capabilities supported</source>
-        <translation type="unfinished"></translation>
+        <translation>評価対象%2件中%1件に対応</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>一致する行はありません。</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの健康度</translation>
     </message>
     <message>
         <source>The scan of %1 was removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のスキャンを削除しました。</translation>
     </message>
     <message>
         <source>All saved scans were removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されたスキャンをすべて削除しました。</translation>
     </message>
     <message>
         <source>Scan %1 was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン%1を保存しました。</translation>
     </message>
     <message>
         <source>Nothing has changed since the scan of %1, so none was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のスキャンから変更がないため、保存しませんでした。</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>保存されたスキャン: %n件</numerusform>
         </translation>
     </message>
     <message>
         <source>y, yes</source>
         <extracomment>What may be typed for yes, as shown in &quot;[y/N]&quot;; separated by commas.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>y, yes, はい</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans will be removed. This can’t be undone. Remove them? [y/N]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>保存されたスキャン%n件を削除します。この操作は取り消せません。削除しますか？ [y/N]</numerusform>
         </translation>
     </message>
 </context>
@@ -1564,113 +1564,113 @@
     <name>TerminalMonitor</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプルを収集中…</translation>
     </message>
     <message>
         <source>q ends</source>
-        <translation type="unfinished"></translation>
+        <translation>qで終了</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>1秒ごとに更新・直近2分間</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブモニタ</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサ</translation>
     </message>
     <message numerus="yes">
         <source>%n cores</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nコア</numerusform>
         </translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished"></translation>
+        <translation>コア別</translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>／%1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリ</translation>
     </message>
     <message>
         <source>Used</source>
         <extracomment>A curve: the memory that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>使用中</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>プレッシャー</translation>
     </message>
     <message>
         <source>In</source>
         <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>受信</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>送信</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>現在</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>1分</translation>
     </message>
     <message>
         <source>2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>2分</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>熱の状態</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished"></translation>
+        <translation>使用中のスワップ</translation>
     </message>
     <message>
         <source>Processor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサ%1</translation>
     </message>
     <message>
         <source>Memory %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリ%1／%2</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>A verdict (&quot;Pressure normal&quot;) and its measure.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Swap used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>使用中のスワップ%1</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>受信%1</translation>
     </message>
     <message>
         <source>Out %1</source>
-        <translation type="unfinished"></translation>
+        <translation>送信%1</translation>
     </message>
     <message>
         <source>Thermal state %1</source>
-        <translation type="unfinished"></translation>
+        <translation>熱の状態: %1</translation>
     </message>
 </context>
 </TS>
