@@ -4,12 +4,13 @@
 
 # What Quillmark is built with, and how it gets onto this machine. Sourced by build.sh, whose say and fail it uses.
 
-# Fonts: Noto has Latin, Greek, Cyrillic, Arabic and more, Sawarabi Japanese. poppler-utils reads PDF documents in tests.
+# Fonts: Noto has Latin, Greek, Cyrillic, Arabic and more, Sawarabi Japanese. In tests, poppler-utils reads PDF documents
+# and openssl makes certificates.
 debianPackages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-    qt6-translations-l10n libicu-dev libcli11-dev fonts-noto-core fonts-sawarabi-gothic poppler-utils)
+    qt6-translations-l10n libicu-dev libcli11-dev fonts-noto-core fonts-sawarabi-gothic openssl poppler-utils)
 # What installs the compiler that checks the Mac's sources, which continuous integration must have.
 macCheckPackages=(npm)
-homebrewPackages=(cmake ninja ccache qt icu4c cli11 librsvg poppler)
+homebrewPackages=(cmake ninja ccache qt icu4c cli11 librsvg openssl@3 poppler)
 
 installDebianPackages() {
     local package installed missing=() names=("${debianPackages[@]}")

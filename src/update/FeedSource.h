@@ -53,7 +53,8 @@ struct FetchError
 /// The word for it in the ledger and in JSON: "timedOut".
 QString nameOf(FetchError::Reason reason);
 
-/// A request that was sent, and what came of it.
+/// A request that was sent, and what came of it. Where a connection ends before there is an answer, Qt may
+/// have sent it a few times.
 struct Exchange
 {
     QDateTime date; ///< UTC, when it was sent
