@@ -26,6 +26,10 @@ struct Output
     /// there.
     std::function<QString(const QString &question)> ask;
 
+    /// Whether the answer is a yes, in the interface language or in English; anything else is a no. Somebody
+    /// has to be there.
+    bool confirms(const QString &question) const;
+
     void write(const QString &text) const;
     void write(const QByteArray &utf8) const;
 };

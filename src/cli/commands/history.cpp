@@ -160,25 +160,15 @@ Result remove(const Session &session, const HistoryOptions &options)
     return {};
 }
 
-/// Anything but a yes is a no. An English one counts in every language.
-bool isYes(const QString &answer)
-{
-    //: What may be typed for yes, as shown in "[y/N]"; separated by commas.
-    const auto words = Text::tr("y, yes").split(u',') << u"y"_s << u"yes"_s;
-    return std::ranges::any_of(words, [typed = language::folded(answer.trimmed())](const QString &word) {
-        return language::folded(word.trimmed()) == typed;
-    });
-}
-
 Result clear(const Session &session, const HistoryOptions &options)
 {
     ScanHistory history(session.language(), session.historyFile(), patience);
     const auto count = history.snapshots().size();
-    const auto &ask = session.output().ask;
-    if (ask && !options.isConfirmed && count > 0 &&
-        !isYes(ask(Text::tr("%n saved scans will be removed. This can’t be undone. Remove them? [y/N]",
-                            nullptr, static_cast<int>(count)) +
-                   u' ')))
+    const auto &output = session.output();
+    if (output.ask && !options.isConfirmed && count > 0 &&
+        !output.confirms(Text::tr("%n saved scans will be removed. This can’t be undone. Remove them? [y/N]",
+                                  nullptr, static_cast<int>(count)) +
+                         u' '))
         return std::unexpected(Failure{u"nothing was removed"_s});
     history.clear();
     const auto result = saved(session, history);

@@ -68,7 +68,7 @@ std::expected<update::Trigger, Failure> triggerFor(const UpdateOptions &options,
     const auto host = checker.host();
     if (checker.consent() == UpdateChecker::Consent::NotAsked && output.ask && !host.isEmpty()) {
         output.err << update::consentNote().toStdString() << '\n';
-        checker.setConsent(output.ask(update::consentQuestion(host) + u" [y/N] "_s));
+        checker.setConsent(output.confirms(update::consentQuestion(host) + u" [y/N] "_s));
     }
     if (checker.hasConsent() || host.isEmpty()) // then the address is refused by name
         return update::Trigger::OnDemand;
