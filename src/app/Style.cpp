@@ -40,6 +40,12 @@ bool isDefault(const QStyleOption &option)
     return button && button->features & QStyleOptionButton::DefaultButton;
 }
 
+bool isFlat(const QStyleOption &option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return button && button->features & QStyleOptionButton::Flat;
+}
+
 bool showsFocus(const QStyleOption &option, const QWidget *widget)
 {
     return option.state & QStyle::State_HasFocus && widget && hasKeyboardFocus(*widget);
@@ -59,9 +65,26 @@ void drawButtonGround(const QStyleOption &option, QPainter &painter, const QWidg
         paintBox(painter, bounds, buttonRadius,
                  groundOf(option, appearance.color(isOn ? Role::AccentSoft : Role::Control)),
                  appearance.color(isOn ? Role::Accent : Role::ControlBorder));
+    if (showsFocus(option, widget)) {
+        paintFocusRing(painter, bounds, buttonRadius);
+        if (isDefault(option)) // which is as blue as the ring
+            paintBox(painter, bounds.adjusted(2, 2, -2, -2), buttonRadius - 2, {},
+                     appearance.color(Role::OnAccent));
+    }
+    painter.restore();
+}
+
+/// A button without a ground of its own, until the pointer or the focus comes.
+void drawFlatButton(const QStyleOption &option, QPainter &painter, const QWidget *widget)
+{
+    const QRectF bounds(option.rect);
+    auto veil = Appearance::current().color(Role::Text);
+    veil.setAlphaF(option.state & QStyle::State_Sunken ? 0.12F : 0.08F);
+    if (option.state & QStyle::State_Enabled &&
+        option.state & (QStyle::State_Sunken | QStyle::State_MouseOver))
+        paintBox(painter, bounds, buttonRadius, veil, {});
     if (showsFocus(option, widget))
         paintFocusRing(painter, bounds, buttonRadius);
-    painter.restore();
 }
 
 void drawFieldGround(const QStyleOption &option, QPainter &painter)
@@ -135,10 +158,17 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                         const QWidget *widget) const
 {
-    if (element == CE_PushButtonLabel && isDefault(*option)) {
+    const bool isColored = isDefault(*option) || isFlat(*option);
+    if (element == CE_PushButtonLabel && isColored && option->state & State_Enabled) {
         auto label = *qstyleoption_cast<const QStyleOptionButton *>(option);
-        label.palette.setColor(QPalette::ButtonText, Appearance::current().color(Role::OnAccent));
+        label.palette.setColor(
+            QPalette::ButtonText,
+            Appearance::current().color(isDefault(*option) ? Role::OnAccent : Role::AccentText));
         QProxyStyle::drawControl(element, &label, painter, widget);
+        return;
+    }
+    if (element == CE_PushButtonBevel && isFlat(*option)) {
+        drawFlatButton(*option, *painter, widget);
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
