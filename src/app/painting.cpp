@@ -18,6 +18,8 @@
 
 namespace quillmark::app {
 
+using design::Role;
+
 namespace {
 
 /// Remembers whether the focus came to its widget by keys.
@@ -140,6 +142,16 @@ void paintBox(QPainter &painter, const QRectF &rectangle, qreal radius, const QC
         painter.setPen(Qt::NoPen);
         painter.drawRoundedRect(rectangle, radius, radius);
     }
+    painter.restore();
+}
+
+void paintCardPart(QPainter &painter, const QRectF &row, CardEdges edges, Role ground)
+{
+    const auto &appearance = Appearance::current();
+    const auto card = row.adjusted(0, edges.first ? 0 : -2 * cardRadius, 0, edges.last ? 0 : 2 * cardRadius);
+    painter.save();
+    painter.setClipRect(row, Qt::IntersectClip);
+    paintBox(painter, card, cardRadius, appearance.color(ground), appearance.color(Role::CardBorder));
     painter.restore();
 }
 

@@ -36,6 +36,16 @@ QColor over(const QColor &ground, const QColor &color, qreal share);
 void paintBox(QPainter &painter, const QRectF &rectangle, qreal radius, const QColor &fill,
               const QColor &border);
 
+/// Which rows of a card a list's row is.
+struct CardEdges
+{
+    bool first = false;
+    bool last = false;
+};
+
+/// The part of a card that lies behind one row of a list: its sides, and its top and bottom at the ends.
+void paintCardPart(QPainter &painter, const QRectF &row, CardEdges edges, design::Role ground);
+
 /// A line as thin as the screen can draw, from (x1, y) to (x2, y).
 void paintHairline(QPainter &painter, qreal x1, qreal x2, qreal y, const QColor &color);
 

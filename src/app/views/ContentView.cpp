@@ -193,6 +193,7 @@ Kind *ContentView::page(const std::function<void(Kind &)> &connectPage)
         connect(made, &Page::headerChanged, this, &ContentView::updateHeader);
         connect(made, &Page::statusChanged, this, &ContentView::updateActions);
         connect(made, &Page::copied, m_header, &Header::showCopied);
+        connect(made, &Page::noticeAsked, m_notices, &NoticeBar::show);
         if (connectPage)
             connectPage(*made);
     }
@@ -289,6 +290,8 @@ void ContentView::updateHeader()
     m_header->setTitle(!title.isEmpty() ? title : summary ? summary->deviceName : QString(), title.isEmpty());
     m_header->setNote(page->headerSymbol(), page->headerNote());
     m_header->setSearchable(page->isSearchable());
+    m_header->setCanGoBack(page->canGoBack());
+    m_header->setPageAction(page->headerAction());
 }
 
 /// Copy and delete stay enabled, so that their keys work: what they find to do, they see then.

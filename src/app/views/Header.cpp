@@ -6,6 +6,7 @@
 #include "app/Appearance.h"
 #include "app/painting.h"
 #include "app/views/Actions.h"
+#include "app/widgets/Button.h"
 #include "app/widgets/IconButton.h"
 #include "app/widgets/TextLabel.h"
 
@@ -90,6 +91,8 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
     , m_title(new ElidedLabel(TextRole::Header, Role::Text, this))
     , m_note(new Note(this))
     , m_search(new QLineEdit(this))
+    , m_back(new IconButton(u"chevron.left"_s, this))
+    , m_pageButton(new Button(Button::Kind::Normal, {}, this))
     , m_inspect(new IconButton(u"arrow.clockwise"_s, this))
     , m_copy(new IconButton(u"doc.on.doc"_s, this))
     , m_export(new IconButton(u"square.and.arrow.up"_s, this))
@@ -107,10 +110,12 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(28, 0, 20, 0);
     row->setSpacing(8);
+    row->addWidget(m_back);
     row->addWidget(m_machine, 1);
     row->addWidget(m_title, 1);
     row->addWidget(m_note);
     row->addWidget(m_search);
+    row->addWidget(m_pageButton);
     row->addWidget(new Separator(this));
     for (auto *button : {m_inspect, m_copy, m_export})
         row->addWidget(button);
@@ -123,6 +128,12 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
         row->addWidget(m_menu);
     }
     m_note->hide();
+    m_back->hide();
+    m_pageButton->hide();
+    connect(m_pageButton, &QAbstractButton::clicked, this, [this] {
+        if (m_pageAction)
+            m_pageAction->trigger();
+    });
 
     m_copied->setSingleShot(true);
     m_copied->setInterval(copiedFor);
@@ -151,6 +162,21 @@ void Header::setNote(const QString &symbol, const QString &text)
 void Header::setSearchable(bool isSearchable)
 {
     m_search->setVisible(isSearchable);
+}
+
+void Header::setCanGoBack(bool canGoBack)
+{
+    m_back->setVisible(canGoBack);
+    // The button's own margin makes up for what the bar's lacks.
+    layout()->setContentsMargins(canGoBack ? 16 : 28, 0, 20, 0);
+}
+
+void Header::setPageAction(QAction *action)
+{
+    m_pageAction = action;
+    m_pageButton->setVisible(action);
+    if (action)
+        m_pageButton->setText(action->text());
 }
 
 void Header::openMenu()
@@ -190,6 +216,7 @@ void Header::retranslate()
     m_search->setPlaceholderText(tr("Search capabilities"));
     m_search->setAccessibleName(tr("Search capabilities"));
     m_clear->setText(tr("Clear search"));
+    m_back->setAction(m_actions.back, tr("Back"));
     m_inspect->setAction(m_actions.inspectAgain, tr("Inspect again"));
     m_copy->setAction(m_actions.copyAsText, tr("Copy as text"));
     m_export->setAction(m_actions.exportReport, tr("Export…"));

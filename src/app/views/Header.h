@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -17,6 +18,7 @@ namespace quillmark::app {
 
 class Actions;
 class TextLabel;
+class Button;
 class ElidedLabel;
 class IconButton;
 
@@ -34,6 +36,10 @@ public:
     /// An icon and a few words at the trailing edge; empty: none.
     void setNote(const QString &symbol, const QString &text);
     void setSearchable(bool isSearchable);
+    /// The button that goes back, before the title.
+    void setCanGoBack(bool canGoBack);
+    /// The button of the page's own; nullptr: none.
+    void setPageAction(QAction *action);
 
     QLineEdit *search() const { return m_search; }
     void openMenu();
@@ -57,6 +63,9 @@ private:
     QLineEdit *m_search;
     QAction *m_searchIcon;
     QAction *m_clear;
+    IconButton *m_back;
+    Button *m_pageButton;
+    QPointer<QAction> m_pageAction;
     IconButton *m_inspect;
     IconButton *m_copy;
     IconButton *m_export;

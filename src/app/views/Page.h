@@ -10,9 +10,12 @@
 
 #include <optional>
 
+class QAction;
 class QVBoxLayout;
 
 namespace quillmark::app {
+
+struct Notice;
 
 /// A page of the window: one column that scrolls, at most 1160 wide and then in the middle. Texts are set
 /// again when the language changes, the arrangement when the width or the text size does.
@@ -29,6 +32,8 @@ public:
     /// by headerChanged().
     virtual QString headerSymbol() const { return {}; }
     virtual QString headerNote() const { return {}; }
+    /// A command of the page's own that has its button in the header; nullptr: none. Announced likewise.
+    virtual QAction *headerAction() const { return nullptr; }
     /// Whether the search for capabilities stands in the header.
     virtual bool isSearchable() const { return true; }
 
@@ -42,6 +47,8 @@ public:
     virtual bool copyAsText() { return false; }
     virtual bool canDelete() const { return false; }
     virtual void deleteSelected() {}
+    /// Whether the page shows something within it that one goes back from. Announced by headerChanged().
+    virtual bool canGoBack() const { return false; }
     /// Back, or Esc. Whether there was something to go back from within the page.
     virtual bool goBack() { return false; }
     /// The filter by status, on the pages that have one. None: all.
@@ -57,6 +64,8 @@ Q_SIGNALS:
     void statusChanged();
     /// The page has put something on the clipboard.
     void copied();
+    /// The window is to tell this.
+    void noticeAsked(const quillmark::app::Notice &notice);
 
 protected:
     /// The column. Rows added to it fill its width.
