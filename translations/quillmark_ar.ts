@@ -5,1145 +5,1145 @@
     <name>Battery</name>
     <message>
         <source>Not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>غير مُبلَّغ عنه</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>عادية</translation>
     </message>
     <message>
         <source>Reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>منخفضة</translation>
     </message>
     <message>
         <source>Worn</source>
-        <translation type="unfinished"></translation>
+        <translation>بالية</translation>
     </message>
     <message>
         <source>Cold</source>
-        <translation type="unfinished"></translation>
+        <translation>باردة</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>ساخنة</translation>
     </message>
     <message>
         <source>Service recommended</source>
-        <translation type="unfinished"></translation>
+        <translation>يُنصح بالصيانة</translation>
     </message>
     <message>
         <source>Permanent failure</source>
-        <translation type="unfinished"></translation>
+        <translation>عطل دائم</translation>
     </message>
     <message>
         <source>This battery needs attention.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحتاج هذه البطارية إلى الانتباه.</translation>
     </message>
     <message>
         <source>This battery does not tell how much it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تُبلغ هذه البطارية عن مقدار الشحن الذي تحتفظ به.</translation>
     </message>
     <message>
         <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذه البطارية في حالة جيدة. تحتفظ بالشحن نفسه تقريبًا كما كانت جديدة.</translation>
     </message>
     <message>
         <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحتفظ هذه البطارية بشحن أقل من السابق. لا تزال تعمل جيدًا، لكنها تدوم مدة أقصر بوضوح.</translation>
     </message>
     <message>
         <source>This battery is worn. Consider having it replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذه البطارية بالية. فكّر في استبدالها.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>
-        <translation type="unfinished"></translation>
+        <translation>بلغت عدد الدورات الذي صُممت له.</translation>
     </message>
     <message>
         <source>It is hot.</source>
-        <translation type="unfinished"></translation>
+        <translation>إنها ساخنة.</translation>
     </message>
     <message>
         <source>%1 of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من السعة التصميمية</translation>
     </message>
     <message>
         <source>macOS reports %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يُبلغ macOS عن %1</translation>
     </message>
     <message>
         <source>macOS smooths its figure and keeps a reserve, so the two can differ by a few points.</source>
-        <translation type="unfinished"></translation>
+        <translation>يقوم macOS بتنعيم رقمه ويحتفظ باحتياطي، لذا قد يختلف الرقمان بضع نقاط.</translation>
     </message>
     <message>
         <source>This Mac has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد بطارية في هذا الـ Mac</translation>
     </message>
     <message>
         <source>This computer has no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد بطارية في هذا الكمبيوتر</translation>
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>تظهر صحة البطارية على أجهزة Mac المحمولة. كل شيء آخر في Quillmark يعمل كالمعتاد.</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>تظهر صحة البطارية على أجهزة الكمبيوتر المحمولة. كل شيء آخر في Quillmark يعمل كالمعتاد.</translation>
     </message>
 </context>
 <context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
-        <translation type="unfinished"></translation>
+        <translation>مدعوم</translation>
     </message>
     <message>
         <source>Not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>غير مدعوم</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>تحذير</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>معلومة</translation>
     </message>
     <message>
         <source>Not requested yet</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُطلب بعد</translation>
     </message>
     <message>
         <source>Restricted</source>
-        <translation type="unfinished"></translation>
+        <translation>مقيَّد</translation>
     </message>
     <message>
         <source>Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>مرفوض</translation>
     </message>
     <message>
         <source>Allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>مسموح</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>Internal</source>
         <extracomment>How a display is connected.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>داخلية</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Of a processor, a camera, a device: there is none.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد</translation>
     </message>
     <message>
         <source>None (desktop)</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد (مكتبي)</translation>
     </message>
     <message>
         <source>Bluetooth device</source>
-        <translation type="unfinished"></translation>
+        <translation>جهاز Bluetooth</translation>
     </message>
     <message>
         <source>AirPlay device</source>
-        <translation type="unfinished"></translation>
+        <translation>جهاز AirPlay</translation>
     </message>
     <message>
         <source>iPhone or iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhone أو iPad</translation>
     </message>
     <message>
         <source>%1&#xa0;kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 كيلوهرتز</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n channels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1، %n قناة</numerusform>
+            <numerusform>%1، قناة واحدة</numerusform>
+            <numerusform>%1، قناتان</numerusform>
+            <numerusform>%1، %n قنوات</numerusform>
+            <numerusform>%1، %n قناة</numerusform>
+            <numerusform>%1، %n قناة</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 (call quality: a microphone is in use)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (جودة مكالمة: ميكروفون قيد الاستخدام)</translation>
     </message>
     <message>
         <source>Built-in speakers</source>
-        <translation type="unfinished"></translation>
+        <translation>مكبرات صوت مدمجة</translation>
     </message>
     <message>
         <source>Built-in microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>ميكروفون مدمج</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation>إخراج الصوت</translation>
     </message>
     <message>
         <source>Output format</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق الإخراج</translation>
     </message>
     <message>
         <source>Highest output rate</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى معدل إخراج</translation>
     </message>
     <message>
         <source>Sound input</source>
-        <translation type="unfinished"></translation>
+        <translation>إدخال الصوت</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من %2</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;من %2&#xa0;واط ساعة</translation>
     </message>
     <message>
         <source>%1 of %2&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;من %2&#xa0;ملي أمبير ساعة</translation>
     </message>
     <message>
         <source>−%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;°م</translation>
     </message>
     <message>
         <source>%1&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;°م</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>قيد الشحن</translation>
     </message>
     <message>
         <source>Full</source>
         <extracomment>Of a battery.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مكتملة</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>متصلة، لا تُشحن</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>على البطارية</translation>
     </message>
     <message>
         <source>Being estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>قيد التقدير</translation>
     </message>
     <message>
         <source>%1 until full</source>
         <extracomment>%1 is a duration.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 حتى الاكتمال</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>صحة البطارية</translation>
     </message>
     <message>
         <source>Battery condition</source>
-        <translation type="unfinished"></translation>
+        <translation>حالة البطارية</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد الدورات</translation>
     </message>
     <message>
         <source>Battery capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>سعة البطارية</translation>
     </message>
     <message>
         <source>Battery temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة حرارة البطارية</translation>
     </message>
     <message>
         <source>Charge</source>
         <extracomment>How full the battery is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الشحن</translation>
     </message>
     <message>
         <source>Time remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>الوقت المتبقي</translation>
     </message>
     <message>
         <source>built in</source>
-        <translation type="unfinished"></translation>
+        <translation>مدمجة</translation>
     </message>
     <message>
         <source>external</source>
-        <translation type="unfinished"></translation>
+        <translation>خارجية</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>الكاميرا</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الكاميرا %1</translation>
     </message>
     <message>
         <source>Best picture</source>
         <extracomment>The largest picture that the camera gives.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أفضل صورة</translation>
     </message>
     <message>
         <source>Best picture (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>أفضل صورة (الكاميرا %1)</translation>
     </message>
     <message>
         <source>%1, up to %2 frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، حتى %2 إطار في الثانية</translation>
     </message>
     <message>
         <source>Center Stage</source>
-        <translation type="unfinished"></translation>
+        <translation>في المنتصف</translation>
     </message>
     <message>
         <source>Center Stage (camera %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>في المنتصف (الكاميرا %1)</translation>
     </message>
     <message>
         <source>Sound card</source>
-        <translation type="unfinished"></translation>
+        <translation>بطاقة الصوت</translation>
     </message>
     <message>
         <source>output</source>
         <extracomment>A sound card plays; the next: it records.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>إخراج</translation>
     </message>
     <message>
         <source>input</source>
-        <translation type="unfinished"></translation>
+        <translation>إدخال</translation>
     </message>
     <message>
         <source>Sound card %1</source>
-        <translation type="unfinished"></translation>
+        <translation>بطاقة الصوت %1</translation>
     </message>
     <message>
         <source>Camera access</source>
-        <translation type="unfinished"></translation>
+        <translation>الوصول إلى الكاميرا</translation>
     </message>
     <message>
         <source>Microphone access</source>
-        <translation type="unfinished"></translation>
+        <translation>الوصول إلى الميكروفون</translation>
     </message>
     <message>
         <source>Camera &amp; Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>الكاميرا والصوت</translation>
     </message>
     <message>
         <source>main</source>
         <extracomment>Stands behind a display’s name in parentheses.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>رئيسية</translation>
     </message>
     <message>
         <source>mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>منسوخة</translation>
     </message>
     <message>
         <source>%1, up to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، حتى %2&#xa0;هرتز</translation>
     </message>
     <message>
         <source>%1, %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2&#xa0;هرتز</translation>
     </message>
     <message>
         <source>%1×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1×</translation>
     </message>
     <message>
         <source>%1 (looks like %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (تبدو مثل %2)</translation>
     </message>
     <message>
         <source>Fixed</source>
         <extracomment>Of a display’s refresh rate.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ثابت</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz (ProMotion)</source>
-        <translation type="unfinished"></translation>
+        <translation>من %1&#xa0;إلى %2&#xa0;هرتز (ProMotion)</translation>
     </message>
     <message>
         <source>%1 to %2&#xa0;Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>من %1&#xa0;إلى %2&#xa0;هرتز</translation>
     </message>
     <message>
         <source>Up to %1×</source>
-        <translation type="unfinished"></translation>
+        <translation>حتى %1×</translation>
     </message>
     <message>
         <source>%1&#xa0;in, %2 pixels per inch</source>
         <extracomment>A size in inches.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;بوصة، %2&#xa0;بكسل لكل بوصة</translation>
     </message>
     <message>
         <source>%1&#xa0;in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;بوصة</translation>
     </message>
     <message>
         <source>Variable refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل تحديث متغير</translation>
     </message>
     <message>
         <source>Variable refresh rate (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل تحديث متغير (الشاشة %1)</translation>
     </message>
     <message>
         <source>Extended dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>نطاق ديناميكي موسّع</translation>
     </message>
     <message>
         <source>Extended dynamic range (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>نطاق ديناميكي موسّع (الشاشة %1)</translation>
     </message>
     <message>
         <source>Wide color</source>
-        <translation type="unfinished"></translation>
+        <translation>ألوان واسعة</translation>
     </message>
     <message>
         <source>Wide color (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ألوان واسعة (الشاشة %1)</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>الشاشة</translation>
     </message>
     <message>
         <source>Display %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الشاشة %1</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>الدقة</translation>
     </message>
     <message>
         <source>Resolution (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>الدقة (الشاشة %1)</translation>
     </message>
     <message>
         <source>Scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>التحجيم</translation>
     </message>
     <message>
         <source>Scaling (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>التحجيم (الشاشة %1)</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم</translation>
     </message>
     <message>
         <source>Size (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم (الشاشة %1)</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال</translation>
     </message>
     <message>
         <source>Connection (display %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال (الشاشة %1)</translation>
     </message>
     <message>
         <source>Displays connected</source>
-        <translation type="unfinished"></translation>
+        <translation>الشاشات المتصلة</translation>
     </message>
     <message>
         <source>Displays</source>
-        <translation type="unfinished"></translation>
+        <translation>الشاشات</translation>
     </message>
     <message>
         <source>GPU</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU</translation>
     </message>
     <message>
         <source>GPU %1</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU %1</translation>
     </message>
     <message>
         <source>Requires macOS 26</source>
-        <translation type="unfinished"></translation>
+        <translation>يتطلب macOS 26</translation>
     </message>
     <message>
         <source>Recommended GPU memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ذاكرة GPU الموصى بها</translation>
     </message>
     <message>
         <source>Apple GPU family</source>
-        <translation type="unfinished"></translation>
+        <translation>عائلة Apple GPU</translation>
     </message>
     <message>
         <source>Ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>تتبع الأشعة</translation>
     </message>
     <message>
         <source>Hardware ray tracing</source>
-        <translation type="unfinished"></translation>
+        <translation>تتبع الأشعة بالعتاد</translation>
     </message>
     <message>
         <source>Graphics &amp; Metal</source>
-        <translation type="unfinished"></translation>
+        <translation>الرسومات و Metal</translation>
     </message>
     <message>
         <source>On, encrypting</source>
-        <translation type="unfinished"></translation>
+        <translation>مفعّل، قيد التشفير</translation>
     </message>
     <message>
         <source>Turning off</source>
-        <translation type="unfinished"></translation>
+        <translation>قيد الإيقاف</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>مفعّل</translation>
     </message>
     <message>
         <source>Off (the disk is still encrypted by hardware)</source>
-        <translation type="unfinished"></translation>
+        <translation>متوقف (لا يزال القرص مشفرًا بالعتاد)</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>متوقف</translation>
     </message>
     <message>
         <source>Partly on</source>
-        <translation type="unfinished"></translation>
+        <translation>مفعّل جزئيًا</translation>
     </message>
     <message>
         <source>On, blocks all incoming connections</source>
-        <translation type="unfinished"></translation>
+        <translation>مفعّل، يحظر جميع الاتصالات الواردة</translation>
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>متوفر</translation>
     </message>
     <message>
         <source>Turned off in System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>متوقف في إعدادات النظام</translation>
     </message>
     <message>
         <source>Not ready (downloading, or not offered for this language or region)</source>
-        <translation type="unfinished"></translation>
+        <translation>غير جاهز (قيد التنزيل، أو غير متاح لهذه اللغة أو المنطقة)</translation>
     </message>
     <message>
         <source>Neural Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Neural Engine</translation>
     </message>
     <message>
         <source>CPU only</source>
-        <translation type="unfinished"></translation>
+        <translation>CPU فقط</translation>
     </message>
     <message>
         <source>Core ML acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>تسريع Core ML</translation>
     </message>
     <message>
         <source>Neural Engine cores</source>
-        <translation type="unfinished"></translation>
+        <translation>أنوية Neural Engine</translation>
     </message>
     <message>
         <source>GPU cores</source>
-        <translation type="unfinished"></translation>
+        <translation>أنوية GPU</translation>
     </message>
     <message>
         <source>Int8 matrix instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>تعليمات مصفوفات Int8</translation>
     </message>
     <message>
         <source>Found, no driver</source>
-        <translation type="unfinished"></translation>
+        <translation>موجود، دون برنامج تشغيل</translation>
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد إذن</translation>
     </message>
     <message>
         <source>Neural processor</source>
-        <translation type="unfinished"></translation>
+        <translation>معالج عصبي</translation>
     </message>
     <message>
         <source>GPU computing</source>
-        <translation type="unfinished"></translation>
+        <translation>حوسبة GPU</translation>
     </message>
     <message>
         <source>Artificial Intelligence</source>
-        <translation type="unfinished"></translation>
+        <translation>الذكاء الاصطناعي</translation>
     </message>
     <message>
         <source>Virtual machine</source>
-        <translation type="unfinished"></translation>
+        <translation>جهاز افتراضي</translation>
     </message>
     <message>
         <source>SELinux, enforcing</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux، ملزم</translation>
     </message>
     <message>
         <source>SELinux, permissive</source>
-        <translation type="unfinished"></translation>
+        <translation>SELinux، متساهل</translation>
     </message>
     <message>
         <source>All mitigated</source>
-        <translation type="unfinished"></translation>
+        <translation>تمت معالجتها كلها</translation>
     </message>
     <message numerus="yes">
         <source>%n not mitigated</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تُعالج أي ثغرة</numerusform>
+            <numerusform>ثغرة واحدة غير معالجة</numerusform>
+            <numerusform>ثغرتان غير معالجتين</numerusform>
+            <numerusform>%n ثغرات غير معالجة</numerusform>
+            <numerusform>%n ثغرة غير معالجة</numerusform>
+            <numerusform>%n ثغرة غير معالجة</numerusform>
         </translation>
     </message>
     <message>
         <source>Secure boot</source>
-        <translation type="unfinished"></translation>
+        <translation>الإقلاع الآمن</translation>
     </message>
     <message>
         <source>Disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>تشفير القرص</translation>
     </message>
     <message>
         <source>Access control</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم في الوصول</translation>
     </message>
     <message>
         <source>Processor vulnerabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>ثغرات المعالج</translation>
     </message>
     <message>
         <source>Sealed</source>
         <extracomment>Of the system volume, which is signed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مختوم</translation>
     </message>
     <message>
         <source>Not sealed</source>
-        <translation type="unfinished"></translation>
+        <translation>غير مختوم</translation>
     </message>
     <message>
         <source>Broken</source>
-        <translation type="unfinished"></translation>
+        <translation>مكسور</translation>
     </message>
     <message>
         <source>Sealed system volume</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة تخزين النظام المختومة</translation>
     </message>
     <message>
         <source>No security</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا أمان</translation>
     </message>
     <message>
         <source>Medium security</source>
-        <translation type="unfinished"></translation>
+        <translation>أمان متوسط</translation>
     </message>
     <message>
         <source>Full security</source>
-        <translation type="unfinished"></translation>
+        <translation>أمان كامل</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>غير متصل</translation>
     </message>
     <message>
         <source>Available, not set up</source>
-        <translation type="unfinished"></translation>
+        <translation>متوفر، غير مُعد</translation>
     </message>
     <message>
         <source>Available, locked</source>
-        <translation type="unfinished"></translation>
+        <translation>متوفر، مقفل</translation>
     </message>
     <message>
         <source>System Integrity Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>حماية تكامل النظام</translation>
     </message>
     <message>
         <source>Firewall</source>
-        <translation type="unfinished"></translation>
+        <translation>جدار الحماية</translation>
     </message>
     <message>
         <source>Secure Enclave</source>
-        <translation type="unfinished"></translation>
+        <translation>Secure Enclave</translation>
     </message>
     <message>
         <source>Lockdown Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط المنع</translation>
     </message>
     <message>
         <source>Hardware</source>
         <extracomment>Video is decoded or encoded by a part of the processor made for it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>بالعتاد</translation>
     </message>
     <message>
         <source>Not in hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس بالعتاد</translation>
     </message>
     <message>
         <source>Software only</source>
-        <translation type="unfinished"></translation>
+        <translation>بالبرمجيات فقط</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة وكتابة</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة فقط</translation>
     </message>
     <message>
         <source>H.264 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>فك ترميز H.264</translation>
     </message>
     <message>
         <source>HEVC decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>فك ترميز HEVC</translation>
     </message>
     <message>
         <source>VP9 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>فك ترميز VP9</translation>
     </message>
     <message>
         <source>AV1 decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>فك ترميز AV1</translation>
     </message>
     <message>
         <source>ProRes decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>فك ترميز ProRes</translation>
     </message>
     <message>
         <source>H.264 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ترميز H.264</translation>
     </message>
     <message>
         <source>HEVC encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ترميز HEVC</translation>
     </message>
     <message>
         <source>ProRes encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ترميز ProRes</translation>
     </message>
     <message>
         <source>AV1 encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>ترميز AV1</translation>
     </message>
     <message>
         <source>HEIC images</source>
-        <translation type="unfinished"></translation>
+        <translation>صور HEIC</translation>
     </message>
     <message>
         <source>AVIF images</source>
-        <translation type="unfinished"></translation>
+        <translation>صور AVIF</translation>
     </message>
     <message>
         <source>Not readable (vainfo is not installed)</source>
-        <translation type="unfinished"></translation>
+        <translation>غير قابل للقراءة (vainfo غير مثبت)</translation>
     </message>
     <message>
         <source>Not readable (the GPU is asleep)</source>
-        <translation type="unfinished"></translation>
+        <translation>غير قابل للقراءة (GPU في سكون)</translation>
     </message>
     <message>
         <source>Video driver</source>
-        <translation type="unfinished"></translation>
+        <translation>برنامج تشغيل الفيديو</translation>
     </message>
     <message>
         <source>Media</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسائط</translation>
     </message>
     <message>
         <source>Cellular</source>
         <extracomment>How the computer is connected: by a mobile network, or in another way.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>خلوي</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>أخرى</translation>
     </message>
     <message>
         <source>Not offered by this network</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تقدمها هذه الشبكة</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>غير متوفر</translation>
     </message>
     <message>
         <source>Metered connection</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال محدود الاستخدام</translation>
     </message>
     <message>
         <source>Low Data Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط البيانات المنخفضة</translation>
     </message>
     <message>
         <source>%1 (self-assigned)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (معيَّن ذاتيًا)</translation>
     </message>
     <message>
         <source>Address (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان (%1)</translation>
     </message>
     <message>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>نشط</translation>
     </message>
     <message>
         <source>None detected</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُكتشف شيء</translation>
     </message>
     <message>
         <source>%1&#xa0;Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ميغابت/ث</translation>
     </message>
     <message>
         <source>%1, full duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، مزدوج كامل</translation>
     </message>
     <message>
         <source>%1, half duplex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، مزدوج نصفي</translation>
     </message>
     <message>
         <source>Ethernet speed</source>
-        <translation type="unfinished"></translation>
+        <translation>سرعة Ethernet</translation>
     </message>
     <message>
         <source>Ethernet speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>سرعة Ethernet %1</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة</translation>
     </message>
     <message>
         <source>Power adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>محول الطاقة</translation>
     </message>
     <message>
         <source>Mains power</source>
-        <translation type="unfinished"></translation>
+        <translation>التيار الكهربائي</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>البطارية</translation>
     </message>
     <message>
         <source>UPS</source>
-        <translation type="unfinished"></translation>
+        <translation>UPS</translation>
     </message>
     <message>
         <source>Built in</source>
         <extracomment>Of a battery: it has one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مدمجة</translation>
     </message>
     <message>
         <source>%1&#xa0;W</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;واط</translation>
     </message>
     <message>
         <source>Balanced</source>
         <extracomment>This and the next four are power profiles of the firmware: of the fans, noise and heat.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>متوازن</translation>
     </message>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>الأداء</translation>
     </message>
     <message>
         <source>Low power</source>
-        <translation type="unfinished"></translation>
+        <translation>طاقة منخفضة</translation>
     </message>
     <message>
         <source>Quiet</source>
-        <translation type="unfinished"></translation>
+        <translation>هادئ</translation>
     </message>
     <message>
         <source>Cool</source>
-        <translation type="unfinished"></translation>
+        <translation>تبريد</translation>
     </message>
     <message>
         <source>Low power mode</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الطاقة المنخفضة</translation>
     </message>
     <message>
         <source>Charge limit</source>
-        <translation type="unfinished"></translation>
+        <translation>حد الشحن</translation>
     </message>
     <message>
         <source>Power profile</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف الطاقة</translation>
     </message>
     <message>
         <source>Power source</source>
-        <translation type="unfinished"></translation>
+        <translation>مصدر الطاقة</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>الطاقة</translation>
     </message>
     <message>
         <source>SME instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>تعليمات SME</translation>
     </message>
     <message>
         <source>BF16 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>تعليمات BF16</translation>
     </message>
     <message>
         <source>AVX2 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>تعليمات AVX2</translation>
     </message>
     <message>
         <source>AVX-512 instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>تعليمات AVX-512</translation>
     </message>
     <message>
         <source>Physical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>الأنوية الفعلية</translation>
     </message>
     <message>
         <source>Logical cores</source>
-        <translation type="unfinished"></translation>
+        <translation>الأنوية المنطقية</translation>
     </message>
     <message>
         <source>Performance cores</source>
-        <translation type="unfinished"></translation>
+        <translation>أنوية الأداء</translation>
     </message>
     <message>
         <source>Efficiency cores</source>
-        <translation type="unfinished"></translation>
+        <translation>أنوية الكفاءة</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>المعالج</translation>
     </message>
     <message>
         <source>Max frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>أقصى تردد</translation>
     </message>
     <message>
         <source>Memory (RAM)</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة (RAM)</translation>
     </message>
     <message>
         <source>Processor &amp; Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>المعالج والذاكرة</translation>
     </message>
     <message>
         <source>Not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>غير قابل للقراءة</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>نعم</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>لا</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>الأمان</translation>
     </message>
     <message>
         <source>%1 (low)</source>
         <extracomment>%1 is the space that is free.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (قليلة)</translation>
     </message>
     <message>
         <source>File cloning</source>
-        <translation type="unfinished"></translation>
+        <translation>استنساخ الملفات</translation>
     </message>
     <message>
         <source>Case-sensitive names</source>
-        <translation type="unfinished"></translation>
+        <translation>تمييز حالة الأحرف</translation>
     </message>
     <message>
         <source>Start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة تخزين بدء التشغيل</translation>
     </message>
     <message>
         <source>Capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>السعة</translation>
     </message>
     <message>
         <source>Available space</source>
-        <translation type="unfinished"></translation>
+        <translation>المساحة المتوفرة</translation>
     </message>
     <message>
         <source>File system</source>
-        <translation type="unfinished"></translation>
+        <translation>نظام الملفات</translation>
     </message>
     <message>
         <source>SSD</source>
-        <translation type="unfinished"></translation>
+        <translation>SSD</translation>
     </message>
     <message>
         <source>hard disk</source>
-        <translation type="unfinished"></translation>
+        <translation>قرص صلب</translation>
     </message>
     <message>
         <source>internal</source>
-        <translation type="unfinished"></translation>
+        <translation>داخلي</translation>
     </message>
     <message>
         <source>removable</source>
-        <translation type="unfinished"></translation>
+        <translation>قابل للإزالة</translation>
     </message>
     <message>
         <source>Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>القرص</translation>
     </message>
     <message>
         <source>Disk %1</source>
-        <translation type="unfinished"></translation>
+        <translation>القرص %1</translation>
     </message>
     <message>
         <source>Connection (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال (القرص %1)</translation>
     </message>
     <message>
         <source>TRIM</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM</translation>
     </message>
     <message>
         <source>TRIM (disk %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>TRIM (القرص %1)</translation>
     </message>
     <message>
         <source>read only</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة فقط</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة التخزين</translation>
     </message>
     <message>
         <source>Volume %1</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدة التخزين %1</translation>
     </message>
     <message>
         <source>Volume space</source>
-        <translation type="unfinished"></translation>
+        <translation>مساحة وحدة التخزين</translation>
     </message>
     <message>
         <source>Volume space (volume %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>مساحة وحدة التخزين (%1)</translation>
     </message>
     <message>
         <source>Storage</source>
-        <translation type="unfinished"></translation>
+        <translation>التخزين</translation>
     </message>
     <message>
         <source>via Rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>عبر Rosetta</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>البنية</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>عادية</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>دافئة</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>ساخنة</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>حرجة</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>النظام</translation>
     </message>
     <message>
         <source>Device name</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الجهاز</translation>
     </message>
     <message>
         <source>Model identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>معرّف الطراز</translation>
     </message>
     <message>
         <source>Operating system</source>
-        <translation type="unfinished"></translation>
+        <translation>نظام التشغيل</translation>
     </message>
     <message>
         <source>Uptime</source>
-        <translation type="unfinished"></translation>
+        <translation>مدة التشغيل</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة الحرارية</translation>
     </message>
     <message>
         <source>%1&#xa0;%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Wi-Fi standard in use</source>
-        <translation type="unfinished"></translation>
+        <translation>معيار Wi-Fi المستخدم</translation>
     </message>
     <message>
         <source>Wi-Fi band</source>
-        <translation type="unfinished"></translation>
+        <translation>نطاق Wi-Fi</translation>
     </message>
     <message>
         <source>%1&#xa0;GHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 غيغاهرتز</translation>
     </message>
     <message>
         <source>Wi-Fi signal</source>
-        <translation type="unfinished"></translation>
+        <translation>إشارة Wi-Fi</translation>
     </message>
     <message>
         <source>Wi-Fi rate</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل Wi-Fi</translation>
     </message>
     <message>
         <source>unified memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ذاكرة موحدة</translation>
     </message>
     <message>
         <source>low power</source>
-        <translation type="unfinished"></translation>
+        <translation>طاقة منخفضة</translation>
     </message>
     <message>
         <source>external eGPU</source>
-        <translation type="unfinished"></translation>
+        <translation>eGPU خارجي</translation>
     </message>
     <message>
         <source>None</source>
         <comment>charge limit</comment>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (good)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (جيدة)</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (fair)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (متوسطة)</translation>
     </message>
     <message>
         <source>−%1&#xa0;dBm (weak)</source>
-        <translation type="unfinished"></translation>
+        <translation>−%1&#xa0;dBm (ضعيفة)</translation>
     </message>
 </context>
 <context>
@@ -1151,457 +1151,457 @@
     <message>
         <source>Same as system (%1)</source>
         <extracomment>A choice among languages; %1 is the name of the system&apos;s.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>مثل النظام (%1)</translation>
     </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>%1&#xa0;KB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;ك.ب/ث</translation>
     </message>
     <message>
         <source>%1&#xa0;MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;م.ب/ث</translation>
     </message>
     <message>
         <source>%1&#xa0;GB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;غ.ب/ث</translation>
     </message>
     <message>
         <source>%1&#xa0;TB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;ت.ب/ث</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>Swap space that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد</translation>
     </message>
     <message>
         <source>Battery · charging</source>
-        <translation type="unfinished"></translation>
+        <translation>البطارية · قيد الشحن</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>البطارية</translation>
     </message>
     <message>
         <source>Pressure normal</source>
-        <translation type="unfinished"></translation>
+        <translation>الضغط عادي</translation>
     </message>
     <message>
         <source>Pressure elevated</source>
-        <translation type="unfinished"></translation>
+        <translation>الضغط مرتفع</translation>
     </message>
     <message>
         <source>Pressure critical</source>
-        <translation type="unfinished"></translation>
+        <translation>الضغط حرج</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>عادية</translation>
     </message>
     <message>
         <source>Warm</source>
-        <translation type="unfinished"></translation>
+        <translation>دافئة</translation>
     </message>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>ساخنة</translation>
     </message>
     <message>
         <source>Critical</source>
-        <translation type="unfinished"></translation>
+        <translation>حرجة</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروفة</translation>
     </message>
 </context>
 <context>
     <name>Report</name>
     <message>
         <source>computer name</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الكمبيوتر</translation>
     </message>
     <message>
         <source>addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>العناوين</translation>
     </message>
     <message>
         <source>volume names</source>
-        <translation type="unfinished"></translation>
+        <translation>أسماء وحدات التخزين</translation>
     </message>
     <message>
         <source>Capability score: %1% (%2 of %3 rated capabilities supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة القدرات: %1% (%2 من %3 من القدرات المقيّمة مدعومة)</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ذاكرة</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 تخزين</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صفوف مطابقة.</translation>
     </message>
     <message>
         <source>Left out of this report: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>حُذف من هذا التقرير: %1.</translation>
     </message>
     <message>
         <source>Worth a look</source>
-        <translation type="unfinished"></translation>
+        <translation>يستحق النظر</translation>
     </message>
     <message>
         <source>%1 (continued)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (تتمة)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا صفوف</numerusform>
+            <numerusform>صف واحد</numerusform>
+            <numerusform>صفان</numerusform>
+            <numerusform>%n صفوف</numerusform>
+            <numerusform>%n صفًا</numerusform>
+            <numerusform>%n صف</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ولا مزيد</numerusform>
+            <numerusform>وواحد آخر</numerusform>
+            <numerusform>واثنان آخران</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+            <numerusform>و%n أخرى</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من %2 مدعومة</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من %2</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <extracomment>The title of a report, and the computer’s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>This Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا الـ Mac</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا الكمبيوتر</translation>
     </message>
     <message>
         <source>What this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يمكن لهذا الـ Mac فعله حقًا</translation>
     </message>
     <message>
         <source>What this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يمكن لهذا الكمبيوتر فعله حقًا</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>أُنشئ باستخدام %1 · قُرئت جميع البيانات على هذا الـ Mac</translation>
     </message>
     <message>
         <source>Made with %1 · All data was read on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>أُنشئ باستخدام %1 · قُرئت جميع البيانات على هذا الكمبيوتر</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished"></translation>
+        <translation>نسبة القدرات المقيّمة التي يدعمها هذا الـ Mac</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished"></translation>
+        <translation>نسبة القدرات المقيّمة التي يدعمها هذا الكمبيوتر</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة القدرات</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء مقيَّم</translation>
     </message>
     <message>
         <source>Quillmark report</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير Quillmark</translation>
     </message>
     <message>
         <source>In this report</source>
-        <translation type="unfinished"></translation>
+        <translation>في هذا التقرير</translation>
     </message>
     <message>
         <source>p. %1</source>
         <extracomment>The number of a page, in a list of contents.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ص %1</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>الصفحة %1 من %2</translation>
     </message>
     <message>
         <source>Capability</source>
-        <translation type="unfinished"></translation>
+        <translation>القدرة</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>القيمة</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة</translation>
     </message>
     <message>
         <source>Inspected on %1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>فُحص في %1 الساعة %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 [%3]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 [%3]</translation>
     </message>
     <message>
         <source>Left out</source>
         <extracomment>Stands for a name or an address.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>محذوف</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان</translation>
     </message>
     <message>
         <source>Address %1</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان %1</translation>
     </message>
     <message>
         <source>The report couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر حفظ التقرير.</translation>
     </message>
     <message>
         <source>There is a file with this name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد ملف بهذا الاسم بالفعل.</translation>
     </message>
     <message>
         <source>This is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا مجلد.</translation>
     </message>
     <message>
         <source>The folder does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد غير موجود.</translation>
     </message>
     <message>
         <source>You don’t have permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لديك إذن بالكتابة هناك.</translation>
     </message>
     <message>
         <source>There is not enough free space on “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مساحة خالية كافية على “%1”.</translation>
     </message>
     <message>
         <source>The disk is no longer connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد القرص متصلًا.</translation>
     </message>
     <message>
         <source>No file can have this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لأي ملف أن يحمل هذا الاسم.</translation>
     </message>
     <message>
         <source>The system says: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يقول النظام: %1</translation>
     </message>
 </context>
 <context>
     <name>Terminal</name>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم يتغير شيء</numerusform>
+            <numerusform>تغيّر واحد</numerusform>
+            <numerusform>تغيّر اثنان</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+            <numerusform>تغيّر %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم يُضف شيء</numerusform>
+            <numerusform>أُضيف واحد</numerusform>
+            <numerusform>أُضيف اثنان</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+            <numerusform>أُضيف %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم يُزل شيء</numerusform>
+            <numerusform>أُزيل واحد</numerusform>
+            <numerusform>أُزيل اثنان</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+            <numerusform>أُزيل %n</numerusform>
         </translation>
     </message>
     <message>
         <source>First scan</source>
-        <translation type="unfinished"></translation>
+        <translation>أول فحص</translation>
     </message>
     <message>
         <source>Another computer</source>
-        <translation type="unfinished"></translation>
+        <translation>كمبيوتر آخر</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished"></translation>
+        <translation>لا فروق</translation>
     </message>
     <message>
         <source>Added</source>
-        <translation type="unfinished"></translation>
+        <translation>مضاف</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>مُزال</translation>
     </message>
     <message>
         <source>%1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ← %2</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>متغيّر</translation>
     </message>
     <message>
         <source>No saved scans yet</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد فحوصات محفوظة بعد</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>“quillmark history record” يفحص هذا الكمبيوتر ويحفظ أول فحص.</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>المعرّف</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>الكمبيوتر</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>النظام</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>الدرجة</translation>
     </message>
     <message>
         <source>Against the scan before</source>
-        <translation type="unfinished"></translation>
+        <translation>مقارنة بالسابق</translation>
     </message>
     <message>
         <source>Scan of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فحص %1</translation>
     </message>
     <message>
         <source>Older</source>
-        <translation type="unfinished"></translation>
+        <translation>الأقدم</translation>
     </message>
     <message>
         <source>Newer</source>
-        <translation type="unfinished"></translation>
+        <translation>الأحدث</translation>
     </message>
     <message>
         <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحصان بلغتين مختلفتين، لذا تظهر تغيّرات الحالة فقط.</translation>
     </message>
     <message>
         <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض الفحصان القدرات نفسها. القيم التي تتغير باستمرار، مثل مدة التشغيل، لا تُقارن.</translation>
     </message>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة القدرات</translation>
     </message>
     <message>
         <source>%1 of %2 rated capabilities supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من %2 من القدرات المقيّمة مدعومة</translation>
     </message>
     <message>
         <source>No rows match.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صفوف مطابقة.</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished"></translation>
+        <translation>صحة البطارية</translation>
     </message>
     <message>
         <source>The scan of %1 was removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيل فحص %1.</translation>
     </message>
     <message>
         <source>All saved scans were removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيلت جميع الفحوصات المحفوظة.</translation>
     </message>
     <message>
         <source>Scan %1 was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ الفحص %1.</translation>
     </message>
     <message>
         <source>Nothing has changed since the scan of %1, so none was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يتغير شيء منذ فحص %1، لذا لم يُحفظ فحص جديد.</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا فحوصات محفوظة</numerusform>
+            <numerusform>فحص محفوظ واحد</numerusform>
+            <numerusform>فحصان محفوظان</numerusform>
+            <numerusform>%n فحوصات محفوظة</numerusform>
+            <numerusform>%n فحصًا محفوظًا</numerusform>
+            <numerusform>%n فحص محفوظ</numerusform>
         </translation>
     </message>
     <message>
         <source>y, yes</source>
         <extracomment>What may be typed for yes, as shown in &quot;[y/N]&quot;; separated by commas.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ن, نعم</translation>
     </message>
     <message numerus="yes">
         <source>%n saved scans will be removed. This can’t be undone. Remove them? [y/N]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لن يُزال أي فحص. [ن/ل]</numerusform>
+            <numerusform>سيُزال فحص محفوظ واحد. لا يمكن التراجع عن ذلك. هل تريد إزالته؟ [ن/ل]</numerusform>
+            <numerusform>سيُزال فحصان محفوظان. لا يمكن التراجع عن ذلك. هل تريد إزالتهما؟ [ن/ل]</numerusform>
+            <numerusform>ستُزال %n فحوصات محفوظة. لا يمكن التراجع عن ذلك. هل تريد إزالتها؟ [ن/ل]</numerusform>
+            <numerusform>سيُزال %n فحصًا محفوظًا. لا يمكن التراجع عن ذلك. هل تريد إزالتها؟ [ن/ل]</numerusform>
+            <numerusform>سيُزال %n فحص محفوظ. لا يمكن التراجع عن ذلك. هل تريد إزالتها؟ [ن/ل]</numerusform>
         </translation>
     </message>
 </context>
@@ -1609,118 +1609,118 @@
     <name>TerminalMonitor</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ جمع العينات…</translation>
     </message>
     <message>
         <source>q ends</source>
-        <translation type="unfinished"></translation>
+        <translation>q للإنهاء</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>يُحدَّث كل ثانية · آخر دقيقتين</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>المراقبة المباشرة</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>المعالج</translation>
     </message>
     <message numerus="yes">
         <source>%n cores</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا أنوية</numerusform>
+            <numerusform>نواة واحدة</numerusform>
+            <numerusform>نواتان</numerusform>
+            <numerusform>%n أنوية</numerusform>
+            <numerusform>%n نواة</numerusform>
+            <numerusform>%n نواة</numerusform>
         </translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished"></translation>
+        <translation>لكل نواة</translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>Stands behind the memory in use; %1 is all that there is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>من %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة</translation>
     </message>
     <message>
         <source>Used</source>
         <extracomment>A curve: the memory that is in use.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>المستخدم</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>الضغط</translation>
     </message>
     <message>
         <source>In</source>
         <extracomment>Network traffic that comes in; the next: that goes out.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>وارد</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>صادر</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>الآن</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>دقيقة</translation>
     </message>
     <message>
         <source>2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>دقيقتان</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة الحرارية</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished"></translation>
+        <translation>المبادلة المستخدمة</translation>
     </message>
     <message>
         <source>Processor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المعالج %1</translation>
     </message>
     <message>
         <source>Memory %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة %1 من %2</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>A verdict (&quot;Pressure normal&quot;) and its measure.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Swap used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المبادلة المستخدمة %1</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>وارد %1</translation>
     </message>
     <message>
         <source>Out %1</source>
-        <translation type="unfinished"></translation>
+        <translation>صادر %1</translation>
     </message>
     <message>
         <source>Thermal state %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة الحرارية %1</translation>
     </message>
 </context>
 </TS>
