@@ -20,9 +20,8 @@ void addMember(json::Writer &writer, const char *name, const std::optional<QStri
         writer.member(name, text->toStdString());
 }
 
-void addScan(json::Writer &writer, const history::ScanSnapshot &scan)
+void addScan(json::Writer &writer, const history::ScanDigest &scan)
 {
-    const auto counts = countsOf(scan);
     writer.beginObject();
     addMember(writer, "id", history::idText(scan.id));
     addMember(writer, "date", history::dateText(scan.date));
@@ -30,23 +29,23 @@ void addScan(json::Writer &writer, const history::ScanSnapshot &scan)
     addMember(writer, "modelIdentifier", scan.modelIdentifier);
     addMember(writer, "osVersion", scan.osVersion);
     addMember(writer, "language", scan.language);
-    writer.member("score", counts.score());
+    writer.member("score", scan.counts.score());
     writer.key("counts");
     writer.beginObject();
     for (const auto status : inspection::allStatuses)
-        writer.member(rawValue(status).toStdString(), counts.of(status));
+        writer.member(rawValue(status).toStdString(), scan.counts.of(status));
     writer.endObject();
     writer.endObject();
 }
 
 } // namespace
 
-QByteArray scansJson(const std::vector<history::StoredSnapshot> &scans)
+QByteArray scansJson(const std::vector<history::ScanDigest> &scans)
 {
     json::Writer writer;
     writer.beginArray();
     for (const auto &scan : scans)
-        addScan(writer, scan.snapshot);
+        addScan(writer, scan);
     writer.endArray();
     return finished(writer);
 }

@@ -16,7 +16,7 @@
 namespace quillmark::cli {
 
 /// An array with an object for each scan, in the order given.
-QByteArray scansJson(const std::vector<history::StoredSnapshot> &scans);
+QByteArray scansJson(const std::vector<history::ScanDigest> &scans);
 
 /// An array with an object for each change; an absent value is left out.
 QByteArray changesJson(const QList<history::SnapshotChange> &changes);

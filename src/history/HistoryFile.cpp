@@ -107,20 +107,12 @@ HistoryFile::Contents HistoryFile::read()
     if (!m_version)
         return contents;
     m_isUnreadable = true;
-    QFile file(m_path);
-    if (!QFileInfo(m_path).isFile()) { // reading a pipe would wait
-        contents.fault = QFileInfo(m_path).isDir() ? messageOf(EISDIR) : QStringLiteral("not a regular file");
+    auto text = readText();
+    if (!text) {
+        contents.fault = text.error();
         return contents;
     }
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        contents.fault = file.errorString();
-        return contents;
-    }
-    contents.text = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        contents.fault = file.errorString();
-        return contents;
-    }
+    contents.text = std::move(*text);
     auto snapshots = decodeHistory(contents.text);
     m_isUnreadable = !snapshots;
     if (snapshots)
@@ -128,6 +120,27 @@ HistoryFile::Contents HistoryFile::read()
     else
         contents.fault = snapshots.error();
     return contents;
+}
+
+std::expected<std::vector<ScanDigest>, QString> HistoryFile::readDigests() const
+{
+    if (!versionOf(m_path))
+        return {};
+    const auto text = readText();
+    return text ? decodeDigests(*text) : std::unexpected(text.error());
+}
+
+std::expected<QByteArray, QString> HistoryFile::readText() const
+{
+    if (const QFileInfo file(m_path); !file.isFile()) // reading a pipe would wait
+        return std::unexpected(file.isDir() ? messageOf(EISDIR) : QStringLiteral("not a regular file"));
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return std::unexpected(file.errorString());
+    auto text = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return std::unexpected(file.errorString());
+    return text;
 }
 
 std::expected<void, SaveError> HistoryFile::claim()

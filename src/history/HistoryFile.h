@@ -50,6 +50,9 @@ public:
     /// Reads the file; one that is missing is an empty history.
     Contents read();
 
+    /// What a list shows of the same; the reason where there is none in spite of a file.
+    std::expected<std::vector<ScanDigest>, QString> readDigests() const;
+
     /// Makes this program the one that writes, until the object is gone. Makes the folder if there is none.
     std::expected<void, SaveError> claim();
 
@@ -73,6 +76,7 @@ private:
         bool operator==(const Version &) const = default;
     };
 
+    std::expected<QByteArray, QString> readText() const;
     static std::optional<Version> versionOf(const QString &path);
     std::expected<bool, SaveError> takeLock();
     std::expected<void, SaveError> keepAside() const;

@@ -4,23 +4,19 @@
 #pragma once
 
 #include "history/ScanSnapshot.h"
+#include "history/fieldTexts.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
 
 #include <expected>
+#include <optional>
 #include <vector>
 
 namespace quillmark::history {
 
 /// The snapshot as the history file holds it (docs/contracts.md): a compact JSON object, UTF-8.
 QByteArray encoded(const ScanSnapshot &snapshot);
-
-/// The identifier as files and the command line write it: in capitals, without braces.
-QString idText(const QUuid &id);
-
-/// The date as files and the command line write it: "2026-11-22T20:35:32Z".
-QString dateText(const QDateTime &date);
 
 /// A snapshot and the text that it was read from.
 struct StoredSnapshot
@@ -33,5 +29,21 @@ struct StoredSnapshot
 /// there or none: any fault makes the file none of ours, and the sentence says what it is. Unknown members
 /// are passed over.
 std::expected<std::vector<StoredSnapshot>, QString> decodeHistory(QByteArrayView text);
+
+/// What a list shows of a scan.
+struct ScanDigest
+{
+    QUuid id;
+    QDateTime date;
+    QString deviceName;
+    QString modelIdentifier;
+    QString chip;
+    QString osVersion;
+    inspection::StatusCounts counts; ///< of all rows
+    std::optional<QString> language;
+};
+
+/// The same, and with the same faults, without keeping any row: in half the time.
+std::expected<std::vector<ScanDigest>, QString> decodeDigests(QByteArrayView text);
 
 } // namespace quillmark::history

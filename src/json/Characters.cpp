@@ -5,6 +5,42 @@
 
 namespace quillmark::json {
 
+void appendUtf8(std::string &text, std::uint32_t codePoint)
+{
+    const auto put = [&text](std::uint32_t byte) { text.push_back(static_cast<char>(byte)); };
+    if (codePoint < 0x80) {
+        put(codePoint);
+    } else if (codePoint < 0x800) {
+        put(0xC0 | (codePoint >> 6));
+        put(0x80 | (codePoint & 0x3F));
+    } else if (codePoint < 0x10000) {
+        put(0xE0 | (codePoint >> 12));
+        put(0x80 | ((codePoint >> 6) & 0x3F));
+        put(0x80 | (codePoint & 0x3F));
+    } else {
+        put(0xF0 | (codePoint >> 18));
+        put(0x80 | ((codePoint >> 12) & 0x3F));
+        put(0x80 | ((codePoint >> 6) & 0x3F));
+        put(0x80 | (codePoint & 0x3F));
+    }
+}
+
+std::uint32_t takeCodePoint(std::u16string_view &text)
+{
+    constexpr std::uint32_t replacement = 0xFFFD;
+    const auto isHalf = [](std::uint32_t unit, std::uint32_t first) {
+        return unit >= first && unit < first + 0x400;
+    };
+    const std::uint32_t unit = text[0];
+    const std::uint32_t next = text.size() > 1 ? text[1] : 0;
+    if (isHalf(unit, 0xD800) && isHalf(next, 0xDC00)) {
+        text.remove_prefix(2);
+        return 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00);
+    }
+    text.remove_prefix(1);
+    return isHalf(unit, 0xD800) || isHalf(unit, 0xDC00) ? replacement : unit;
+}
+
 std::size_t utf8SequenceLength(std::string_view text)
 {
     const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };

@@ -27,26 +27,6 @@ constexpr bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-void appendUtf8(std::string &text, std::uint32_t codePoint)
-{
-    const auto put = [&text](std::uint32_t byte) { text.push_back(static_cast<char>(byte)); };
-    if (codePoint < 0x80) {
-        put(codePoint);
-    } else if (codePoint < 0x800) {
-        put(0xC0 | (codePoint >> 6));
-        put(0x80 | (codePoint & 0x3F));
-    } else if (codePoint < 0x10000) {
-        put(0xE0 | (codePoint >> 12));
-        put(0x80 | ((codePoint >> 6) & 0x3F));
-        put(0x80 | (codePoint & 0x3F));
-    } else {
-        put(0xF0 | (codePoint >> 18));
-        put(0x80 | ((codePoint >> 12) & 0x3F));
-        put(0x80 | ((codePoint >> 6) & 0x3F));
-        put(0x80 | (codePoint & 0x3F));
-    }
-}
-
 /// std::from_chars for double is missing from the libc++ of older Macs, and strtod follows the process's
 /// locale.
 double toDouble(const std::string &digits)

@@ -49,9 +49,7 @@ void Writer::key(std::string_view name)
 {
     beforeValue();
     quoted(name);
-    append(':');
-    if (m_layout == Layout::Indented)
-        append(' ');
+    append(m_layout == Layout::Indented ? ": " : ":");
     m_afterKey = true;
 }
 
@@ -59,6 +57,23 @@ void Writer::string(std::string_view text)
 {
     beforeValue();
     quoted(text);
+}
+
+void Writer::string(std::u16string_view text)
+{
+    beforeValue();
+    append('"');
+    for (std::string character;;) {
+        const auto plain = copyPlain(text, room(text.size()));
+        m_size -= text.size() - plain;
+        text.remove_prefix(plain);
+        if (text.empty())
+            break;
+        character.clear();
+        appendUtf8(character, takeCodePoint(text));
+        appendSpecial(character);
+    }
+    append('"');
 }
 
 void Writer::integer(std::int64_t number)
@@ -145,30 +160,29 @@ void Writer::grow()
 
 void Writer::quoted(std::string_view text)
 {
-    if (plainLength(text) == text.size()) { // as nearly all are
-        char *end = room(text.size() + 2);
-        *end++ = '"';
-        end += text.copy(end, text.size());
-        *end = '"';
-        return;
-    }
     append('"');
-    while (!text.empty()) {
+    for (;;) {
         const std::size_t plain = plainLength(text);
         append(text.substr(0, plain));
         text.remove_prefix(plain);
         if (text.empty())
             break;
         const std::size_t length = utf8SequenceLength(text);
-        if (length == 1)
-            append(escape(text.front()));
-        else if (isControl(text.substr(0, length)))
-            append(escape(text[1])); // U+0080 to U+009F: their second byte is their number
-        else
-            append(length == 0 ? replacement : text.substr(0, length));
+        appendSpecial(length == 0 ? replacement : text.substr(0, length));
         text.remove_prefix(length == 0 ? 1 : length);
     }
     append('"');
+}
+
+/// One character that may not stand for itself.
+void Writer::appendSpecial(std::string_view character)
+{
+    if (character.size() == 1)
+        append(escape(character[0]));
+    else if (isControl(character))
+        append(escape(character[1])); // U+0080 to U+009F: their second byte is their number
+    else
+        append(character);
 }
 
 } // namespace quillmark::json

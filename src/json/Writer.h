@@ -4,6 +4,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,8 +19,10 @@ class Writer
 public:
     enum class Layout { Compact, Indented };
 
-    explicit Writer(Layout layout = Layout::Indented)
-        : m_layout(layout)
+    /// A text of up to `expectedSize` bytes is written without growing.
+    explicit Writer(Layout layout = Layout::Indented, std::size_t expectedSize = 0)
+        : m_buffer(expectedSize, '\0')
+        , m_layout(layout)
     {}
 
     void beginObject() { open('{'); }
@@ -31,6 +34,8 @@ public:
 
     /// UTF-8; a byte that is not part of valid UTF-8 is written as U+FFFD.
     void string(std::string_view text);
+    /// UTF-16; half of a surrogate pair is written as U+FFFD.
+    void string(std::u16string_view text);
     void integer(std::int64_t number);
     void integer(std::uint64_t number);
     /// In the fewest digits that read back as the same double, and never as an integer. What JSON cannot say
@@ -41,6 +46,7 @@ public:
 
     void member(std::string_view name, std::string_view text) { key(name), string(text); }
     void member(std::string_view name, const char *text) { key(name), string(text); }
+    void member(std::string_view name, std::u16string_view text) { key(name), string(text); }
     void member(std::string_view name, std::same_as<bool> auto value) { key(name), boolean(value); }
     void member(std::string_view name, double value) { key(name), number(value); }
     void member(std::string_view name, std::signed_integral auto value)
@@ -64,6 +70,7 @@ private:
     void beforeValue();
     void newLine();
     void quoted(std::string_view text);
+    void appendSpecial(std::string_view character);
     void append(std::string_view text) { text.copy(room(text.size()), text.size()); }
     void append(char c) { *room(1) = c; }
 

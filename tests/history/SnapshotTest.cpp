@@ -87,6 +87,18 @@ QList<SnapshotChange> plainDiff(const ScanSnapshot &older, const ScanSnapshot &n
     return changes;
 }
 
+bool isDigestOf(const ScanDigest &digest, const ScanSnapshot &snapshot)
+{
+    const auto counts = countsOf(snapshot);
+    return digest.id == snapshot.id && digest.date == snapshot.date &&
+           digest.deviceName == snapshot.deviceName && digest.modelIdentifier == snapshot.modelIdentifier &&
+           digest.chip == snapshot.chip && digest.osVersion == snapshot.osVersion &&
+           digest.language == snapshot.language &&
+           std::ranges::all_of(inspection::allStatuses, [&](inspection::CapabilityStatus status) {
+               return digest.counts.of(status) == counts.of(status);
+           });
+}
+
 /// The beginning of snapshotOf({}) in a file.
 QByteArray head()
 {
@@ -131,6 +143,7 @@ void SnapshotTest::form()
     QVERIFY(decoded && decoded->size() == 1);
     QCOMPARE(decoded->front().snapshot, snapshot);
     QCOMPARE(decoded->front().json.toByteArray(), encoded(snapshot));
+    QVERIFY(isDigestOf(decodeDigests(text).value().front(), snapshot));
 
     snapshot.language.reset();
     QCOMPARE(encoded(snapshot), head() + sections + '}');
@@ -155,6 +168,7 @@ void SnapshotTest::otherForms()
     QVERIFY2(decoded, decoded ? "" : qPrintable(decoded.error()));
     const auto &snapshot = decoded->front().snapshot;
     QCOMPARE(snapshot.language, std::nullopt);
+    QVERIFY(isDigestOf(decodeDigests(text).value().front(), snapshot));
     if (sections != "[]")
         QCOMPARE(snapshot.sections,
                  (QList<ScanSnapshot::Section>{{u"a"_s, u"b"_s, {{u"c"_s, u"d"_s}}, std::nullopt}}));
@@ -209,6 +223,7 @@ void SnapshotTest::refuses()
     const auto decoded = decodeHistory(text);
     QVERIFY(!decoded);
     QTEST(decoded.error(), "fault");
+    QCOMPARE(decodeDigests(text).error(), decoded.error());
     for (const char *noHistory : {"{}", "null", "", "\"[]\""})
         QVERIFY2(!decodeHistory(noHistory), noHistory);
 }
@@ -229,7 +244,9 @@ void SnapshotTest::newestFirst()
     QString order;
     for (const auto &stored : *decoded)
         order += stored.snapshot.chip;
-    QCOMPARE(order, u"bdca"_s);
+    for (const auto &digest : decodeDigests(text).value())
+        order += digest.chip;
+    QCOMPARE(order, u"bdcabdca"_s);
 }
 
 void SnapshotTest::keys()

@@ -103,6 +103,7 @@ private Q_SLOTS:
     void writesTexts();
     void writesStructure();
     void everyCharacterComesBack();
+    void writesUtf16();
     void doublesComeBack();
 };
 
@@ -318,11 +319,29 @@ void JsonTest::everyCharacterComesBack()
             continue;
         const auto text = QString::fromUcs4(&code, 1).toUtf8();
         const auto json = written([&text](Writer &writer) { writer.string(view(text)); });
+        const auto utf16 = QString::fromUcs4(&code, 1).toStdU16String();
+        QCOMPARE(written([&utf16](Writer &writer) { writer.string(utf16); }), json);
         Reader reader(view(json));
         QCOMPARE(reader.next(), Token::String);
         QCOMPARE(QByteArray(reader.text().data(), static_cast<qsizetype>(reader.text().size())), text);
         QCOMPARE(reader.next(), Token::End);
     }
+}
+
+/// At every place in what is looked at together, and halves of pairs, which no UTF-8 has.
+void JsonTest::writesUtf16()
+{
+    for (const std::u16string_view special :
+         {u"\"", u"\\", u"\n", u"\u001f", u"é", u"\u2022", u"\U0001F600"}) {
+        for (std::size_t place = 0; place <= 9; ++place) {
+            const auto text = std::u16string(u"012345678").insert(place, special);
+            const auto utf8 = QString::fromStdU16String(text).toStdString();
+            QCOMPARE(written([&](Writer &writer) { writer.string(text); }),
+                     written([&](Writer &writer) { writer.string(utf8); }));
+        }
+    }
+    const auto halves = std::u16string({u'a', char16_t{0xD83D}, u'b', char16_t{0xDE00}, char16_t{0xD83D}});
+    QCOMPARE(written([&](Writer &writer) { writer.string(halves); }), QByteArray("\"a\uFFFDb\uFFFD\uFFFD\""));
 }
 
 /// Bit by bit, and as numbers that are no integers.

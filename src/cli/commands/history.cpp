@@ -47,11 +47,16 @@ struct HistoryOptions
     std::string newerId;
 };
 
+Failure unreadable(const Session &session, const QString &fault)
+{
+    return {u"%1: %2"_s.arg(session.historyFile(), fault)};
+}
+
 std::expected<HistoryFile::Contents, Failure> readHistory(const Session &session)
 {
     auto contents = HistoryFile(session.historyFile()).read();
     if (!contents.fault.isEmpty())
-        return std::unexpected(Failure{u"%1: %2"_s.arg(session.historyFile(), contents.fault)});
+        return std::unexpected(unreadable(session, contents.fault));
     return contents;
 }
 
@@ -82,14 +87,18 @@ std::expected<StoredSnapshot, Failure> findScan(const std::vector<StoredSnapshot
 
 Result list(const Session &session, const HistoryOptions &options)
 {
+    if (options.json) {
+        const auto scans = HistoryFile(session.historyFile()).readDigests();
+        if (!scans)
+            return std::unexpected(unreadable(session, scans.error()));
+        session.output().write(scansJson(*scans));
+        return {};
+    }
     const auto history = readHistory(session);
     if (!history)
         return std::unexpected(history.error());
-    if (options.json)
-        session.output().write(scansJson(history->snapshots));
-    else
-        session.output().write(
-            historyPage(history->snapshots, session.language().formats(), session.terminalStyle()));
+    session.output().write(
+        historyPage(history->snapshots, session.language().formats(), session.terminalStyle()));
     return {};
 }
 
