@@ -45,6 +45,10 @@ if(QUILLMARK_SANITIZERS)
     target_link_options(quillmark_options INTERFACE -fsanitize=${QUILLMARK_SANITIZERS})
 endif()
 
+if(QUILLMARK_FUZZERS)
+    target_compile_options(quillmark_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # quillmark_layer(NAME SOURCES file... [USES target...])
 #
 # Declares the folder's library quillmark_NAME. Its headers are reached as "NAME/Header.h", and only by targets that

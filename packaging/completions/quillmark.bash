@@ -35,7 +35,7 @@ _quillmark() {
             compopt -o default 2>/dev/null || COMPREPLY=($(compgen -f -- "$current"))
             return
             ;;
-        --language) choices="en" ;;
+        --language) choices="en de fr es it pt-BR nl pl ja ko zh-Hans ar" ;;
         --section)
             choices="system processor graphics intelligence displays media cameraAudio storage power network security"
             ;;
@@ -44,7 +44,7 @@ _quillmark() {
         --search | --samples) return ;;
         *)
             case $command:$part in
-                :) choices="inspect battery export history monitor update machine app $common" ;;
+                :) choices="inspect battery export history monitor machine app $common" ;;
                 inspect:*) choices="--json --markdown --text --section --status --search $common" ;;
                 battery:*) choices="--json $common" ;;
                 export:*) choices="--format --output --force --with-names --section $common" ;;
@@ -56,7 +56,6 @@ _quillmark() {
                     ;;
                 history:*) choices="--json $common" ;;
                 monitor:*) choices="--json --samples $common" ;;
-                update:*) choices="--json $common" ;;
                 machine:) choices="record $common" ;;
                 machine:record) choices="--output --force --with-names $common" ;;
                 *) choices=$common ;;

@@ -23,13 +23,14 @@ function __quillmark_scans
     quillmark history list --json $file 2>/dev/null | string match -r -g '^\s*"id": *"([^"]*)"'
 end
 
-set -l commands inspect battery export history monitor update machine app
+set -l commands inspect battery export history monitor machine app
 set -l parts list show compare remove clear record
 
 complete -c quillmark -f
 complete -c quillmark -l machine -r -F -d 'Inspect this recorded machine'
 complete -c quillmark -l history -r -F -d 'Keep the saved scans in this file'
-complete -c quillmark -l language -x -a 'en' -d 'Interface language for this run'
+complete -c quillmark -l language -x -a 'en de fr es it pt-BR nl pl ja ko zh-Hans ar' \
+    -d 'Interface language for this run'
 complete -c quillmark -l no-color -d 'No colours, even on a terminal'
 complete -c quillmark -l version -d 'Print the version'
 complete -c quillmark -s h -l help -d 'Print help'
@@ -40,18 +41,17 @@ complete -c quillmark -n $none -a battery -d "Show the battery's health and figu
 complete -c quillmark -n $none -a export -d 'Inspect the machine and write the report to a file'
 complete -c quillmark -n $none -a history -d 'Look at saved scans, compare them, and save new ones'
 complete -c quillmark -n $none -a monitor -d 'Show processor, memory, network and heat live'
-complete -c quillmark -n $none -a update -d 'Ask whether there is a newer version'
 complete -c quillmark -n $none -a machine -d 'Work with recorded machines'
 complete -c quillmark -n $none -a app -d 'Open the window'
 
-for command in inspect battery history monitor update
+for command in inspect battery monitor "history $parts"
     complete -c quillmark -n "__quillmark_in $command" -l json -d 'Print JSON'
 end
 for command in inspect export
     complete -c quillmark -n "__quillmark_in $command" -l section -x -d 'Only this section' \
         -a 'system processor graphics intelligence displays media cameraAudio storage power network security'
 end
-for command in export machine
+for command in export "machine record"
     complete -c quillmark -n "__quillmark_in $command" -l output -r -F -d 'The file to write'
     complete -c quillmark -n "__quillmark_in $command" -l force -d 'Replace the file if it exists'
     complete -c quillmark -n "__quillmark_in $command" -l with-names -d 'Keep names and addresses'

@@ -7,15 +7,20 @@
 # Fonts: Noto has Latin, Greek, Cyrillic, Arabic and more, Sawarabi Japanese. In tests, poppler-utils reads PDF documents
 # and openssl makes certificates.
 debianPackages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-    qt6-translations-l10n libicu-dev libcli11-dev fonts-noto-core fonts-sawarabi-gothic openssl poppler-utils)
-# What installs the compiler that checks the Mac's sources, which continuous integration must have.
+    qt6-translations-l10n libicu-dev libcli11-dev fonts-noto-core fonts-sawarabi-gothic openssl poppler-utils librsvg2-bin)
+# What continuous integration must have beyond that: what reads the manual page, the completions and the files for
+# desktops, and what installs the compiler that checks the Mac's sources.
+checkPackages=(appstream desktop-file-utils fish mandoc zsh)
 macCheckPackages=(npm)
 homebrewPackages=(cmake ninja ccache qt icu4c cli11 librsvg openssl@3 poppler)
 
 installDebianPackages() {
     local package installed missing=() names=("${debianPackages[@]}")
-    # npm may have come by another way than Debian's.
-    if [ -n "${CI:-}" ] && ! command -v npm >/dev/null; then names+=("${macCheckPackages[@]}"); fi
+    if [ -n "${CI:-}" ]; then
+        names+=("${checkPackages[@]}")
+        # npm may have come by another way than Debian's.
+        command -v npm >/dev/null || names+=("${macCheckPackages[@]}")
+    fi
     installed=" $(dpkg-query -W -f '${Package}=${db:Status-Status} ' "${names[@]}" 2>/dev/null || true)"
     for package in "${names[@]}"; do
         [[ "$installed" == *" $package=installed "* ]] || missing+=("$package")
