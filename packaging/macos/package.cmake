@@ -3,6 +3,8 @@
 
 # The disk image: cpack, after a build of the release preset. What is in the bundle then needs no Qt of the machine's.
 
+install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/NOTICE" DESTINATION "${share}")
+
 set(modules "")
 foreach(module IN ITEMS quillmark_app_module quillmark_pdf_module quillmark_update_module)
     if(TARGET ${module})
