@@ -7,7 +7,7 @@
 # Fonts: Noto has Latin, Greek, Cyrillic, Arabic and more, Sawarabi Japanese. In tests, poppler-utils reads PDF documents
 # and openssl makes certificates.
 debianPackages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-    qt6-translations-l10n libicu-dev libcli11-dev fonts-noto-core fonts-sawarabi-gothic librsvg2-bin openssl poppler-utils)
+    qt6-translations-l10n libicu-dev libcli11-dev fonts-noto-core fonts-sawarabi-gothic openssl poppler-utils librsvg2-bin)
 # What continuous integration must have beyond that: what reads the manual page, the completions and the files for
 # desktops, and what installs the compiler that checks the Mac's sources.
 checkPackages=(appstream desktop-file-utils fish mandoc zsh)
