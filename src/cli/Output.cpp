@@ -6,6 +6,8 @@
 #include "language/folding.h"
 #include "language/texts.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace quillmark::cli {
