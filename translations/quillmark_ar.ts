@@ -93,6 +93,82 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>لم يتغير شيء</numerusform>
+            <numerusform>تغيّر واحد</numerusform>
+            <numerusform>تغيّر اثنان</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>لم يُضف شيء</numerusform>
+            <numerusform>أُضيف واحد</numerusform>
+            <numerusform>أُضيف اثنان</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>لم يُزل شيء</numerusform>
+            <numerusform>أُزيل واحد</numerusform>
+            <numerusform>أُزيل اثنان</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>متغيّر</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>مضاف</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>مُزال</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>الأقدم</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>الأحدث</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>أول فحص</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>لا فروق</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>يعرض الفحصان القدرات نفسها. القيم التي تتغير باستمرار، مثل مدة التشغيل، لا تُقارن.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>الفحصان بلغتين مختلفتين، لذا تظهر تغيّرات الحالة فقط.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>لا توجد فحوصات محفوظة بعد</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1432,70 +1508,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>لم يتغير شيء</numerusform>
-            <numerusform>تغيّر واحد</numerusform>
-            <numerusform>تغيّر اثنان</numerusform>
-            <numerusform>تغيّر %n</numerusform>
-            <numerusform>تغيّر %n</numerusform>
-            <numerusform>تغيّر %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>لم يُضف شيء</numerusform>
-            <numerusform>أُضيف واحد</numerusform>
-            <numerusform>أُضيف اثنان</numerusform>
-            <numerusform>أُضيف %n</numerusform>
-            <numerusform>أُضيف %n</numerusform>
-            <numerusform>أُضيف %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>لم يُزل شيء</numerusform>
-            <numerusform>أُزيل واحد</numerusform>
-            <numerusform>أُزيل اثنان</numerusform>
-            <numerusform>أُزيل %n</numerusform>
-            <numerusform>أُزيل %n</numerusform>
-            <numerusform>أُزيل %n</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>أول فحص</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>كمبيوتر آخر</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>لا فروق</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>مضاف</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>مُزال</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 ← %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>متغيّر</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>لا توجد فحوصات محفوظة بعد</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1528,22 +1547,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>فحص %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>الأقدم</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>الأحدث</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>الفحصان بلغتين مختلفتين، لذا تظهر تغيّرات الحالة فقط.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>يعرض الفحصان القدرات نفسها. القيم التي تتغير باستمرار، مثل مدة التشغيل، لا تُقارن.</translation>
     </message>
     <message>
         <source>Capability score</source>

@@ -93,6 +93,70 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n geändert</numerusform>
+            <numerusform>%n geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n hinzugefügt</numerusform>
+            <numerusform>%n hinzugefügt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n entfernt</numerusform>
+            <numerusform>%n entfernt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>Ältere</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>Neuere</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>Erste Untersuchung</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>Keine Unterschiede</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>Beide Untersuchungen zeigen dieselben Fähigkeiten. Werte, die sich ständig ändern, wie die Betriebszeit, werden nicht verglichen.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>Die beiden Untersuchungen sind in verschiedenen Sprachen, daher werden nur Änderungen des Status gezeigt.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>Noch keine gesicherten Untersuchungen</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1416,58 +1480,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n geändert</numerusform>
-            <numerusform>%n geändert</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n hinzugefügt</numerusform>
-            <numerusform>%n hinzugefügt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n entfernt</numerusform>
-            <numerusform>%n entfernt</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>Erste Untersuchung</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>Anderer Computer</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>Keine Unterschiede</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>Hinzugefügt</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>Entfernt</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>Geändert</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>Noch keine gesicherten Untersuchungen</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1500,22 +1519,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>Untersuchung vom %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>Ältere</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>Neuere</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>Die beiden Untersuchungen sind in verschiedenen Sprachen, daher werden nur Änderungen des Status gezeigt.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Beide Untersuchungen zeigen dieselben Fähigkeiten. Werte, die sich ständig ändern, wie die Betriebszeit, werden nicht verglichen.</translation>
     </message>
     <message>
         <source>Capability score</source>

@@ -2,6 +2,30 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n changed</numerusform>
+            <numerusform>%n changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n added</numerusform>
+            <numerusform>%n added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n removed</numerusform>
+            <numerusform>%n removed</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message numerus="yes">
         <source>%1, %n channels</source>
@@ -37,27 +61,6 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n changed</numerusform>
-            <numerusform>%n changed</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n added</numerusform>
-            <numerusform>%n added</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n removed</numerusform>
-            <numerusform>%n removed</numerusform>
-        </translation>
-    </message>
     <message numerus="yes">
         <source>%n saved scans</source>
         <translation>

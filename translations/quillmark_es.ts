@@ -93,6 +93,70 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n cambiada</numerusform>
+            <numerusform>%n cambiadas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n añadida</numerusform>
+            <numerusform>%n añadidas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n eliminada</numerusform>
+            <numerusform>%n eliminadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Cambiada</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Añadida</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Eliminada</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>Posterior</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>Primer análisis</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>Sin diferencias</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>Ambos análisis muestran las mismas capacidades. Los valores que cambian todo el tiempo, como el tiempo encendido, no se comparan.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>Los dos análisis están en idiomas distintos, así que solo se muestran los cambios de estado.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>Aún no hay análisis guardados</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1416,58 +1480,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n cambiada</numerusform>
-            <numerusform>%n cambiadas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n añadida</numerusform>
-            <numerusform>%n añadidas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n eliminada</numerusform>
-            <numerusform>%n eliminadas</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>Primer análisis</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>Otro ordenador</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>Sin diferencias</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>Añadida</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>Eliminada</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>Cambiada</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>Aún no hay análisis guardados</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1500,22 +1519,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>Análisis del %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>Anterior</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>Posterior</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>Los dos análisis están en idiomas distintos, así que solo se muestran los cambios de estado.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Ambos análisis muestran las mismas capacidades. Los valores que cambian todo el tiempo, como el tiempo encendido, no se comparan.</translation>
     </message>
     <message>
         <source>Capability score</source>

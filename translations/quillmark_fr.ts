@@ -93,6 +93,70 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n modifié</numerusform>
+            <numerusform>%n modifiés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n ajouté</numerusform>
+            <numerusform>%n ajoutés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n supprimé</numerusform>
+            <numerusform>%n supprimés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Ajouté</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>Ancienne</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>Récente</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>Première analyse</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>Aucune différence</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>Les deux analyses montrent les mêmes capacités. Les valeurs qui changent sans cesse, comme le temps de fonctionnement, ne sont pas comparées.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>Les deux analyses sont dans des langues différentes&#xa0;: seuls les changements d’état sont affichés.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>Aucune analyse enregistrée pour l’instant</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1416,58 +1480,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n modifié</numerusform>
-            <numerusform>%n modifiés</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n ajouté</numerusform>
-            <numerusform>%n ajoutés</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n supprimé</numerusform>
-            <numerusform>%n supprimés</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>Première analyse</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>Autre ordinateur</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>Aucune différence</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>Ajouté</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>Supprimé</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>Modifié</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>Aucune analyse enregistrée pour l’instant</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1500,22 +1519,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>Analyse du %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>Ancienne</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>Récente</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>Les deux analyses sont dans des langues différentes&#xa0;: seuls les changements d’état sont affichés.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Les deux analyses montrent les mêmes capacités. Les valeurs qui changent sans cesse, comme le temps de fonctionnement, ne sont pas comparées.</translation>
     </message>
     <message>
         <source>Capability score</source>

@@ -93,6 +93,70 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n modificata</numerusform>
+            <numerusform>%n modificate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n aggiunta</numerusform>
+            <numerusform>%n aggiunte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n rimossa</numerusform>
+            <numerusform>%n rimosse</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificata</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Aggiunta</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Rimossa</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>Precedente</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>Successiva</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>Prima scansione</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>Nessuna differenza</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>Entrambe le scansioni mostrano le stesse capacità. I valori che cambiano di continuo, come il tempo di attività, non sono confrontati.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>Le due scansioni sono in lingue diverse, perciò sono mostrati solo i cambiamenti di stato.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>Ancora nessuna scansione salvata</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1416,58 +1480,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n modificata</numerusform>
-            <numerusform>%n modificate</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n aggiunta</numerusform>
-            <numerusform>%n aggiunte</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n rimossa</numerusform>
-            <numerusform>%n rimosse</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>Prima scansione</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>Altro computer</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>Nessuna differenza</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>Aggiunta</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>Rimossa</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>Modificata</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>Ancora nessuna scansione salvata</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1500,22 +1519,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>Scansione del %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>Precedente</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>Successiva</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>Le due scansioni sono in lingue diverse, perciò sono mostrati solo i cambiamenti di stato.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Entrambe le scansioni mostrano le stesse capacità. I valori che cambiano di continuo, come il tempo di attività, non sono confrontati.</translation>
     </message>
     <message>
         <source>Capability score</source>

@@ -93,6 +93,67 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>変更%n件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>追加%n件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>削除%n件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>古い方</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>新しい方</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>最初のスキャン</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>差はありません</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>どちらのスキャンも同じ機能を示しています。稼働時間のように常に変わる値は比較されません。</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>2つのスキャンは言語が異なるため、状態の変更だけを表示しています。</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>保存されたスキャンはまだありません</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1412,55 +1473,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>変更%n件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>追加%n件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>削除%n件</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>最初のスキャン</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>別のコンピュータ</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>差はありません</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>追加</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>削除</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>変更</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>保存されたスキャンはまだありません</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1493,22 +1512,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>%1のスキャン</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>古い方</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>新しい方</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>2つのスキャンは言語が異なるため、状態の変更だけを表示しています。</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>どちらのスキャンも同じ機能を示しています。稼働時間のように常に変わる値は比較されません。</translation>
     </message>
     <message>
         <source>Capability score</source>

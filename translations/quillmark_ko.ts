@@ -93,6 +93,67 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n개 변경됨</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n개 추가됨</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n개 제거됨</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>변경됨</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>추가됨</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>제거됨</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>이전</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>이후</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>첫 번째 검사</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>차이 없음</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>두 검사가 같은 기능을 보여줍니다. 가동 시간처럼 계속 변하는 값은 비교하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>두 검사의 언어가 서로 다르므로 상태의 변경만 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>저장된 검사가 아직 없음</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1412,55 +1473,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n개 변경됨</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n개 추가됨</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n개 제거됨</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>첫 번째 검사</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>다른 컴퓨터</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>차이 없음</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>추가됨</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>제거됨</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>변경됨</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>저장된 검사가 아직 없음</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1493,22 +1512,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>%1의 검사</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>이전</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>이후</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>두 검사의 언어가 서로 다르므로 상태의 변경만 표시됩니다.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>두 검사가 같은 기능을 보여줍니다. 가동 시간처럼 계속 변하는 값은 비교하지 않습니다.</translation>
     </message>
     <message>
         <source>Capability score</source>

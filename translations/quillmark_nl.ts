@@ -93,6 +93,70 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n gewijzigd</numerusform>
+            <numerusform>%n gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n toegevoegd</numerusform>
+            <numerusform>%n toegevoegd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n verwijderd</numerusform>
+            <numerusform>%n verwijderd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Gewijzigd</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Toegevoegd</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Verwijderd</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>Ouder</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>Nieuwer</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>Eerste scan</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>Geen verschillen</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>Beide scans tonen dezelfde mogelijkheden. Waarden die steeds veranderen, zoals de tijd ingeschakeld, worden niet vergeleken.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>De twee scans zijn in verschillende talen, dus alleen wijzigingen van de status worden getoond.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>Nog geen bewaarde scans</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1416,58 +1480,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n gewijzigd</numerusform>
-            <numerusform>%n gewijzigd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n toegevoegd</numerusform>
-            <numerusform>%n toegevoegd</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n verwijderd</numerusform>
-            <numerusform>%n verwijderd</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>Eerste scan</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>Andere computer</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>Geen verschillen</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>Toegevoegd</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>Verwijderd</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>Gewijzigd</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>Nog geen bewaarde scans</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1500,22 +1519,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>Scan van %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>Ouder</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>Nieuwer</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>De twee scans zijn in verschillende talen, dus alleen wijzigingen van de status worden getoond.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Beide scans tonen dezelfde mogelijkheden. Waarden die steeds veranderen, zoals de tijd ingeschakeld, worden niet vergeleken.</translation>
     </message>
     <message>
         <source>Capability score</source>

@@ -93,6 +93,73 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n zmieniona</numerusform>
+            <numerusform>%n zmienione</numerusform>
+            <numerusform>%n zmienionych</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n dodana</numerusform>
+            <numerusform>%n dodane</numerusform>
+            <numerusform>%n dodanych</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n usunięta</numerusform>
+            <numerusform>%n usunięte</numerusform>
+            <numerusform>%n usuniętych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Zmieniona</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Dodana</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Usunięta</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>Starsze</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>Nowsze</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>Pierwsze sprawdzenie</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>Brak różnic</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>Oba sprawdzenia pokazują te same możliwości. Wartości, które stale się zmieniają, jak czas działania, nie są porównywane.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>Oba sprawdzenia są w różnych językach, dlatego widać tylko zmiany statusu.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>Brak zachowanych sprawdzeń</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1420,61 +1487,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n zmieniona</numerusform>
-            <numerusform>%n zmienione</numerusform>
-            <numerusform>%n zmienionych</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n dodana</numerusform>
-            <numerusform>%n dodane</numerusform>
-            <numerusform>%n dodanych</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n usunięta</numerusform>
-            <numerusform>%n usunięte</numerusform>
-            <numerusform>%n usuniętych</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>Pierwsze sprawdzenie</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>Inny komputer</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>Brak różnic</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>Dodana</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>Usunięta</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>Zmieniona</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>Brak zachowanych sprawdzeń</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1507,22 +1526,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>Sprawdzenie z %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>Starsze</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>Nowsze</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>Oba sprawdzenia są w różnych językach, dlatego widać tylko zmiany statusu.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Oba sprawdzenia pokazują te same możliwości. Wartości, które stale się zmieniają, jak czas działania, nie są porównywane.</translation>
     </message>
     <message>
         <source>Capability score</source>

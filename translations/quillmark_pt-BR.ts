@@ -93,6 +93,70 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n alterado</numerusform>
+            <numerusform>%n alterados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n adicionado</numerusform>
+            <numerusform>%n adicionados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n removido</numerusform>
+            <numerusform>%n removidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Alterado</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Adicionado</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Removido</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>Posterior</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>Primeira análise</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>Nenhuma diferença</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>As duas análises mostram os mesmos recursos. Valores que mudam o tempo todo, como o tempo ligado, não são comparados.</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>As duas análises estão em idiomas diferentes, por isso só as mudanças de status são mostradas.</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>Ainda não há análises salvas</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1416,58 +1480,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n alterado</numerusform>
-            <numerusform>%n alterados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n adicionado</numerusform>
-            <numerusform>%n adicionados</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n removido</numerusform>
-            <numerusform>%n removidos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>Primeira análise</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>Outro computador</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>Nenhuma diferença</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>Adicionado</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>Removido</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>Alterado</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>Ainda não há análises salvas</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1500,22 +1519,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>Análise de %1</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>Anterior</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>Posterior</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>As duas análises estão em idiomas diferentes, por isso só as mudanças de status são mostradas.</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>As duas análises mostram os mesmos recursos. Valores que mudam o tempo todo, como o tempo ligado, não são comparados.</translation>
     </message>
     <message>
         <source>Capability score</source>

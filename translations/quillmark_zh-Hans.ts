@@ -93,6 +93,67 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n 项更改</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation>
+            <numerusform>%n 项添加</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation>
+            <numerusform>%n 项移除</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>已添加</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>已移除</translation>
+    </message>
+    <message>
+        <source>Older</source>
+        <translation>较早</translation>
+    </message>
+    <message>
+        <source>Newer</source>
+        <translation>较新</translation>
+    </message>
+    <message>
+        <source>First scan</source>
+        <translation>首次扫描</translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation>没有差异</translation>
+    </message>
+    <message>
+        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
+        <translation>两次扫描显示相同的能力。运行时间等不断变化的值不参与比较。</translation>
+    </message>
+    <message>
+        <source>The two scans are in different languages, so only changes of status are shown.</source>
+        <translation>两次扫描使用不同的语言，因此仅显示状态的更改。</translation>
+    </message>
+    <message>
+        <source>No saved scans yet</source>
+        <translation>尚无存储的扫描</translation>
+    </message>
+</context>
+<context>
     <name>Inspection</name>
     <message>
         <source>Supported</source>
@@ -1412,55 +1473,13 @@
 </context>
 <context>
     <name>Terminal</name>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <translation>
-            <numerusform>%n 项更改</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n added</source>
-        <translation>
-            <numerusform>%n 项添加</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n removed</source>
-        <translation>
-            <numerusform>%n 项移除</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>First scan</source>
-        <translation>首次扫描</translation>
-    </message>
     <message>
         <source>Another computer</source>
         <translation>另一台电脑</translation>
     </message>
     <message>
-        <source>No differences</source>
-        <translation>没有差异</translation>
-    </message>
-    <message>
-        <source>Added</source>
-        <translation>已添加</translation>
-    </message>
-    <message>
-        <source>Removed</source>
-        <translation>已移除</translation>
-    </message>
-    <message>
         <source>%1 → %2</source>
         <translation>%1 → %2</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>已更改</translation>
-    </message>
-    <message>
-        <source>No saved scans yet</source>
-        <translation>尚无存储的扫描</translation>
     </message>
     <message>
         <source>“quillmark history record” inspects this computer and saves the first one.</source>
@@ -1493,22 +1512,6 @@
     <message>
         <source>Scan of %1</source>
         <translation>%1 的扫描</translation>
-    </message>
-    <message>
-        <source>Older</source>
-        <translation>较早</translation>
-    </message>
-    <message>
-        <source>Newer</source>
-        <translation>较新</translation>
-    </message>
-    <message>
-        <source>The two scans are in different languages, so only changes of status are shown.</source>
-        <translation>两次扫描使用不同的语言，因此仅显示状态的更改。</translation>
-    </message>
-    <message>
-        <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>两次扫描显示相同的能力。运行时间等不断变化的值不参与比较。</translation>
     </message>
     <message>
         <source>Capability score</source>

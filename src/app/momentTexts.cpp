@@ -27,6 +27,36 @@ QString dayText(const QDateTime &moment, const language::Formats &formats)
     return formats.date(moment, isThisYear ? language::DateStyle::Day : language::DateStyle::DayAndYear);
 }
 
+QString dayAndTimeText(const QString &day, const QString &time)
+{
+    //: %1: a day, %2: a time: "12 November, 19:20"
+    return Text::tr("%1, %2").arg(day, time);
+}
+
+QString momentText(const QDateTime &moment, const language::Formats &formats)
+{
+    const auto time = timeText(moment, formats);
+    const auto days = moment.date().daysTo(QDate::currentDate());
+    if (days == 0)
+        return Text::tr("Today, %1").arg(time);
+    if (days == 1)
+        return Text::tr("Yesterday, %1").arg(time);
+    return dayAndTimeText(formats.date(moment, language::DateStyle::DayAndYear), time);
+}
+
+QString shortMomentText(const QDateTime &moment, const language::Formats &formats)
+{
+    const auto time = timeText(moment, formats);
+    const auto days = moment.date().daysTo(QDate::currentDate());
+    if (days == 0)
+        //: Within a sentence: "12 November, 19:20 and today, 08:41"
+        return Text::tr("today, %1").arg(time);
+    if (days == 1)
+        //: Within a sentence: "12 November, 19:20 and yesterday, 08:41"
+        return Text::tr("yesterday, %1").arg(time);
+    return dayAndTimeText(dayText(moment, formats), time);
+}
+
 QString inspectedText(const QDateTime &moment, const language::Formats &formats)
 {
     const auto days = moment.date().daysTo(QDate::currentDate());

@@ -4,7 +4,7 @@
 #include "cli/HistoryPages.h"
 
 #include "cli/TerminalReport.h"
-#include "history/SnapshotChange.h"
+#include "history/historyTexts.h"
 #include "language/texts.h"
 
 #include <algorithm>
@@ -25,34 +25,21 @@ class Text
     QUILLMARK_TEXTS(Terminal)
 };
 
-QString scoreOf(const ScanSnapshot &scan)
-{
-    const auto counts = countsOf(scan);
-    return counts.rated() == 0 ? u"–"_s : u"%1%"_s.arg(counts.scorePercent());
-}
-
-/// "3 changed · 1 added"; empty when nothing differs.
+/// "3 changed · 1 added"
 QString countsText(const history::ChangeCounts &counts)
 {
-    QStringList texts;
-    if (counts.changed > 0)
-        texts += Text::tr("%n changed", nullptr, static_cast<int>(counts.changed));
-    if (counts.added > 0)
-        texts += Text::tr("%n added", nullptr, static_cast<int>(counts.added));
-    if (counts.removed > 0)
-        texts += Text::tr("%n removed", nullptr, static_cast<int>(counts.removed));
-    return texts.join(u" · "_s);
+    const auto texts = countTexts(counts);
+    return texts.isEmpty() ? history::noDifferences() : texts.join(u" · "_s);
 }
 
 /// What the scan brought against the one before it; nullptr: there is none.
 QString newsOf(const ScanSnapshot &scan, const ScanSnapshot *before)
 {
     if (!before)
-        return Text::tr("First scan");
+        return history::firstScan();
     if (scan.modelIdentifier != before->modelIdentifier)
         return Text::tr("Another computer");
-    const auto counts = countsText(changeCounts(diff(*before, scan)));
-    return counts.isEmpty() ? Text::tr("No differences") : counts;
+    return countsText(changeCounts(diff(*before, scan)));
 }
 
 bool areOfOneDevice(const std::vector<StoredSnapshot> &scans)
@@ -62,33 +49,28 @@ bool areOfOneDevice(const std::vector<StoredSnapshot> &scans)
     });
 }
 
-/// The value, with its status where that is asked for and the value does not say it already.
-QString valueText(const ScanSnapshot::Item &item, bool withStatus)
+TerminalMark markOf(history::ChangeKind kind)
 {
-    const auto status = title(item.status);
-    return withStatus && item.value != status ? u"%1 · %2"_s.arg(item.value, status) : item.value;
+    using Color = TerminalMark::Color;
+    switch (kind) {
+    case history::ChangeKind::Changed:
+        return {u"~"_s, Color::Yellow};
+    case history::ChangeKind::Added:
+        return {u"+"_s, Color::Green};
+    case history::ChangeKind::Removed:
+        return {u"−"_s, Color::Red};
+    }
+    return {u" "_s, Color::Faint};
 }
 
 TerminalRow rowOf(const EntryChange &change)
 {
-    using Color = TerminalMark::Color;
-    if (!change.older)
-        return {{u"+"_s, Color::Green},
-                change.newer->item.label,
-                valueText(change.newer->item, false),
-                Text::tr("Added")};
-    if (!change.newer)
-        return {{u"−"_s, Color::Red},
-                change.older->item.label,
-                valueText(change.older->item, false),
-                Text::tr("Removed")};
-    const auto &before = change.older->item;
-    const auto &now = change.newer->item;
-    const bool withStatus = before.status != now.status;
-    return {{u"~"_s, Color::Yellow},
-            now.label,
-            Text::tr("%1 → %2").arg(valueText(before, withStatus), valueText(now, withStatus)),
-            Text::tr("Changed")};
+    const bool withStatus = change.isOfStatus();
+    const auto value = change.kind() == history::ChangeKind::Changed
+                           ? Text::tr("%1 → %2").arg(valueText(change.older->item, withStatus),
+                                                     valueText(change.newer->item, withStatus))
+                           : valueText(change.shown().item, false);
+    return {markOf(change.kind()), change.shown().item.label, value, title(change.kind())};
 }
 
 /// By section, in the order in which the sections first have a difference.
@@ -96,7 +78,7 @@ QList<TerminalBlock> blocksOf(const QList<EntryChange> &changes)
 {
     QList<TerminalBlock> blocks;
     for (const auto &change : changes) {
-        const auto &section = change.newer ? change.newer->section : change.older->section;
+        const auto &section = change.shown().section;
         auto block = std::ranges::find(blocks, section, &TerminalBlock::title);
         if (block == blocks.end())
             block = blocks.insert(blocks.end(), {.title = section});
@@ -117,7 +99,7 @@ QString historyPage(const std::vector<StoredSnapshot> &scans, const language::Fo
 {
     TerminalPage page(style);
     if (scans.empty()) {
-        page.addParagraph(Text::tr("No saved scans yet"), Weight::Bold);
+        page.addParagraph(history::noScans(), Weight::Bold);
         page.addParagraph(
             Text::tr("“quillmark history record” inspects this computer and saves the first one."));
         return page.text();
@@ -136,7 +118,7 @@ QString historyPage(const std::vector<StoredSnapshot> &scans, const language::Fo
         QStringList row = {QString::number(i), history::idText(scan.id).first(8), dateOf(scan, formats)};
         if (!ofOneDevice)
             row += scan.deviceName;
-        row += {scan.osVersion, scoreOf(scan),
+        row += {scan.osVersion, scoreText(scan),
                 newsOf(scan, i + 1 < scans.size() ? &scans[i + 1].snapshot : nullptr)};
         rows += row;
     }
@@ -167,22 +149,18 @@ QString comparisonPage(const ScanSnapshot &older, const ScanSnapshot &newer, con
     const auto side = [&](const QString &label, const ScanSnapshot &scan) {
         return TerminalRow{mark, label,
                            u"%1 · %2 · %3"_s.arg(dateOf(scan, formats), scan.deviceName, scan.osVersion),
-                           scoreOf(scan)};
+                           scoreText(scan)};
     };
     TerminalPage page(style);
     const auto changes = entryChanges(older, newer);
-    const auto counts = countsText(changeCounts(diff(older, newer)));
-    page.addParagraph(counts.isEmpty() ? Text::tr("No differences") : counts, Weight::Bold);
-    page.addBlocks({{.rows = {side(Text::tr("Older"), older), side(Text::tr("Newer"), newer)}}});
+    page.addParagraph(countsText(changeCounts(diff(older, newer))), Weight::Bold);
+    page.addBlocks({{.rows = {side(history::olderText(), older), side(history::newerText(), newer)}}});
     if (!sameLanguage(older, newer)) {
         page.addGap();
-        page.addParagraph(
-            Text::tr("The two scans are in different languages, so only changes of status are shown."),
-            Weight::Faint);
+        page.addParagraph(history::otherLanguageNote(), Weight::Faint);
     } else if (changes.isEmpty()) {
         page.addGap();
-        page.addParagraph(Text::tr("Both scans show the same capabilities. Values that change all the time, "
-                                   "such as uptime, are not compared."));
+        page.addParagraph(history::noDifferencesNote());
     }
     page.addBlocks(blocksOf(changes));
     return page.text();

@@ -47,11 +47,22 @@ QList<SnapshotChange> diff(const ScanSnapshot &older, const ScanSnapshot &newer)
 /// Whether values are compared: both snapshots are in the same language, or neither says.
 bool sameLanguage(const ScanSnapshot &older, const ScanSnapshot &newer);
 
+enum class ChangeKind { Changed, Added, Removed };
+
 /// A difference with both rows in full, for who shows their statuses.
 struct EntryChange
 {
     std::optional<Entry> older; ///< absent: the row was added
     std::optional<Entry> newer; ///< absent: the row was removed
+
+    ChangeKind kind() const
+    {
+        return !older ? ChangeKind::Added : !newer ? ChangeKind::Removed : ChangeKind::Changed;
+    }
+    /// The row whose section and label the difference goes by.
+    const Entry &shown() const { return newer ? *newer : *older; }
+    /// Whether the statuses tell the two rows apart.
+    bool isOfStatus() const { return older && newer && older->item.status != newer->item.status; }
 };
 
 /// The differences of diff(), in its order.

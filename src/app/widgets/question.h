@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace quillmark::app {
+
+/// Something that is done only once a person has said so.
+struct Question
+{
+    QString sentence;
+    QString consequence;
+    QString verb; ///< on the button that does it
+};
+
+/// Asks in the system's own way, in front of the widget's window, without waiting for the answer. Whoever
+/// just presses Return changes nothing. The question goes with the widget.
+void ask(QWidget *asker, const Question &question, const std::function<void()> &confirmed);
+
+} // namespace quillmark::app
