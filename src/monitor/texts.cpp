@@ -49,6 +49,16 @@ QString rateText(double bytesPerSecond, const language::Formats &formats)
     return rateInUnit(formats.number(number, digits->second), unit);
 }
 
+QString axisText(double bytesPerSecond, const language::Formats &formats)
+{
+    constexpr int lastUnit = 3;
+    double number = bytesPerSecond / 1000;
+    int unit = 0;
+    for (; number >= 1000 && unit < lastUnit; ++unit)
+        number /= 1000;
+    return rateInUnit(formats.number(number, number == std::floor(number) ? 0 : 1), unit);
+}
+
 QString percentText(double share)
 {
     return Text::tr("%1%").arg(std::lround(share * 100));

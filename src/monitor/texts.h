@@ -17,6 +17,10 @@ QString percentText(double share);
 /// "1.24 MB/s", "186 KB/s", "0 KB/s": three significant digits, powers of 1000.
 QString rateText(double bytesPerSecond, const language::Formats &formats);
 
+/// "2.5 MB/s", "500 KB/s": a label of the axis of a chart, as short as it can be without loss. For the tops
+/// of monitor::axisTop() and their halves.
+QString axisText(double bytesPerSecond, const language::Formats &formats);
+
 /// "18.96 GB"
 QString memoryText(std::int64_t bytes, const language::Formats &formats);
 

@@ -76,7 +76,7 @@ protected:
         constexpr qreal icon = 16;
         const auto place =
             placed({0, (QWidget::height() - icon) / 2.0, icon, icon}, rect(), layoutDirection());
-        appearance.paintIcon(painter, place, m_symbol, Role::Text2);
+        appearance.paintIcon(painter, place, m_symbol, Role::Accent);
     }
 
 private:

@@ -5,10 +5,22 @@
 
 #include "app/AppContext.h"
 #include "app/views/Page.h"
+#include "monitor/MonitorModel.h"
+#include "monitor/chart.h"
+
+#include <QElapsedTimer>
+
+class QGridLayout;
 
 namespace quillmark::app {
 
-/// Live figures and their last two minutes.
+class ChartView;
+class CoreBars;
+class MonitorCard;
+class MonitorTile;
+class TextLabel;
+
+/// Live figures and their last two minutes. The machine is watched while the page can be seen.
 class MonitorView : public Page
 {
     Q_OBJECT
@@ -17,10 +29,49 @@ public:
     explicit MonitorView(const AppContext &context, QWidget *parent = nullptr);
 
     QString headerTitle() const override;
+    QString headerSymbol() const override;
+    QString headerNote() const override;
     bool isSearchable() const override { return false; }
 
+protected:
+    void retranslate() override;
+    void arrange() override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
 private:
+    QWidget *makeCollecting();
+    QWidget *makeLive();
+    void follow();
+    void showModel();
+    void showNetwork();
+    void showTiles();
+    void describe();
+
     const AppContext &m_context;
+    monitor::MonitorModel m_model;
+    monitor::NetworkAxis m_networkAxis;
+    double m_networkTop;
+    QElapsedTimer m_described; ///< since the descriptions of the charts were set
+
+    QWidget *m_collecting;
+    TextLabel *m_collectingTitle;
+    TextLabel *m_collectingNote;
+
+    QWidget *m_live;
+    QGridLayout *m_cards;
+    QGridLayout *m_tiles;
+    ChartView *m_processorChart;
+    CoreBars *m_cores;
+    ChartView *m_memoryChart;
+    ChartView *m_networkChart;
+    MonitorCard *m_processorCard;
+    MonitorCard *m_coresCard;
+    MonitorCard *m_memoryCard;
+    MonitorCard *m_networkCard;
+    MonitorTile *m_thermal;
+    MonitorTile *m_swap;
+    MonitorTile *m_battery;
 };
 
 } // namespace quillmark::app

@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "app/Watching.h"
+#include "app/models/Place.h"
+#include "app/views/ContentView.h"
+#include "app/views/MonitorView.h"
+#include "app/widgets/ChartTrace.h"
+#include "app/widgets/ChartView.h"
+#include "app/widgets/CoreBars.h"
+#include "app/widgets/FigureLine.h"
+#include "support/AppStage.h"
+
+#include <QLabel>
+#include <QTest>
+
+#include <cmath>
+#include <memory>
+
+using namespace quillmark;
+using namespace quillmark::support;
+using namespace Qt::StringLiterals;
+using app::ChartTrace;
+using monitor::ChartPoint;
+
+namespace {
+
+/// The history of a sine with samples at these moments, newest last, of which the last 120 are known.
+std::vector<ChartPoint> historyAt(const std::vector<double> &moments, double phase)
+{
+    const auto first = moments.size() - std::min(moments.size(), monitor::maximumSamples);
+    std::vector<ChartPoint> points;
+    for (auto i = first; i < moments.size(); ++i) {
+        const double step = i > 0 ? moments[i] - moments[i - 1] : 0;
+        points.push_back({.age = moments.back() - moments[i],
+                          .value = 0.5 + 0.3 * std::sin(moments[i] / 7 + phase),
+                          .joinsPrevious = i > first && !monitor::isGap(step)});
+    }
+    return points;
+}
+
+std::vector<ChartTrace::Line> linesAt(const std::vector<double> &moments)
+{
+    return {{historyAt(moments, 0), Qt::blue, true}, {historyAt(moments, 2), Qt::red, false}};
+}
+
+} // namespace
+
+class MonitorTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void countsWhoeverSees()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        auto window = std::make_unique<app::ContentView>(stage.context);
+        window->showPlace(app::place::monitor);
+        QCOMPARE(stage.monitor.clients(), 0); // the window is not shown yet
+        window->QWidget::show();
+        QCOMPARE(stage.monitor.clients(), 1);
+        window->showPlace(app::place::battery);
+        QCOMPARE(stage.monitor.clients(), 0);
+        window->showPlace(app::place::monitor);
+        QCOMPARE(stage.monitor.clients(), 1);
+        window->showMinimized();
+        QTRY_COMPARE(stage.monitor.clients(), 0);
+        window->showPlace(app::place::history);
+        window->showPlace(app::place::monitor);
+        QCOMPARE(stage.monitor.clients(), 0); // still minimised
+        window->showNormal();
+        QTRY_COMPARE(stage.monitor.clients(), 1);
+        window->hide();
+        QCOMPARE(stage.monitor.clients(), 0);
+        window->QWidget::show();
+        QCOMPARE(stage.monitor.clients(), 1);
+        window.reset();
+        QCOMPARE(stage.monitor.clients(), 0);
+    }
+
+    void movesOnAsIfItWereDrawnAnew_data()
+    {
+        QTest::addColumn<QSize>("plot");
+        QTest::addColumn<double>("ratio");
+        QTest::addColumn<double>("step");
+        // A little more than a second, so that no end of a line stands at the left edge.
+        QTest::newRow("whole columns") << QSize(476, 140) << 1.0 << 1.25;
+        QTest::newRow("parts of columns") << QSize(431, 150) << 1.0 << 1.02;
+        QTest::newRow("a screen of twice the pixels") << QSize(733, 280) << 2.0 << 1.03;
+        QTest::newRow("narrow") << QSize(119, 60) << 1.5 << 1.1;
+    }
+
+    void movesOnAsIfItWereDrawnAnew()
+    {
+        QFETCH(QSize, plot);
+        QFETCH(double, ratio);
+        QFETCH(double, step);
+        ChartTrace trace;
+        std::vector<double> moments;
+        for (int sample = 0; sample < 260; ++sample) {
+            const double gap = sample == 40 || sample == 41 || sample == 200 ? 4 : step;
+            moments.push_back(moments.empty() ? 0 : moments.back() + gap);
+            trace.update(linesAt(moments), {plot, ratio});
+            auto anew = trace;
+            anew.invalidate();
+            anew.update(linesAt(moments), {plot, ratio});
+            if (trace.picture() != anew.picture())
+                QFAIL(qPrintable(u"differs at sample %1"_s.arg(sample)));
+        }
+        QVERIFY(!trace.picture().allGray()); // there is something to compare
+    }
+
+    void startsAnewWithAnotherHistory()
+    {
+        const ChartTrace::Shape shape{QSize(300, 100), 1};
+        ChartTrace trace;
+        trace.update(linesAt({0, 1, 2, 3}), shape);
+        trace.update(linesAt({50, 51}), shape);
+        ChartTrace other;
+        other.update(linesAt({50, 51}), shape);
+        QCOMPARE(trace.picture(), other.picture());
+        trace.update(linesAt({}), shape);
+        QVERIFY(trace.picture().allGray());
+    }
+
+    void showsWhatItKnows_data()
+    {
+        QTest::addColumn<QString>("recording");
+        QTest::addColumn<bool>("hasBattery");
+        QTest::newRow("laptop") << u"macbook-pro-m3-max"_s << true;
+        QTest::newRow("no battery") << u"mac-mini-m4-pro"_s << false;
+    }
+
+    void showsWhatItKnows()
+    {
+        QFETCH(QString, recording);
+        QFETCH(bool, hasBattery);
+        AppStage stage(recordingText(recording));
+        app::MonitorView view(stage.context);
+        const auto isShown = [&view](const QString &text) {
+            for (const auto *label : view.findChildren<QLabel *>()) {
+                if (label->isVisible() && label->text().startsWith(text))
+                    return true;
+            }
+            return false;
+        };
+        view.resize(900, 700);
+        view.show();
+        QVERIFY(isShown(u"Collecting samples…"_s));
+        QTRY_VERIFY(stage.monitor.latest());
+        QVERIFY(!isShown(u"Collecting samples…"_s));
+        QVERIFY(isShown(u"Thermal state"_s));
+        QCOMPARE(isShown(u"Battery"_s), hasBattery);
+        for (const auto *chart : view.findChildren<app::ChartView *>()) {
+            QVERIFY(!chart->accessibleName().isEmpty());
+            QVERIFY(!chart->accessibleDescription().isEmpty());
+        }
+    }
+
+    void figuresAreNumbersWithTheirUnits_data()
+    {
+        QTest::addColumn<QString>("figure");
+        QTest::addColumn<QStringList>("parts");
+        QTest::newRow("share") << u"23%"_s << QStringList{u"23"_s, u"%"_s};
+        QTest::newRow("unit") << u"18,96\u00a0GB"_s << QStringList{u"18,96"_s, u"GB"_s};
+        QTest::newRow("unit before") << u"%7"_s << QStringList{u"%"_s, u"7"_s};
+        QTest::newRow("other digits") << u"١٨٫٩ غيغابايت"_s << QStringList{u"١٨٫٩"_s, u"غيغابايت"_s};
+        QTest::newRow("word") << u"None"_s << QStringList{u"None"_s};
+    }
+
+    void figuresAreNumbersWithTheirUnits()
+    {
+        QFETCH(QString, figure);
+        QFETCH(QStringList, parts);
+        QStringList texts;
+        for (const auto &part : app::figureParts(figure))
+            texts += part.text;
+        QCOMPARE(texts, parts);
+    }
+};
+
+QTEST_MAIN(MonitorTest)
+#include "MonitorTest.moc"
