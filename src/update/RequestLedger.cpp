@@ -3,16 +3,16 @@
 
 #include "update/RequestLedger.h"
 
+#include "platform/posix/FileLock.h"
 #include "update/privateFile.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLockFile>
 
 #include <algorithm>
+#include <chrono>
 
 namespace quillmark::update {
 
@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype mostExchanges = 50;
-constexpr int patience = 1000; // milliseconds
+constexpr std::chrono::seconds patience{1};
 
 QJsonObject toJson(const Exchange &exchange)
 {
@@ -70,11 +70,10 @@ bool RequestLedger::complete(const Exchange &begun, const QList<Exchange> &excha
 
 bool RequestLedger::change(const std::function<void(QList<Exchange> &)> &change)
 {
-    // Another program of the user’s, the window or the command line, may write it too.
-    if (!QDir().mkpath(QFileInfo(m_file).absolutePath()))
-        return false;
-    QLockFile lock(m_file + ".lock"_L1);
-    if (!lock.tryLock(patience))
+    // The window and the command line may write it at the same time.
+    platform::FileLock lock;
+    if (!makePrivateFolder(m_file) ||
+        !lock.take(QFile::encodeName(m_file + ".lock"_L1).toStdString(), patience))
         return false;
     auto all = exchanges();
     change(all);

@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include <QCoreApplication>
+#include "language/texts.h"
 
 namespace quillmark::update {
 
 /// What is said about newer versions, in the interface language of the moment.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Update)
+    QUILLMARK_TEXTS(Update)
 };
 
 } // namespace quillmark::update

@@ -3,10 +3,12 @@
 
 #include "update/privateFile.h"
 
-#include <QDir>
+#include "platform/posix/writeFile.h"
+
 #include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
+
+#include <filesystem>
+#include <string_view>
 
 namespace quillmark::update {
 
@@ -26,12 +28,16 @@ QByteArray readPrivateFile(const QString &path)
 
 bool writePrivateFile(const QString &path, const QByteArray &bytes)
 {
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
-        return false;
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) &&
-           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-           file.write(bytes) == bytes.size() && file.commit();
+    const std::filesystem::path file = QFile::encodeName(path).toStdString();
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return makePrivateFolder(path) &&
+           platform::writeFile(file, text, platform::Existing::Replace, 0600).has_value();
+}
+
+bool makePrivateFolder(const QString &path)
+{
+    const std::filesystem::path file = QFile::encodeName(path).toStdString();
+    return platform::makeFolder(file.parent_path(), 0700).has_value();
 }
 
 } // namespace quillmark::update

@@ -14,4 +14,7 @@ QByteArray readPrivateFile(const QString &path);
 /// Writes the file whole or not at all, for its owner alone to read; makes its folder. False: it could not.
 bool writePrivateFile(const QString &path, const QByteArray &bytes);
 
+/// Makes the folder that a file is to stand in. False: it could not.
+bool makePrivateFolder(const QString &path);
+
 } // namespace quillmark::update

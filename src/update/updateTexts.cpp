@@ -13,6 +13,7 @@ QString reasonText(const FetchError &error, const QString &host)
 {
     switch (error.reason) {
     case FetchError::Reason::NoConnection:
+        //: %1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused
         return Text::tr("%1 could not be reached: %2").arg(host, error.detail);
     case FetchError::Reason::NotTrusted:
         return Text::tr("%1 could not prove that it is %1: %2").arg(host, error.detail);
@@ -21,6 +22,7 @@ QString reasonText(const FetchError &error, const QString &host)
     case FetchError::Reason::TooLong:
         return Text::tr("What %1 answered is longer than a feed may be.").arg(host);
     case FetchError::Reason::LedElsewhere:
+        //: %2 is the address
         return Text::tr("%1 leads to another address, which was not followed: %2").arg(host, error.detail);
     case FetchError::Reason::Refused:
         return Text::tr("%1 answered with status %2 instead of a feed.").arg(host, error.detail);
@@ -32,9 +34,7 @@ QString reasonText(const FeedError &error, const QString &host)
 {
     switch (error.reason) {
     case FeedError::Reason::NotXml:
-        return error.line > 0 ? Text::tr("What %1 answered is not a feed: its line %2 is no XML.")
-                                    .arg(host, QString::number(error.line))
-                              : Text::tr("What %1 answered is not a feed: it is no XML.").arg(host);
+        return Text::tr("What %1 answered is not a feed: it is no XML, or a part of one.").arg(host);
     case FeedError::Reason::DocumentType:
         return Text::tr("What %1 answered is not a feed: it declares a document type.").arg(host);
     case FeedError::Reason::NotFeed:
@@ -65,6 +65,7 @@ QString headline(const CheckResult &result, const Version &running)
 {
     if (const auto *available = std::get_if<Available>(&result)) {
         const auto &title = available->offer.title;
+        //: %1 and %2 are versions, as in all of these: 1.2
         if (available->isSkipped)
             return Text::tr("Quillmark %1 is available, which you chose to skip. You have version %2.")
                 .arg(title, running.text());

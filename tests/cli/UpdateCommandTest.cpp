@@ -104,7 +104,7 @@ void UpdateCommandTest::asksOnce()
     QStringList questions;
     const Terminal terminal{.ask = [&](const QString &question) {
         questions += question;
-        return answer;
+        return answer ? u"y"_s : u"n"_s;
     }};
     for (int i = 0; i < 2; ++i)
         QCOMPARE(runWith(u"update"_s, terminal).status, answer ? 0 : 1);
@@ -208,7 +208,7 @@ void UpdateCommandTest::failures()
     QCOMPARE(outcome.out, QString());
     QCOMPARE(outcome.err, u"quillmark: "_s + expected + u'\n');
     if (!address.isEmpty()) // then there is no host to name in a question either
-        QCOMPARE(runWith(u"update"_s, {.ask = [](const QString &) { return true; }}).err, outcome.err);
+        QCOMPARE(runWith(u"update"_s, {.ask = [](const QString &) { return u"y"_s; }}).err, outcome.err);
 }
 
 QTEST_GUILESS_MAIN(UpdateCommandTest)

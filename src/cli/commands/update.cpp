@@ -5,6 +5,7 @@
 #include "cli/TerminalPage.h"
 #include "cli/commands/Command.h"
 #include "cli/updateJson.h"
+#include "language/texts.h"
 #include "reports/Report.h"
 #include "update/MakeFeedSource.h"
 #include "update/updateTexts.h"
@@ -26,7 +27,7 @@ using Weight = TerminalPage::Weight;
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Terminal)
+    QUILLMARK_TEXTS(Terminal)
 };
 
 struct UpdateOptions
@@ -68,7 +69,9 @@ std::expected<update::Trigger, Failure> triggerFor(const UpdateOptions &options,
     const auto host = checker.host();
     if (checker.consent() == UpdateChecker::Consent::NotAsked && output.ask && !host.isEmpty()) {
         output.err << update::consentNote().toStdString() << '\n';
-        checker.setConsent(output.confirms(update::consentQuestion(host) + u" [y/N] "_s));
+        //: %1 is a question; what may be typed for yes is the translation of "y, yes"
+        const auto question = Text::tr("%1 [y/N]").arg(update::consentQuestion(host));
+        checker.setConsent(output.confirms(question + u' '));
     }
     if (checker.hasConsent() || host.isEmpty()) // then the address is refused by name
         return update::Trigger::OnDemand;
