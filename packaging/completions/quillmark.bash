@@ -44,7 +44,7 @@ _quillmark() {
         --search | --samples) return ;;
         *)
             case $command:$part in
-                :) choices="inspect battery export history monitor machine app $common" ;;
+                :) choices="inspect battery export history monitor update machine app $common" ;;
                 inspect:*) choices="--json --markdown --text --section --status --search $common" ;;
                 battery:*) choices="--json $common" ;;
                 export:*) choices="--format --output --force --with-names --section $common" ;;
@@ -56,6 +56,7 @@ _quillmark() {
                     ;;
                 history:*) choices="--json $common" ;;
                 monitor:*) choices="--json --samples $common" ;;
+                update:*) choices="--yes --json --ledger $common" ;;
                 machine:) choices="record $common" ;;
                 machine:record) choices="--output --force --with-names $common" ;;
                 *) choices=$common ;;

@@ -23,7 +23,7 @@ function __quillmark_scans
     quillmark history list --json $file 2>/dev/null | string match -r -g '^\s*"id": *"([^"]*)"'
 end
 
-set -l commands inspect battery export history monitor machine app
+set -l commands inspect battery export history monitor update machine app
 set -l parts list show compare remove clear record
 
 complete -c quillmark -f
@@ -41,10 +41,11 @@ complete -c quillmark -n $none -a battery -d "Show the battery's health and figu
 complete -c quillmark -n $none -a export -d 'Inspect the machine and write the report to a file'
 complete -c quillmark -n $none -a history -d 'Look at saved scans, compare them, and save new ones'
 complete -c quillmark -n $none -a monitor -d 'Show processor, memory, network and heat live'
+complete -c quillmark -n $none -a update -d 'Ask whether there is a newer version'
 complete -c quillmark -n $none -a machine -d 'Work with recorded machines'
 complete -c quillmark -n $none -a app -d 'Open the window'
 
-for command in inspect battery monitor "history $parts"
+for command in inspect battery monitor update "history $parts"
     complete -c quillmark -n "__quillmark_in $command" -l json -d 'Print JSON'
 end
 for command in inspect export
@@ -64,6 +65,8 @@ complete -c quillmark -n '__quillmark_in inspect' -l status -x -d 'Only rows wit
 complete -c quillmark -n '__quillmark_in inspect' -l search -x -d 'Only rows with this text'
 complete -c quillmark -n '__quillmark_in export' -l format -x -d 'Form of the report' -a 'text markdown json pdf'
 complete -c quillmark -n '__quillmark_in monitor' -l samples -x -d 'End after so many samples'
+complete -c quillmark -n '__quillmark_in update' -l yes -d 'Agree to asking the feed, this once'
+complete -c quillmark -n '__quillmark_in update' -l ledger -d 'Print the last requests that were sent'
 
 complete -c quillmark -n '__quillmark_in machine; and not __quillmark_in machine record' -a record \
     -d "Write this machine's raw readings"
