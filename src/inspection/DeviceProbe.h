@@ -64,6 +64,8 @@ CapabilitySection processorSection(const platform::Machine &machine, const langu
 CapabilitySection graphicsSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection intelligenceSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection displaysSection(const platform::Machine &machine, const language::Formats &formats);
+/// The number, from 1, that the keys of its rows bear. None without one.
+std::optional<int> builtInDisplay(const platform::Machine &machine);
 CapabilitySection mediaSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection cameraAudioSection(const platform::Machine &machine, const language::Formats &formats);
 CapabilitySection storageSection(const platform::Machine &machine, const language::Formats &formats);

@@ -7,6 +7,8 @@
 #include "inspection/rows.h"
 #include "inspection/values.h"
 
+#include <algorithm>
+
 namespace quillmark::inspection::DeviceProbe {
 
 using namespace Qt::StringLiterals;
@@ -157,7 +159,23 @@ QString countText(const std::optional<std::vector<platform::DisplayReading>> &re
                              : wholeNumber(static_cast<std::int64_t>(readings->size()), formats);
 }
 
+Display displayOf(const platform::DisplayReading &reading, bool onMac)
+{
+    return onMac ? macDisplay(reading) : linuxDisplay(reading);
+}
+
 } // namespace
+
+std::optional<int> builtInDisplay(const platform::Machine &machine)
+{
+    const auto readings = machine.displays().displays().value_or(std::vector<platform::DisplayReading>());
+    const bool onMac = isMac(machine);
+    const auto found = std::ranges::find_if(
+        readings, [onMac](const auto &reading) { return displayOf(reading, onMac).isBuiltIn; });
+    if (found == readings.end())
+        return std::nullopt;
+    return static_cast<int>(found - readings.begin()) + 1;
+}
 
 CapabilitySection displaysSection(const platform::Machine &machine, const language::Formats &formats)
 {
@@ -170,7 +188,7 @@ CapabilitySection displaysSection(const platform::Machine &machine, const langua
     for (const auto &reading : readings.value_or(std::vector<platform::DisplayReading>())) {
         if (place.number > mostOfAKind)
             break;
-        items += displayItems(onMac ? macDisplay(reading) : linuxDisplay(reading), place, onMac, formats);
+        items += displayItems(displayOf(reading, onMac), place, onMac, formats);
         ++place.number;
     }
     return sectionOf(u"displays", std::move(items));

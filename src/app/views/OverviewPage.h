@@ -4,15 +4,22 @@
 #pragma once
 
 #include "app/AppContext.h"
-#include "app/views/Page.h"
-#include "inspection/CapabilityModel.h"
+#include "app/views/RowsPage.h"
 
-#include <optional>
+#include <QHash>
+
+class QAbstractButton;
 
 namespace quillmark::app {
 
-/// The answer first: which machine, how good, what needs attention.
-class OverviewPage : public Page
+class CardGrid;
+class HeadlineCard;
+class SectionCard;
+class SinceCard;
+
+/// The answer first: which machine, how good, what needs attention. A card for each section; with a filter by
+/// status, its rows in their place.
+class OverviewPage : public RowsPage
 {
     Q_OBJECT
 
@@ -20,18 +27,31 @@ public:
     explicit OverviewPage(const AppContext &context, QWidget *parent = nullptr);
 
     QString headerTitle() const override;
-    /// The rows of this status in place of the cards; none: the cards.
-    void setStatus(std::optional<inspection::CapabilityStatus> status) override;
-    bool hasStatusFilter() const override { return true; }
-    std::optional<inspection::CapabilityStatus> status() const override;
+    QWidget *firstStop() override;
 
 Q_SIGNALS:
     void sectionChosen(const QString &key);
     /// The comparison of the newest two scans.
     void comparisonAsked();
 
+protected:
+    bool showsList() const override { return status().has_value(); }
+    void rowsChanged() override;
+    void retranslate() override;
+    void arrange() override;
+
 private:
-    const AppContext &m_context;
+    void fillCards();
+    void placeCards();
+    void compareScans();
+    SectionCard *cardOf(const QString &key);
+
+    HeadlineCard *m_headline;
+    CardGrid *m_grid;
+    QHash<QString, SectionCard *> m_cards; ///< by the section's key
+    QList<QAbstractButton *> m_sections;   ///< their cards, in their order
+    SinceCard *m_since;
+    bool m_hasScans = false;
 };
 
 } // namespace quillmark::app

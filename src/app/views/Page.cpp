@@ -52,6 +52,11 @@ qreal Page::effectiveWidth() const
     return inside / Appearance::current().scale();
 }
 
+void Page::setFilled(bool filled)
+{
+    static_cast<QVBoxLayout *>(m_content->layout())->setStretchFactor(m_column, filled ? 1 : 0);
+}
+
 void Page::setUp()
 {
     retranslate();

@@ -76,6 +76,10 @@ protected:
     static constexpr qreal compactWidth = 640;
     bool isCompact() const { return effectiveWidth() < compactWidth; }
 
+    /// Whether the column takes all of the page's height: its rows that can grow do, as the middle of an
+    /// empty page.
+    void setFilled(bool filled);
+
     /// Sets all texts, in the language of now. Called by the constructor's user through setUp().
     virtual void retranslate() {}
     /// Fits the arrangement to effectiveWidth().

@@ -4,15 +4,15 @@
 #pragma once
 
 #include "app/AppContext.h"
-#include "app/views/Page.h"
-#include "inspection/CapabilityModel.h"
-
-#include <optional>
+#include "app/views/RowsPage.h"
 
 namespace quillmark::app {
 
+class Button;
+class ElidedLabel;
+
 /// What a search found, by section.
-class ResultsPage : public Page
+class ResultsPage : public RowsPage
 {
     Q_OBJECT
 
@@ -21,15 +21,20 @@ public:
 
     /// Searches for the text: trimmed, and not empty then.
     void setSearch(const QString &text);
-    void setStatus(std::optional<inspection::CapabilityStatus> status) override;
-    bool hasStatusFilter() const override { return true; }
-    std::optional<inspection::CapabilityStatus> status() const override;
 
 Q_SIGNALS:
     void searchCleared();
 
+protected:
+    void rowsChanged() override;
+    void explainEmptiness() override;
+    void retranslate() override;
+    void hideEvent(QHideEvent *event) override;
+
 private:
-    const AppContext &m_context;
+    ElidedLabel *m_title;
+    ElidedLabel *m_found;
+    Button *m_clear;
 };
 
 } // namespace quillmark::app

@@ -4,15 +4,15 @@
 #pragma once
 
 #include "app/AppContext.h"
-#include "app/views/Page.h"
-#include "inspection/CapabilityModel.h"
-
-#include <optional>
+#include "app/views/RowsPage.h"
 
 namespace quillmark::app {
 
+class ElidedLabel;
+class IconTile;
+
 /// One section of the inspection, row by row.
-class SectionPage : public Page
+class SectionPage : public RowsPage
 {
     Q_OBJECT
 
@@ -21,12 +21,17 @@ public:
 
     /// Shows the section of this key from now on.
     void setSection(const QString &key);
-    void setStatus(std::optional<inspection::CapabilityStatus> status) override;
-    bool hasStatusFilter() const override { return true; }
-    std::optional<inspection::CapabilityStatus> status() const override;
+    /// The section, whatever the filter shows of it.
+    bool copyAsText() override;
+
+protected:
+    void rowsChanged() override;
+    void arrange() override;
 
 private:
-    const AppContext &m_context;
+    IconTile *m_tile;
+    ElidedLabel *m_title;
+    ElidedLabel *m_rated;
 };
 
 } // namespace quillmark::app
