@@ -23,6 +23,8 @@
 #include <QIcon>
 #include <QTemporaryDir>
 
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 namespace quillmark::app {
@@ -57,31 +59,59 @@ QString historyFile(const Launch &launch, const QTemporaryDir &passing)
                                        : history::ScanHistory::defaultFile();
 }
 
+/// Where no window can be opened, Qt writes a page about plugins and ends the process by a signal.
+void endInOneLine(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtFatalMsg)
+        return;
+    const auto reason = message.section(u'\n', 0, 0);
+    std::fprintf(stderr, "quillmark: no window can be opened: %s\n", qPrintable(reason));
+    std::_Exit(1);
+}
+
+std::unique_ptr<QApplication> startApplication()
+{
+    settings::Settings::nameApplication();
+    QCoreApplication::setApplicationVersion(reports::applicationVersion());
+    // There are no options for Qt to take.
+    static char name[] = "quillmark";
+    static char *arguments[] = {name, nullptr};
+    static int count = 1;
+    const auto handler = qInstallMessageHandler(endInOneLine);
+    auto application = std::make_unique<QApplication>(count, arguments);
+    qInstallMessageHandler(handler);
+    QGuiApplication::setDesktopFileName(u"com.tarnwick.Quillmark"_s);
+    QApplication::setWindowIcon(QIcon(u":/quillmark/icons/app-icon.svg"_s));
+    QApplication::setQuitOnLastWindowClosed(false);
+    watchFocus();
+    Appearance::current();
+    return application;
+}
+
+update::UpdateChecker::Surroundings surroundings(const platform::Machine &machine)
+{
+    return {.computer = update::computerOf(machine),
+            .running = *update::Version::parse(reports::applicationVersion())};
+}
+
 } // namespace
 
 int run(const Launch &launch, QString &)
 {
-    settings::Settings::nameApplication();
-    QCoreApplication::setApplicationVersion(reports::applicationVersion());
-    // The name and the place of the program are of no use here: there are no options for Qt to take.
-    static int argumentCount = 1;
-    static char name[] = "quillmark";
-    static char *arguments[] = {name, nullptr};
-    QApplication application(argumentCount, arguments);
-    QGuiApplication::setDesktopFileName(u"com.tarnwick.Quillmark"_s);
-    application.setWindowIcon(QIcon(u":/quillmark/icons/app-icon.svg"_s));
-    application.setQuitOnLastWindowClosed(false);
-
+    const auto application = startApplication();
     SingleInstance instance(launch.recording + u'\n' + launch.historyFile);
     if (!instance.claim())
         return 0;
-    watchFocus();
-    Appearance::current();
 
     settings::Settings settings;
     language::LanguageManager language(settings, language::systemLanguages());
     if (!launch.language.isEmpty())
         language.setLanguage(launch.language);
+    const auto followLanguage = [&] { QApplication::setLayoutDirection(language.direction()); };
+    QObject::connect(&language, &language::LanguageManager::languageChanged, application.get(),
+                     followLanguage);
+    followLanguage();
+
     const QTemporaryDir passing;
     history::ScanHistory history(language, historyFile(launch, passing));
     monitor::LiveMonitor::setSharedMachine(launch.machine);
@@ -89,24 +119,23 @@ int run(const Launch &launch, QString &)
     const inspection::Quillmark *inspected = nullptr;
     inspection::Quillmark inspection(launch.machine, language, clipboard, reportText(inspected, language));
     inspected = &inspection;
+    update::UpdateChecker updates(settings, surroundings(launch.machine),
+                                  std::make_unique<update::NetworkFeedSource>());
 
     const AppContext context{launch.machine, settings, language,
                              inspection,     history,  monitor::LiveMonitor::shared()};
     ContentView window(context);
-    QObject::connect(&window, &ContentView::closed, &application, &QApplication::quit);
-    QObject::connect(&window, &ContentView::quitAsked, &window, &ContentView::close);
+    new Dialogs(window, context, updates); // belongs to the window
+    const auto quit = [&] {
+        window.close(); // where it was is kept
+        QApplication::quit();
+    };
+    QObject::connect(&window, &ContentView::quitAsked, &window, quit);
+    QObject::connect(&window, &ContentView::closed, &window, [&] { QApplication::quit(); });
     QObject::connect(&instance, &SingleInstance::activated, &window, &ContentView::bringForward);
-    const auto followLanguage = [&] { application.setLayoutDirection(language.direction()); };
-    QObject::connect(&language, &language::LanguageManager::languageChanged, &window, followLanguage);
-    followLanguage();
-    const auto version = update::Version::parse(reports::applicationVersion());
-    Q_ASSERT(version);
-    update::UpdateChecker updates(settings, {update::computerOf(launch.machine), *version},
-                                  std::make_unique<update::NetworkFeedSource>());
-    new Dialogs(window, context, updates);
     window.restoreWindow();
     window.QWidget::show();
-    return application.exec();
+    return QApplication::exec();
 }
 
 } // namespace quillmark::app
