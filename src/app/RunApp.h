@@ -19,9 +19,10 @@ struct Launch
 };
 
 /// The function that the module quillmark-app exports, with C linkage, as `runAppName`: opens the window and
-/// runs until the user quits; where the same user has such a window already, brings its window forward
-/// instead. Returns the exit status. When no window can be opened it says why in `failure`. There must be no
-/// application object yet. To be called on the main thread.
+/// runs until the user quits; where the same user has such a window already, brings it forward instead.
+/// Returns the exit status, and in `failure` why it is not 0. Where there is no desktop to open a window on,
+/// the program ends with status 1 and a line on standard error. There must be no application object yet. To
+/// be called on the main thread.
 ///
 /// Program and module are built together and share Qt's libraries, so that its values cross as they are;
 /// `version`, the caller's applicationVersion(), is checked before anything else is read.

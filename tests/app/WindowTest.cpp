@@ -7,8 +7,10 @@
 #include "support/AppStage.h"
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QLineEdit>
 #include <QListView>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -46,6 +48,68 @@ private Q_SLOTS:
             QVERIFY(!window.grab().isNull());
         }
         QCOMPARE(stage.history.snapshots().size(), 1);
+    }
+
+    void everyStopHasAName_data()
+    {
+        QTest::addColumn<QString>("place");
+        for (const auto &place : {app::place::overview, app::place::ofSection(u"security"_s),
+                                  app::place::history, app::place::battery, app::place::monitor})
+            QTest::newRow(qPrintable(place)) << place;
+    }
+
+    void everyStopHasAName()
+    {
+        QFETCH(QString, place);
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        app::ContentView window(stage.context);
+        window.QWidget::show();
+        window.showPlace(place);
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QSet<const QWidget *> stops;
+        for (int step = 0; step < 100; ++step) {
+            QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_Tab);
+            auto *stop = window.focusWidget();
+            if (!stop || stops.contains(stop))
+                break;
+            stops += stop;
+            const auto *accessible = QAccessible::queryAccessibleInterface(stop);
+            QVERIFY(accessible);
+            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), stop->metaObject()->className());
+        }
+        QVERIFY(stops.size() > 4); // the sidebar, the buttons, the page
+        QVERIFY(stops.size() < 40);
+    }
+
+    void speaksAnotherLanguageAtOnce()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        app::ContentView window(stage.context);
+        window.QWidget::show();
+        stage.inspect();
+        auto *list = window.findChild<QListView *>();
+        const auto title = [&](int row) { return list->model()->index(row, 0).data().toString(); };
+        const auto english = title(0);
+        QVERIFY(stage.language.setLanguage(u"de"_s));
+        QTRY_COMPARE(stage.inspection.sections().constFirst().items.constFirst().label, u"Gerätename"_s);
+        QVERIFY(title(0) != english);                  // the window's own
+        QCOMPARE(stage.history.snapshots().size(), 1); // words alone are no news
+    }
+
+    void wearsTheOtherAppearanceAtOnce()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        app::ContentView window(stage.context);
+        window.QWidget::show();
+        const auto ground = [&] { return window.grab().toImage().pixelColor(window.width() - 4, 100); };
+        for (const bool isDark : {true, false}) {
+            app::Appearance::current().setDark(isDark);
+            QCOMPARE(ground(), app::Appearance::current().color(design::Role::Window));
+        }
+        QVERIFY(ground() != design::Theme::dark().color(design::Role::Window));
     }
 
     void sidebarIsASoundModel()
