@@ -27,9 +27,36 @@ const CLI::App &innermost(const CLI::App &program)
     return *app;
 }
 
+/// The option or argument that the library's message names, of the command that was typed or those around it.
+/// nullptr: none.
+const CLI::Option *optionIn(const std::string &message, const CLI::App &program)
+{
+    for (const auto *app = &innermost(program); app; app = app->get_parent()) {
+        for (const auto *option : app->get_options()) {
+            if (message.find(option->get_name()) != std::string::npos)
+                return option;
+        }
+    }
+    return nullptr;
+}
+
+/// What is wrong with the values of an option.
+std::string reasonFor(const CLI::Option &option, const CLI::Error &error)
+{
+    const auto name = option.get_name();
+    if (dynamic_cast<const CLI::ConversionError *>(&error))
+        return "'" + CLI::detail::join(option.results(), " ") + "' is no value for " + name;
+    return option.count() > 1 ? name + " may be given only once" : name + " lacks its value";
+}
+
 /// What was wrong.
 std::string reasonFor(const CLI::App &program, const CLI::Error &error)
 {
+    if (dynamic_cast<const CLI::ConversionError *>(&error) ||
+        dynamic_cast<const CLI::ArgumentMismatch *>(&error)) {
+        const auto *option = optionIn(error.what(), program);
+        return option ? reasonFor(*option, error) : error.what();
+    }
     const bool lacksCommand = dynamic_cast<const CLI::RequiredError *>(&error) &&
                               innermost(program).get_require_subcommand_min() > 0;
     if (!lacksCommand && !dynamic_cast<const CLI::ExtrasError *>(&error))

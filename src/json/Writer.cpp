@@ -49,7 +49,9 @@ void Writer::key(std::string_view name)
 {
     beforeValue();
     quoted(name);
-    append(m_layout == Layout::Indented ? ": " : ":");
+    append(':');
+    if (m_layout == Layout::Indented)
+        append(' ');
     m_afterKey = true;
 }
 
@@ -160,6 +162,13 @@ void Writer::grow()
 
 void Writer::quoted(std::string_view text)
 {
+    if (plainLength(text) == text.size()) { // as nearly all are
+        char *const to = room(text.size() + 2);
+        to[0] = '"';
+        text.copy(to + 1, text.size());
+        to[text.size() + 1] = '"';
+        return;
+    }
     append('"');
     for (;;) {
         const std::size_t plain = plainLength(text);

@@ -166,6 +166,8 @@ void CliTest::wrongCommandLines_data()
     row(u"machine record --output"_s, u"quillmark machine record"_s);
     row(u"machine record file.json"_s, u"quillmark machine record"_s);
     row(u"battery extra"_s, u"quillmark battery"_s);
+    row(u"machine record --output a --output b"_s, u"quillmark machine record"_s);
+    row(u"inspect --json=maybe"_s, u"quillmark inspect"_s);
     row(u"export"_s, u"quillmark export"_s);
     row(u"export --format text"_s, u"quillmark export"_s);
     row(u"export --output report"_s, u"quillmark export"_s);
@@ -185,6 +187,10 @@ void CliTest::wrongCommandLines()
     const auto lines = outcome.err.split(u'\n');
     QCOMPARE(lines.size(), 3);
     QVERIFY2(lines[0].startsWith(u"quillmark: "_s) && lines[0].size() > 15, qPrintable(outcome.err));
+    // Words of the library that reads the command line, which speaks to programmers.
+    for (const auto &word : {u"required but"_s, u"TEXT"_s, u"convert"_s, u"allowed value"_s, u"subcommand"_s,
+                             u"arguments were"_s})
+        QVERIFY2(!outcome.err.contains(word), qPrintable(outcome.err));
     QCOMPARE(lines[1], u"Try '%1 --help'."_s.arg(named));
 }
 

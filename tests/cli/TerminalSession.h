@@ -13,11 +13,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#if __has_include(<pty.h>)
-#include <pty.h>
-#else // where the C library has forkpty elsewhere
-#include <util.h>
-#endif
+#include QUILLMARK_FORKPTY_HEADER
 #include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
