@@ -167,6 +167,10 @@
         <source>No saved scans yet</source>
         <translation>لا توجد فحوصات محفوظة بعد</translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <translation type="unfinished">%1%</translation>
+    </message>
 </context>
 <context>
     <name>Inspection</name>
@@ -1231,6 +1235,56 @@
     </message>
 </context>
 <context>
+    <name>Moment</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1: a day, %2: a time: &quot;12 November, 19:20&quot;</extracomment>
+        <translation type="unfinished">%1: %2 {1,?}</translation>
+    </message>
+    <message>
+        <source>Today, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>today, %1</source>
+        <extracomment>Within a sentence: &quot;12 November, 19:20 and today, 08:41&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yesterday, %1</source>
+        <extracomment>Within a sentence: &quot;12 November, 19:20 and yesterday, 08:41&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspected today at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspected yesterday at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspected on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last checked today at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last checked yesterday at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last checked on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Monitor</name>
     <message>
         <source>%1&#xa0;KB/s</source>
@@ -1296,6 +1350,110 @@
     <message>
         <source>Unknown</source>
         <translation>غير معروفة</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorWords</name>
+    <message>
+        <source>Normal</source>
+        <comment>pressure</comment>
+        <extracomment>of the memory pressure</extracomment>
+        <translation type="unfinished">عادية</translation>
+    </message>
+    <message>
+        <source>Elevated</source>
+        <comment>pressure</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <comment>pressure</comment>
+        <translation type="unfinished">حرجة</translation>
+    </message>
+    <message>
+        <source>No limits on performance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slightly warm, no limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Performance is reduced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Performance is strongly reduced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n core(s), the busiest at %1 percent</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In %1, out %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A row of the menu: what it is, and its figure</extracomment>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <extracomment>A row of the menu: what it is, its figure and a remark on it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation type="unfinished">المعالج</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation type="unfinished">الذاكرة</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
+        <translation type="unfinished">%1 من %2</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation type="unfinished">الضغط</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thermal state</source>
+        <translation type="unfinished">الحالة الحرارية</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished">الشبكة</translation>
+    </message>
+</context>
+<context>
+    <name>Question</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1507,6 +1665,265 @@
     </message>
 </context>
 <context>
+    <name>SearchWords</name>
+    <message>
+        <source>gpu, graphics card, video card, 3d, gaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ai, ml, machine learning, npu, llm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, monitor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>video, codec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>energy, battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>internet, online</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>safety, protection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>computer name, host name, hostname</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>os, system version, macos, linux, build</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>64 bit, arm, x86, rosetta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>running since, restart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>temperature, heat, throttling, fan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vm, hypervisor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cpu, chip, soc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cpu cores</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cpu cores, threads, hyper-threading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>clock speed, ghz, mhz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ram, main memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vram, video memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>siri, writing tools, language model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ane, npu, ai</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vrr, adaptive sync, refresh rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hdr, edr, brightness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>p3, gamut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>retina, hidpi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>avc, h264, video decoding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>avc, h264, video encoding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>h.265, h265, video decoding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>h.265, h265, video encoding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>heif, photos, pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>webcam, facetime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>loudspeakers, sound, audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mic, sound, audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mic, permission, privacy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>webcam, permission, privacy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>audio, speakers, headphones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>audio, microphone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sample rate, hi-res</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disk space, disk size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>free space, disk space, full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ssd, nvme, drive, hard disk, hdd</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>partition, drive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plugged in, mains</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>charger, power supply, watt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>maximum capacity, wear, ageing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>battery life, runtime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>energy saver, power saving</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wlan, wireless, wifi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wlan, wireless, wifi, reception</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wlan, wireless, wifi, speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>wifi, wlan, ethernet, lan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ip address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>luks, encrypted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>encryption, encrypted, disk encryption</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fingerprint, biometrics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sip, rootless</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>t2, security chip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>uefi, start-up security</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>virus, malware, antivirus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>malware, notarization, app signing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>spectre, meltdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Terminal</name>
     <message>
         <source>Another computer</source>
@@ -1606,6 +2023,43 @@
             <numerusform>سيُزال %n فحصًا محفوظًا. لا يمكن التراجع عن ذلك. هل تريد إزالتها؟ [ن/ل]</numerusform>
             <numerusform>سيُزال %n فحص محفوظ. لا يمكن التراجع عن ذلك. هل تريد إزالتها؟ [ن/ل]</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation type="unfinished">%1%</translation>
+    </message>
+    <message>
+        <source>Download: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release notes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark has sent no request.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished">الحالة</translation>
+    </message>
+    <message>
+        <source>Failure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation type="unfinished">العنوان</translation>
+    </message>
+    <message>
+        <source>%1 [y/N]</source>
+        <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1724,6 +2178,1418 @@
     <message>
         <source>Thermal state %1</source>
         <translation>الحالة الحرارية %1</translation>
+    </message>
+</context>
+<context>
+    <name>Update</name>
+    <message>
+        <source>%1 could not be reached: %2</source>
+        <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not prove that it is %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 did not answer in time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %1 answered is longer than a feed may be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 leads to another address, which was not followed: %2</source>
+        <extracomment>%2 is the address</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 answered with status %2 instead of a feed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %1 answered is not a feed: it declares a document type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %1 answered is not a feed: it is another kind of XML.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %1 answered is not a feed: there is more in it than in any.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
+        <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark %1 is available, an important update. You have version %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark %1 is available. You have version %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark %1 is up to date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark could not find out whether there is a newer version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not asked, because you have not agreed to that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the update feed is not one of https: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not asked, because the record of requests cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::AboutDialog</name>
+    <message>
+        <source>About Quillmark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells you what your Mac can really do.
+Everything it reads stays on this Mac.</source>
+        <extracomment>Two sentences, each in a line of its own</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells you what your computer can really do.
+Everything it reads stays on this computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::Actions</name>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Quillmark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspect Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery Health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Live Monitor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide Sidebar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bring All to Front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::BatteryView</name>
+    <message>
+        <source>Battery health</source>
+        <translation type="unfinished">صحة البطارية</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::CapabilityList</name>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::CapabilityListModel</name>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ChartView</name>
+    <message>
+        <source>2 min</source>
+        <translation type="unfinished">دقيقتان</translation>
+    </message>
+    <message>
+        <source>1 min</source>
+        <translation type="unfinished">دقيقة</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished">الآن</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ComparisonModel</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
+        <translation type="unfinished">%1: %2 {1,?}</translation>
+    </message>
+    <message>
+        <source>Changed: %1, from %2, to %3</source>
+        <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added: %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed: %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <extracomment>A line of text: label, value before, value now</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: added, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: removed, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 · %3 · %4 · %5</source>
+        <extracomment>The head of a comparison: &quot;Older: 12 November 2025, 19:20 · Nora’s Mac · macOS 26.1 · 82%&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ComparisonView</name>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>score</source>
+        <extracomment>Below a figure: the capability score</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n rows</source>
+        <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::Dialogs</name>
+    <message>
+        <source>The scan history couldn’t be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the scan history?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear history</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::FirstRunDialog</name>
+    <message>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspecting this Mac…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspecting this computer…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See what this Mac can really do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See what this computer can really do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every capability of your hardware and system, with a clear status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eleven sections, one score</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From processor and graphics to codecs, displays and security.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every change is saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare any two scans and see what an update changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your data stays here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for updates automatically</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
+        <extracomment>%1 is the name of a server</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the live monitor in the menu bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the live monitor in the status area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Get started</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::GeneralPane</name>
+    <message>
+        <source>When Quillmark opens:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan history:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Privacy:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the overview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the screen I used last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear history…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything Quillmark reads stays on this Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything Quillmark reads stays on this computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The only connection it makes is the check for updates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scan(s) saved, %1 at most</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::Header</name>
+    <message>
+        <source>Copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search capabilities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspect again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu (F10)</source>
+        <extracomment>Tool tip of the button that opens the menus, with its key</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::HeadlineCard</name>
+    <message>
+        <source>Capability score</source>
+        <translation type="unfinished">درجة القدرات</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
+        <translation type="unfinished">%1: %2 {1.?}</translation>
+    </message>
+    <message>
+        <source>Capability score %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 memory</source>
+        <translation type="unfinished">%1 ذاكرة</translation>
+    </message>
+    <message>
+        <source>%1 storage</source>
+        <translation type="unfinished">%1 تخزين</translation>
+    </message>
+    <message>
+        <source>Share of rated capabilities that this Mac supports</source>
+        <translation type="unfinished">نسبة القدرات المقيّمة التي يدعمها هذا الـ Mac</translation>
+    </message>
+    <message>
+        <source>Share of rated capabilities that this computer supports</source>
+        <translation type="unfinished">نسبة القدرات المقيّمة التي يدعمها هذا الكمبيوتر</translation>
+    </message>
+    <message>
+        <source>Nothing is rated</source>
+        <translation type="unfinished">لا شيء مقيَّم</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n capabilities</source>
+        <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 percent, %2 of %n capabilities supported</source>
+        <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inspecting this Mac…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspecting this computer…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is taking longer than usual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading hardware and system settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::HistoryDelegate</name>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::HistoryModel</name>
+    <message>
+        <source>Today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other Mac</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
+        <translation type="unfinished">%1: %2 {1,?}</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3, %4, %5, %6</source>
+        <extracomment>A saved scan for screen readers: date, system, counts of three statuses, what it changed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n supported</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not supported</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warnings</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::HistoryView</name>
+    <message>
+        <source>Compare scans</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspect now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved scans</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear history…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scans saved</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 scan selected · choose one more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 scans selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete this scan?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scan of %1 will be removed from the history.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the scan history?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scan history couldn’t be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::IconButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>Tool tip of a button: its name and its shortcut, &quot;Inspect again (Ctrl+R)&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::LanguagePane</name>
+    <message>
+        <source>Interface language:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interface language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The new language is used at once. Scans saved in another language can still be compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::LicencesDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarPane</name>
+    <message>
+        <source>Menu bar:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show next to the icon:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Window:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the live monitor in the menu bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark stays in the menu bar until you quit it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status area:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the live monitor in the status area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark stays in the status area until you quit it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop has no status area.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Processor load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Icon only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep running when the main window is closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MonitorView</name>
+    <message>
+        <source>Live monitor</source>
+        <translation type="unfinished">المراقبة المباشرة</translation>
+    </message>
+    <message>
+        <source>Updated every second · last 2 minutes</source>
+        <translation type="unfinished">يُحدَّث كل ثانية · آخر دقيقتين</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation type="unfinished">جارٍ جمع العينات…</translation>
+    </message>
+    <message>
+        <source>The first reading arrives in about a second.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation type="unfinished">المعالج</translation>
+    </message>
+    <message>
+        <source>Per core</source>
+        <translation type="unfinished">لكل نواة</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation type="unfinished">الذاكرة</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished">الشبكة</translation>
+    </message>
+    <message>
+        <source>Thermal state</source>
+        <translation type="unfinished">الحالة الحرارية</translation>
+    </message>
+    <message>
+        <source>Swap used</source>
+        <translation type="unfinished">المبادلة المستخدمة</translation>
+    </message>
+    <message>
+        <source>All interfaces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the start-up volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n core(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
+        <translation type="unfinished">من %1</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation type="unfinished">المستخدم</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation type="unfinished">الضغط</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation type="unfinished">وارد</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation type="unfinished">صادر</translation>
+    </message>
+    <message>
+        <source>Power adapter connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not charging</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::OverviewPage</name>
+    <message>
+        <source>Overview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First scan saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later scans are compared with it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation type="unfinished">
+            <numerusform>لم يتغير شيء</numerusform>
+            <numerusform>تغيّر واحد</numerusform>
+            <numerusform>تغيّر اثنان</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+            <numerusform>تغيّر %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation type="unfinished">
+            <numerusform>لم يُضف شيء</numerusform>
+            <numerusform>أُضيف واحد</numerusform>
+            <numerusform>أُضيف اثنان</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+            <numerusform>أُضيف %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation type="unfinished">
+            <numerusform>لم يُزل شيء</numerusform>
+            <numerusform>أُزيل واحد</numerusform>
+            <numerusform>أُزيل اثنان</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+            <numerusform>أُزيل %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <extracomment>%1 is a day, or the time of a scan of today</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No differences</source>
+        <translation type="unfinished">لا فروق</translation>
+    </message>
+    <message>
+        <source>Compare scans</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ResultsPage</name>
+    <message>
+        <source>Results for “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sections</source>
+        <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows in %1</source>
+        <extracomment>%1 is &quot;2 sections&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filtered by %1</source>
+        <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No rows match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row that contains “%1” has the status %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows match with other statuses.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear search</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::RowsPage</name>
+    <message>
+        <source>No rows match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row here has the status %1.</source>
+        <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all statuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::SectionCard</name>
+    <message numerus="yes">
+        <source>%n supported</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not supported</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warnings</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n info</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <extracomment>The label before its value</extracomment>
+        <translation type="unfinished">%1:</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::SectionPage</name>
+    <message>
+        <source>Inspecting this Mac…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inspecting this computer…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing in this section is rated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n rated capabilities supported</source>
+        <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::SettingsDialog</name>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::Sidebar</name>
+    <message>
+        <source>Inspecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::SidebarModel</name>
+    <message>
+        <source>Real-time CPU, memory, thermal, battery and network charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n warning(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery health</source>
+        <translation type="unfinished">صحة البطارية</translation>
+    </message>
+    <message>
+        <source>Live monitor</source>
+        <translation type="unfinished">المراقبة المباشرة</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::StatusChips</name>
+    <message numerus="yes">
+        <source>%1, %n rows</source>
+        <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::UpdateNotices</name>
+    <message>
+        <source>May Quillmark ask %1 whether there is a newer version?</source>
+        <extracomment>%1 is the name of a server</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask once a day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask this once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t check for updates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark %1 is available, an important update.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark %1 is available.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You have version %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What’s new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skip this version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What’s new in Quillmark %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::UpdatesPane</name>
+    <message>
+        <source>Updates:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for updates automatically</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks %1 once a day, when Quillmark starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never checked</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -43,6 +43,16 @@
     </message>
 </context>
 <context>
+    <name>MonitorWords</name>
+    <message numerus="yes">
+        <source>%n core(s), the busiest at %1 percent</source>
+        <translation>
+            <numerusform>%n core, the busiest at %1 percent</numerusform>
+            <numerusform>%n cores, the busiest at %1 percent</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Report</name>
     <message numerus="yes">
         <source>%n rows</source>
@@ -83,6 +93,221 @@
         <translation>
             <numerusform>%n core</numerusform>
             <numerusform>%n cores</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ComparisonView</name>
+    <message numerus="yes">
+        <source>%1, %n rows</source>
+        <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
+        <translation>
+            <numerusform>%1, %n row</numerusform>
+            <numerusform>%1, %n rows</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::Dialogs</name>
+    <message numerus="yes">
+        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::GeneralPane</name>
+    <message numerus="yes">
+        <source>%n scan(s) saved, %1 at most</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::HeadlineCard</name>
+    <message numerus="yes">
+        <source>%1 of %n capabilities</source>
+        <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 percent, %2 of %n capabilities supported</source>
+        <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::HistoryModel</name>
+    <message numerus="yes">
+        <source>%n supported</source>
+        <translation>
+            <numerusform>%n supported</numerusform>
+            <numerusform>%n supported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not supported</source>
+        <translation>
+            <numerusform>%n not supported</numerusform>
+            <numerusform>%n not supported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warnings</source>
+        <translation>
+            <numerusform>%n warning</numerusform>
+            <numerusform>%n warnings</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::HistoryView</name>
+    <message numerus="yes">
+        <source>%n scans saved</source>
+        <translation>
+            <numerusform>%n scan saved</numerusform>
+            <numerusform>%n scans saved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
+        <translation>
+            <numerusform>%n saved scan will be removed. This can’t be undone.</numerusform>
+            <numerusform>All %n saved scans will be removed. This can’t be undone.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MonitorView</name>
+    <message numerus="yes">
+        <source>%n core(s)</source>
+        <translation>
+            <numerusform>%n core</numerusform>
+            <numerusform>%n cores</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::OverviewPage</name>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation type="unfinished">
+            <numerusform>%n changed</numerusform>
+            <numerusform>%n changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n added</source>
+        <translation type="unfinished">
+            <numerusform>%n added</numerusform>
+            <numerusform>%n added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n removed</source>
+        <translation type="unfinished">
+            <numerusform>%n removed</numerusform>
+            <numerusform>%n removed</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ResultsPage</name>
+    <message numerus="yes">
+        <source>%n sections</source>
+        <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows in %1</source>
+        <extracomment>%1 is &quot;2 sections&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows match with other statuses.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::SectionCard</name>
+    <message numerus="yes">
+        <source>%n supported</source>
+        <translation type="unfinished">
+            <numerusform>%n supported</numerusform>
+            <numerusform>%n supported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not supported</source>
+        <translation type="unfinished">
+            <numerusform>%n not supported</numerusform>
+            <numerusform>%n not supported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warnings</source>
+        <translation type="unfinished">
+            <numerusform>%n warning</numerusform>
+            <numerusform>%n warnings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n info</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::SectionPage</name>
+    <message numerus="yes">
+        <source>%1 of %n rated capabilities supported</source>
+        <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::SidebarModel</name>
+    <message numerus="yes">
+        <source>%1, %n warning(s)</source>
+        <translation>
+            <numerusform>%1, %n warning</numerusform>
+            <numerusform>%1, %n warnings</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::StatusChips</name>
+    <message numerus="yes">
+        <source>%1, %n rows</source>
+        <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
+        <translation>
+            <numerusform>%1, %n row</numerusform>
+            <numerusform>%1, %n rows</numerusform>
         </translation>
     </message>
 </context>

@@ -26,20 +26,24 @@ void addHeadline(TerminalPage &page, const inspection::DeviceSummary &summary)
                       TerminalPage::Weight::Faint);
 }
 
-void addScore(TerminalPage &page, const QList<inspection::CapabilitySection> &sections)
+void addScore(TerminalPage &page, const reports::Report &report)
 {
+    const auto &sections = report.sections;
+    const language::Formats formats(report.language);
     const auto rated = inspection::ratedCount(sections);
     if (rated == 0)
         return;
     page.addGap();
     page.addBar(Text::tr("Capability score"), inspection::capabilityScore(sections),
-                CapabilityStatus::Supported, u"%1%"_s.arg(inspection::scorePercent(sections)));
+                CapabilityStatus::Supported,
+                Text::tr("%1%").arg(formats.count(inspection::scorePercent(sections))));
     page.addParagraph(Text::tr("%1 of %2 rated capabilities supported")
-                          .arg(inspection::count(sections, CapabilityStatus::Supported))
-                          .arg(rated));
+                          .arg(formats.count(inspection::count(sections, CapabilityStatus::Supported)),
+                               formats.count(rated)));
     QList<std::pair<CapabilityStatus, QString>> counts;
     for (const auto status : inspection::allStatuses)
-        counts.emplace_back(status, u"%1 %2"_s.arg(inspection::count(sections, status)).arg(title(status)));
+        counts.emplace_back(
+            status, u"%1 %2"_s.arg(formats.count(inspection::count(sections, status)), title(status)));
     page.addMarked(counts);
 }
 
@@ -65,7 +69,7 @@ QString terminalReport(const reports::Report &report, const TerminalStyle &style
 {
     TerminalPage page(style);
     addHeadline(page, report.summary);
-    addScore(page, report.sections);
+    addScore(page, report);
     const auto blocks = blocksOf(report);
     page.addBlocks(blocks);
     if (blocks.isEmpty()) {

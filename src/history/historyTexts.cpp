@@ -82,7 +82,8 @@ QString noScans()
 QString scoreText(const ScanSnapshot &scan)
 {
     const auto counts = countsOf(scan);
-    return counts.rated() == 0 ? u"–"_s : u"%1%"_s.arg(counts.scorePercent());
+    return counts.rated() == 0 ? u"–"_s
+                               : Text::tr("%1%").arg(language::currentFormats().count(counts.scorePercent()));
 }
 
 QString valueText(const ScanSnapshot::Item &item, bool withStatus)

@@ -67,7 +67,7 @@ CapabilityItem passing(CapabilityItem item)
 
 QString Numbered::label(const QString &single, const QString &numbered) const
 {
-    return isOnly ? single : numbered.arg(number);
+    return isOnly ? single : numbered.arg(language::currentFormats().count(number));
 }
 
 } // namespace quillmark::inspection

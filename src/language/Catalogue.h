@@ -16,6 +16,7 @@ struct Catalogue
     explicit Catalogue(const QString &tag);
 
     QString language;
+    bool hasPluralsAlone; ///< the English one: its other texts are the sources
     QTranslator texts; ///< those of this program
     QTranslator ofQt;  ///< for its dialogs and buttons, where they are installed; else empty
 };

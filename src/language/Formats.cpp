@@ -239,7 +239,11 @@ std::optional<QString> Formats::uptime(std::optional<double> seconds) const
     if (minutes % 60 != 0 || parts.empty())
         add(minutes % 60, icu::MeasureUnit::getMinute());
     const auto text = joined(parts, ULISTFMT_TYPE_UNITS, ULISTFMT_WIDTH_NARROW, locale, status);
-    return U_SUCCESS(status) ? std::optional(toQString(text)) : std::nullopt;
+    if (U_FAILURE(status))
+        return std::nullopt;
+    // ICU isolates parts in Arabic. Text is isolated where it is drawn: in JSON and on terminals nobody looks
+    // for marks.
+    return toQString(text).remove(QChar(0x2068)).remove(QChar(0x2069));
 }
 
 QString Formats::list(const QStringList &items) const

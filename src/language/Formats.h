@@ -49,6 +49,8 @@ public:
 
     /// "1,200", "14.2": grouped as the language groups, always with that many digits after the point.
     QString number(double value, int fractionDigits = 0) const;
+    /// The same of a whole number.
+    QString count(qsizetype value) const { return number(static_cast<double>(value)); }
 
     /// A local date and time. The time zone of `moment` is not converted.
     QString date(const QDateTime &moment, DateStyle style) const;

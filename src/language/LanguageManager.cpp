@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QResource>
 
 #include <tuple>
 #include <utility>
@@ -53,11 +54,12 @@ QString primaryPart(const QString &tag)
 
 Catalogue::Catalogue(const QString &tag)
     : language(tag)
+    , hasPluralsAlone(tag == english())
 {
     loadCatalogues();
-    // English has texts for its plurals alone.
-    [[maybe_unused]] const bool isThere =
-        texts.load(u"quillmark_"_s + tag, u":/quillmark/translations"_s, {}, u".qm"_s);
+    // By its bytes: by a name, Qt would look for it in a dozen places.
+    const QResource file(u":/quillmark/translations/quillmark_%1.qm"_s.arg(tag));
+    [[maybe_unused]] const bool isThere = texts.load(file.data(), static_cast<int>(file.size()));
     Q_ASSERT_X(isThere, "Catalogue", qPrintable(tag));
     if (QCoreApplication::instance() && tag != english()) {
         // Not all systems install it.

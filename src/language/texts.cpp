@@ -4,7 +4,6 @@
 #include "language/texts.h"
 
 #include "language/Catalogue.h"
-#include "language/Formats.h"
 
 #include <mutex>
 #include <shared_mutex>
@@ -34,15 +33,23 @@ void setCatalogue(std::shared_ptr<const Catalogue> catalogue)
     current().catalogue = std::move(catalogue);
 }
 
+Formats currentFormats()
+{
+    const std::shared_lock lock(current().mutex);
+    return Formats(current().catalogue->language);
+}
+
 QString translated(const char *context, const char *source, const char *comment, int count)
 {
     const std::shared_lock lock(current().mutex);
     const auto &catalogue = *current().catalogue;
-    auto text = catalogue.texts.translate(context, source, comment, count);
+    QString text;
+    if (count >= 0 || !catalogue.hasPluralsAlone)
+        text = catalogue.texts.translate(context, source, comment, count);
     if (text.isNull())
         text = QString::fromUtf8(source);
     if (count >= 0)
-        text.replace(QLatin1StringView("%n"), Formats(catalogue.language).number(count));
+        text.replace(QLatin1StringView("%n"), Formats(catalogue.language).count(count));
     return text;
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "language/Formats.h"
+
 #include <QString>
 
 namespace quillmark::language {
@@ -13,6 +15,9 @@ namespace quillmark::language {
 /// Unlike QCoreApplication::translate() it needs no application object, of which a program has but one, and
 /// which costs the command line more than all its texts do. Any thread.
 QString translated(const char *context, const char *source, const char *comment = nullptr, int count = -1);
+
+/// What writes numbers and the like in the same language. Any thread.
+Formats currentFormats();
 
 } // namespace quillmark::language
 

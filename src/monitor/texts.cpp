@@ -61,7 +61,7 @@ QString axisText(double bytesPerSecond, const language::Formats &formats)
 
 QString percentText(double share)
 {
-    return Text::tr("%1%").arg(std::lround(share * 100));
+    return Text::tr("%1%").arg(language::currentFormats().number(std::round(share * 100)));
 }
 
 QString memoryText(std::int64_t bytes, const language::Formats &formats)

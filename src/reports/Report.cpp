@@ -79,10 +79,11 @@ QString scoreLine(const Report &report)
     const auto rated = inspection::ratedCount(report.sections);
     if (rated == 0)
         return {};
+    const language::Formats formats(report.language);
     return Text::tr("Capability score: %1% (%2 of %3 rated capabilities supported)")
-        .arg(inspection::scorePercent(report.sections))
-        .arg(inspection::count(report.sections, inspection::CapabilityStatus::Supported))
-        .arg(rated);
+        .arg(formats.count(inspection::scorePercent(report.sections)),
+             formats.count(inspection::count(report.sections, inspection::CapabilityStatus::Supported)),
+             formats.count(rated));
 }
 
 QString hardwareLine(const inspection::DeviceSummary &summary,

@@ -78,14 +78,16 @@ ReportDocument::Table attention(const QList<CapabilitySection> &sections)
 
 /// `all` is the section with the rows that were filtered out too: what is counted does not depend on what is
 /// shown.
-ReportDocument::Table sectionTable(const CapabilitySection &shown, const CapabilitySection &all)
+ReportDocument::Table sectionTable(const CapabilitySection &shown, const CapabilitySection &all,
+                                   const language::Formats &formats)
 {
     ReportDocument::Table table{.symbol = shown.symbol, .title = singleLine(shown.title)};
     table.continuedTitle = Text::tr("%1 (continued)").arg(table.title);
-    if (const auto rated = inspection::ratedCount({all}); rated > 0) {
-        const auto supported = inspection::count({all}, CapabilityStatus::Supported);
-        table.note = Text::tr("%1 of %2 supported").arg(supported).arg(rated);
-        table.shortNote = Text::tr("%1 of %2").arg(supported).arg(rated);
+    if (const auto count = inspection::ratedCount({all}); count > 0) {
+        const auto rated = formats.count(count);
+        const auto supported = formats.count(inspection::count({all}, CapabilityStatus::Supported));
+        table.note = Text::tr("%1 of %2 supported").arg(supported, rated);
+        table.shortNote = Text::tr("%1 of %2").arg(supported, rated);
     }
     for (const auto &item : shown.items)
         table.rows += row(item);
@@ -148,8 +150,9 @@ void isolateTexts(ReportDocument &document)
 
 void describeScore(ReportDocument &document, const QList<CapabilitySection> &sections)
 {
+    const language::Formats formats(document.language);
     const bool isRated = inspection::ratedCount(sections) > 0;
-    document.score = isRated ? QString::number(inspection::scorePercent(sections)) : u"–"_s;
+    document.score = isRated ? formats.count(inspection::scorePercent(sections)) : u"–"_s;
     document.scoreTitle = Text::tr("Capability score");
     if (!isRated)
         document.scoreText = Text::tr("Nothing is rated");
@@ -162,12 +165,13 @@ void describeScore(ReportDocument &document, const QList<CapabilitySection> &sec
 ReportDocument reportDocument(const Report &report)
 {
     ReportDocument document;
+    const language::Formats formats(report.language);
     document.language = report.language;
     document.direction = QLocale(report.language).textDirection();
     document.application = u"Quillmark "_s + applicationVersion();
     document.name = Text::tr("Quillmark report");
     if (report.date)
-        document.date = language::Formats(report.language).dateAndTime(report.date->toLocalTime());
+        document.date = formats.dateAndTime(report.date->toLocalTime());
     describeMachine(document, report);
     describeScore(document, report.sections);
     document.facts = facts(report.sections);
@@ -180,7 +184,7 @@ ReportDocument reportDocument(const Report &report)
     document.contentsPage = Text::tr("p. %1");
     for (qsizetype i = 0; i < shown.size(); ++i) {
         if (!shown[i].items.isEmpty())
-            document.sections += sectionTable(shown[i], report.sections[i]);
+            document.sections += sectionTable(shown[i], report.sections[i], formats);
     }
     if (document.sections.isEmpty() && report.filter)
         document.nothing = nothingMatches();

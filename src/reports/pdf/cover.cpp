@@ -3,6 +3,7 @@
 
 #include "reports/pdf/cover.h"
 
+#include "language/Formats.h"
 #include "reports/pdf/Canvas.h"
 
 #include <algorithm>
@@ -106,11 +107,12 @@ Block counts(const ReportDocument &document, Typesetter &typesetter, qreal x)
         TextPointer figure;
         TextPointer word;
     };
+    const language::Formats formats(document.language);
     std::vector<Cell> cells;
     qreal figureWidth = 13; // of two digits
     for (const auto &count : document.counts) {
         cells.push_back({design::statusStyle(count.status),
-                         typesetter.set(QString::number(count.rows), styles::count),
+                         typesetter.set(formats.count(count.rows), styles::count),
                          typesetter.set(count.word, styles::countWord)});
         figureWidth = std::max(figureWidth, cells.back().figure->width());
     }

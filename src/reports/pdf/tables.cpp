@@ -3,6 +3,7 @@
 
 #include "reports/pdf/tables.h"
 
+#include "language/Formats.h"
 #include "reports/pdf/Canvas.h"
 
 #include <algorithm>
@@ -151,8 +152,9 @@ Group contents(const ReportDocument &document, Typesetter &typesetter, const She
     constexpr qreal gap = 24;
     constexpr qreal icon = 11;
     constexpr qreal titleAt = 19;
+    const language::Formats formats(document.language);
     // Before the end of the column stands the number of the page.
-    const auto widestNumber = typesetter.set(document.contentsPage.arg(88), styles::aside);
+    const auto widestNumber = typesetter.set(document.contentsPage.arg(formats.count(88)), styles::aside);
     const qreal noteEnd = std::max(qreal(34), widestNumber->width() + 12);
     const qreal width = (sheet.right() - sheet.left() - gap) / 2;
 
@@ -167,7 +169,8 @@ Group contents(const ReportDocument &document, Typesetter &typesetter, const She
     const auto paintEntry = [=, &typesetter, page = document.contentsPage](Canvas &canvas, std::size_t i,
                                                                            qreal left, qreal top) {
         const auto &[symbol, title, note] = entries[i];
-        const auto number = typesetter.set(page.arg(pages->at(i)), styles::aside);
+        const auto number =
+            typesetter.set(page.arg(formats.count(static_cast<qsizetype>(pages->at(i)))), styles::aside);
         const qreal textTop = top + (row - ruleThickness - title->height()) / 2;
         canvas.icon({left, textTop + (title->height() - icon) / 2, icon, icon}, symbol, Role::Text2);
         canvas.text(*title, left + titleAt, textTop);
