@@ -82,4 +82,5 @@ function(quillmark_module name)
     set_target_properties(quillmark_${name}_module PROPERTIES
         PREFIX "" OUTPUT_NAME quillmark-${name} LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${built}")
     install(TARGETS quillmark_${name}_module LIBRARY DESTINATION "${installed}")
+    set_property(GLOBAL APPEND PROPERTY QUILLMARK_MODULES quillmark_${name}_module)
 endfunction()

@@ -30,7 +30,7 @@ class Tree
 {
 public:
     Tree()
-        : m_root((fs::temp_directory_path() / "quillmark-fuzz-XXXXXX").string())
+        : m_root((folder() / "quillmark-fuzz-XXXXXX").string())
     {
         fuzzing::require(mkdtemp(m_root.data()) != nullptr, "there is a temporary folder");
     }
@@ -75,6 +75,13 @@ public:
     }
 
 private:
+    /// In memory, where there is such a place.
+    static fs::path folder()
+    {
+        std::error_code ignored;
+        return fs::is_directory("/dev/shm", ignored) ? "/dev/shm" : fs::temp_directory_path();
+    }
+
     static bool isInside(const std::string &path)
     {
         return path.size() < 200 && path.find("..") == path.npos && path.find('\0') == path.npos;

@@ -105,13 +105,13 @@ int main(int argumentCount, char **arguments)
     }
     quillmark::fuzzing::require(!inputs.empty(), "there are inputs");
 
+    const char *kept = std::getenv("KEEP");
     Changes changed(inputs);
     for (long count = 0; count < changes; ++count) {
         const auto input = changed.next();
-        // Stays behind where the program ends here: one more input for a folder, once the fault is mended.
-        std::ofstream("fuzz-input", std::ios::binary) << input;
+        if (kept)
+            std::ofstream(kept, std::ios::binary) << input;
         run(input);
     }
-    std::filesystem::remove("fuzz-input");
     std::printf("%zu inputs, %ld changes of them\n", inputs.size(), changes);
 }

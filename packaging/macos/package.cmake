@@ -5,11 +5,10 @@
 
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/NOTICE" DESTINATION "${share}")
 
+get_property(targets GLOBAL PROPERTY QUILLMARK_MODULES)
 set(modules "")
-foreach(module IN ITEMS quillmark_app_module quillmark_pdf_module quillmark_update_module)
-    if(TARGET ${module})
-        list(APPEND modules "Quillmark.app/Contents/PlugIns/$<TARGET_FILE_NAME:${module}>")
-    endif()
+foreach(target IN LISTS targets)
+    list(APPEND modules "Quillmark.app/Contents/PlugIns/$<TARGET_FILE_NAME:${target}>")
 endforeach()
 file(GENERATE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/bundleQt.cmake" CONTENT "
 include(\"${QT_DEPLOY_SUPPORT}\")

@@ -129,18 +129,23 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     program.set_version_flag("--version", "quillmark " + reports::applicationVersion().toStdString());
     program.require_subcommand(1);
     program.fallthrough();
+    program.footer("Examples:\n"
+                   "  quillmark inspect --status warning\n"
+                   "  quillmark export --output report.pdf\n"
+                   "  quillmark history record && quillmark history compare 1 0\n"
+                   "'quillmark COMMAND --help' has more of each.");
 
     CommonOptions options;
     addCommonOptions(program, options);
     Command command;
-    addHistory(program, command);
     addInspect(program, command);
     addBattery(program, command);
+    addMonitor(program, command);
+    addHistory(program, command);
     addExport(program, command);
     addMachine(program, command);
-    addMonitor(program, command);
-    addApp(program, command);
     addUpdate(program, command);
+    addApp(program, command);
 
     try {
         program.parse(argumentCount, arguments);
