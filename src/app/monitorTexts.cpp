@@ -5,9 +5,8 @@
 
 #include "app/painting.h"
 #include "inspection/CapabilityModel.h"
+#include "language/texts.h"
 #include "monitor/texts.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -22,7 +21,7 @@ namespace {
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(MonitorWords)
+    QUILLMARK_TEXTS(MonitorWords)
 };
 
 long percent(double share)

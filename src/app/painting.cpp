@@ -72,6 +72,9 @@ struct Piece
 
 std::vector<Piece> pieces(const QFontMetricsF &metrics, const QString &text)
 {
+    // With words that run from right to left the order is the text engine's business.
+    if (text.isRightToLeft())
+        return {{text, metrics.horizontalAdvance(text)}};
     const qreal cell = digitWidth(metrics);
     std::vector<Piece> result;
     bool joins = false;
@@ -172,6 +175,8 @@ void drawTabular(QPainter &painter, const QRectF &rectangle, Qt::Alignment align
     const QFontMetricsF metrics(painter.font(), painter.device());
     const auto line = pieces(metrics, text);
     const qreal width = widthOf(line);
+    painter.save();
+    painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     const qreal below = rectangle.height() - metrics.height();
     const qreal top = alignment & Qt::AlignVCenter ? below / 2 : alignment & Qt::AlignBottom ? below : 0;
     const qreal base = rectangle.top() + top + metrics.ascent();
@@ -182,6 +187,7 @@ void drawTabular(QPainter &painter, const QRectF &rectangle, Qt::Alignment align
         painter.drawText(QPointF(x + piece.shift, base), piece.text);
         x += piece.advance;
     }
+    painter.restore();
 }
 
 qreal tabularWidth(const QFont &font, const QString &text)

@@ -1,17 +1,21 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "app/Watching.h"
+#include "app/MenuBar.h"
 #include "app/models/Place.h"
+#include "app/settingKeys.h"
 #include "app/views/ContentView.h"
+#include "app/views/MenuBarMonitorView.h"
 #include "app/views/MonitorView.h"
 #include "app/widgets/ChartTrace.h"
 #include "app/widgets/ChartView.h"
 #include "app/widgets/CoreBars.h"
 #include "app/widgets/FigureLine.h"
+#include "app/widgets/MonitorRowView.h"
 #include "support/AppStage.h"
 
 #include <QLabel>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <cmath>
@@ -155,6 +159,62 @@ private Q_SLOTS:
             QVERIFY(!chart->accessibleName().isEmpty());
             QVERIFY(!chart->accessibleDescription().isEmpty());
         }
+    }
+
+    void popUpWatchesWhileItIsOpen()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        app::MenuBarMonitorView popUp(stage.context);
+        QSignalSpy open(&popUp, &app::MenuBarMonitorView::openAsked);
+        QCOMPARE(stage.monitor.clients(), 0);
+        popUp.openBelow({300, 0, 30, 24});
+        QCOMPARE(stage.monitor.clients(), 1);
+        QTRY_VERIFY(!popUp.findChildren<app::MonitorRowView *>().isEmpty());
+        const auto rows = popUp.findChildren<app::MonitorRowView *>();
+        QCOMPARE(rows.size(), 7);
+        for (const auto *row : rows)
+            QVERIFY(row->accessibleName().contains(row->row().label));
+        QTest::keyClick(&popUp, Qt::Key_Escape);
+        QVERIFY(!popUp.isVisible());
+        QCOMPARE(stage.monitor.clients(), 0);
+
+        popUp.openBelow({300, 0, 30, 24});
+        QTest::keyClick(popUp.focusWidget(), Qt::Key_Return);
+        QCOMPARE(open.size(), 1);
+        QVERIFY(!popUp.isVisible());
+    }
+
+    void labelShowsTheChosenFigure()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        const auto name = u"Quillmark live monitor"_s;
+        {
+            app::MenuBarLabel label(stage.context);
+            QCOMPARE(label.toolTip(), name);
+            label.setShown(true);
+            QCOMPARE(stage.monitor.clients(), 1);
+            QTRY_VERIFY(stage.monitor.samples().size() > 7); // the recording has ended, and stays as it is
+            QCOMPARE(label.figure(), u"0%"_s);
+            QSignalSpy changed(&label, &app::MenuBarLabel::changed);
+            stage.settings.setValue(app::keys::menuBarFigure, u"memory"_s);
+            QCOMPARE(label.figure(), u"53%"_s);
+            QCOMPARE(label.toolTip(), name + u"\nMemory used: 53%"_s);
+            stage.settings.setValue(app::keys::menuBarFigure, u"none"_s);
+            QCOMPARE(label.figure(), QString());
+            QCOMPARE(changed.size(), 2);
+        }
+        QCOMPARE(stage.monitor.clients(), 0);
+    }
+
+    void hidesNowhereWithoutATray()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        if (app::MenuBar::isAvailable())
+            QSKIP("this platform has a tray");
+        app::MenuBar menuBar(stage.context);
+        stage.settings.setValue(app::keys::showsMenuBarMonitor, true);
+        QVERIFY(!menuBar.isShown());
+        QCOMPARE(stage.monitor.clients(), 0);
     }
 
     void figuresAreNumbersWithTheirUnits_data()

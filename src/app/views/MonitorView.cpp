@@ -9,8 +9,7 @@
 #include "app/views/MonitorCard.h"
 #include "app/widgets/ChartView.h"
 #include "app/widgets/CoreBars.h"
-#include "app/widgets/IconTile.h"
-#include "app/widgets/TextLabel.h"
+#include "app/widgets/EmptyState.h"
 #include "language/LanguageManager.h"
 #include "monitor/LiveMonitor.h"
 #include "monitor/texts.h"
@@ -65,9 +64,10 @@ MonitorView::MonitorView(const AppContext &context, QWidget *parent)
     : Page(parent)
     , m_context(context)
     , m_networkTop(m_networkAxis.update(0))
-    , m_collecting(makeCollecting())
+    , m_collecting(new EmptyState(u"waveform.path.ecg"_s))
     , m_live(makeLive())
 {
+    m_collecting->setColors(Role::AccentSoft, Role::Accent);
     column()->addWidget(m_collecting);
     column()->addWidget(m_live);
     m_live->hide();
@@ -92,25 +92,6 @@ QString MonitorView::headerSymbol() const
 QString MonitorView::headerNote() const
 {
     return tr("Updated every second · last 2 minutes");
-}
-
-QWidget *MonitorView::makeCollecting()
-{
-    auto *collecting = new QWidget;
-    m_collectingTitle = new TextLabel(TextRole::Title3);
-    m_collectingNote = new TextLabel(TextRole::Body, Role::Text2);
-    auto *column = new QVBoxLayout(collecting);
-    column->setSpacing(6);
-    column->addStretch();
-    column->addWidget(new IconTile(u"waveform.path.ecg"_s, IconTile::empty), 0, Qt::AlignHCenter);
-    column->addSpacing(gap);
-    for (auto *label : {m_collectingTitle, m_collectingNote}) {
-        label->setAlignment(Qt::AlignHCenter);
-        label->setWordWrap(true);
-        column->addWidget(label);
-    }
-    column->addStretch();
-    return collecting;
 }
 
 QWidget *MonitorView::makeLive()
@@ -165,8 +146,7 @@ void MonitorView::arrange()
 void MonitorView::retranslate()
 {
     setAccessibleName(headerTitle());
-    m_collectingTitle->setText(tr("Collecting samples…"));
-    m_collectingNote->setText(tr("The first reading arrives in about a second."));
+    m_collecting->setTexts(tr("Collecting samples…"), tr("The first reading arrives in about a second."));
     m_processorCard->setTitle(tr("Processor"));
     m_coresCard->setTitle(tr("Per core"));
     m_memoryCard->setTitle(tr("Memory"));

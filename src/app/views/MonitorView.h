@@ -16,9 +16,9 @@ namespace quillmark::app {
 
 class ChartView;
 class CoreBars;
+class EmptyState;
 class MonitorCard;
 class MonitorTile;
-class TextLabel;
 
 /// Live figures and their last two minutes. The machine is watched while the page can be seen.
 class MonitorView : public Page
@@ -40,7 +40,6 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    QWidget *makeCollecting();
     QWidget *makeLive();
     void follow();
     void showModel();
@@ -54,10 +53,7 @@ private:
     double m_networkTop;
     QElapsedTimer m_described; ///< since the descriptions of the charts were set
 
-    QWidget *m_collecting;
-    TextLabel *m_collectingTitle;
-    TextLabel *m_collectingNote;
-
+    EmptyState *m_collecting;
     QWidget *m_live;
     QGridLayout *m_cards;
     QGridLayout *m_tiles;
