@@ -40,6 +40,8 @@ public:
     /// Another program that writes the file is waited for that long before it is an error.
     explicit HistoryFile(const QString &path, std::chrono::milliseconds patience = {});
 
+    const QString &path() const { return m_path; }
+
     struct Contents
     {
         QByteArray text;                       ///< as it stands in the file

@@ -53,6 +53,9 @@ public:
     /// "History/snapshots.json" where this system keeps what programs store. Creates nothing.
     static QString defaultFile();
 
+    /// Where the scans are kept.
+    const QString &file() const { return m_file.path(); }
+
     const QList<ScanSnapshot> &snapshots() const { return m_snapshots; }
 
     /// Saves the inspection as a scan, unless nothing has changed since the newest one of the same model. Of
