@@ -6,6 +6,7 @@
 #include "app/AppContext.h"
 #include "app/Appearance.h"
 #include "app/SingleInstance.h"
+#include "app/dialogs/Dialogs.h"
 #include "app/painting.h"
 #include "app/views/ContentView.h"
 #include "history/ScanHistory.h"
@@ -14,6 +15,8 @@
 #include "monitor/LiveMonitor.h"
 #include "reports/Report.h"
 #include "settings/Settings.h"
+#include "update/UpdateChecker.h"
+#include "update/network/NetworkFeedSource.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -96,6 +99,11 @@ int run(const Launch &launch, QString &)
     const auto followLanguage = [&] { application.setLayoutDirection(language.direction()); };
     QObject::connect(&language, &language::LanguageManager::languageChanged, &window, followLanguage);
     followLanguage();
+    const auto version = update::Version::parse(reports::applicationVersion());
+    Q_ASSERT(version);
+    update::UpdateChecker updates(settings, {update::computerOf(launch.machine), *version},
+                                  std::make_unique<update::NetworkFeedSource>());
+    new Dialogs(window, context, updates);
     window.restoreWindow();
     window.QWidget::show();
     return application.exec();

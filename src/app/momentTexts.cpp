@@ -67,4 +67,14 @@ QString inspectedText(const QDateTime &moment, const language::Formats &formats)
     return Text::tr("Inspected on %1").arg(dayText(moment, formats));
 }
 
+QString lastCheckedText(const QDateTime &moment, const language::Formats &formats)
+{
+    const auto days = moment.date().daysTo(QDate::currentDate());
+    if (days == 0)
+        return Text::tr("Last checked today at %1").arg(timeText(moment, formats));
+    if (days == 1)
+        return Text::tr("Last checked yesterday at %1").arg(timeText(moment, formats));
+    return Text::tr("Last checked on %1").arg(dayText(moment, formats));
+}
+
 } // namespace quillmark::app

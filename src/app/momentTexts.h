@@ -27,4 +27,7 @@ QString dayAndTimeText(const QString &day, const QString &time);
 /// "Inspected today at 08:41", "Inspected yesterday at 19:20", "Inspected on 12 November".
 QString inspectedText(const QDateTime &moment, const language::Formats &formats);
 
+/// "Last checked today at 08:41", and so on.
+QString lastCheckedText(const QDateTime &moment, const language::Formats &formats);
+
 } // namespace quillmark::app

@@ -25,6 +25,7 @@ inline const Key<bool> keepsRunning{
 inline const Key<bool> showsMenuBarMonitor{"menuBar/shown"_L1};
 inline const Key<QString> menuBarFigure{"menuBar/figure"_L1, u"processor"_s}; ///< or "memory", "none"
 inline const Key<QString> exportFormat{"export/format"_L1, u"pdf"_s};
-inline const Key<bool> hasStarted{"hasStarted"_L1}; ///< once the first start is over
+inline const Key<QString> closedUpdate{"updates/closedNotice"_L1}; ///< version whose notice was closed
+inline const Key<bool> hasStarted{"hasStarted"_L1};                ///< once the first start is over
 
 } // namespace quillmark::app::keys

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 Quillmark contributors
+// SPDX-License-Identifier: MIT
+
+#include "app/dialogs/Dialogs.h"
+
+#include "app/dialogs/AboutDialog.h"
+#include "app/dialogs/FirstRunDialog.h"
+#include "app/dialogs/SettingsDialog.h"
+#include "app/dialogs/UpdateNotices.h"
+#include "app/settingKeys.h"
+#include "app/views/ContentView.h"
+#include "app/widgets/NoticeBar.h"
+#include "app/widgets/question.h"
+#include "history/ScanHistory.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QTimer>
+#include <QUrl>
+
+namespace quillmark::app {
+
+Dialogs::Dialogs(ContentView &window, const AppContext &context, update::UpdateChecker &updates)
+    : QObject(&window)
+    , m_window(window)
+    , m_context(context)
+    , m_updates(updates)
+    , m_updateNotices(new UpdateNotices(updates, context.settings, window.notices(), &window))
+{
+    connect(&window, &ContentView::aboutAsked, this, &Dialogs::showAbout);
+    connect(&window, &ContentView::settingsAsked, this, &Dialogs::showSettings);
+    connect(&window, &ContentView::updateCheckAsked, this, &Dialogs::checkForUpdates);
+    QTimer::singleShot(0, this, &Dialogs::begin);
+}
+
+void Dialogs::begin()
+{
+    if (m_context.settings.value(keys::hasStarted))
+        m_updateNotices->begin();
+    else
+        welcome();
+}
+
+void Dialogs::welcome()
+{
+    auto *dialog = new FirstRunDialog(m_context, m_updates, &m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::finished, this, [this] {
+        m_context.settings.setValue(keys::hasStarted, true);
+        m_updateNotices->begin();
+    });
+    dialog->open();
+}
+
+template <typename Dialog, typename Make>
+Dialog *Dialogs::open(QPointer<Dialog> &dialog, const Make &make)
+{
+    if (!dialog) {
+        dialog = make();
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+    return dialog;
+}
+
+QWidget *Dialogs::activeWindow() const
+{
+    auto *active = QApplication::activeWindow();
+    return active && m_window.isAncestorOf(active) ? active : &m_window;
+}
+
+void Dialogs::showAbout()
+{
+    open(m_about, [this] {
+        auto *dialog = new AboutDialog(m_context, &m_window);
+        connect(dialog, &AboutDialog::licencesAsked, this, &Dialogs::showLicences);
+        connect(dialog, &AboutDialog::updateCheckAsked, this, &Dialogs::checkForUpdates);
+        return dialog;
+    });
+}
+
+void Dialogs::showLicences()
+{
+    open(m_licences, [this] { return new LicencesDialog(&m_window); });
+}
+
+SettingsDialog *Dialogs::showSettings()
+{
+    return open(m_settings, [this] {
+        auto *dialog = new SettingsDialog(m_context, m_updates, &m_window);
+        connect(dialog, &SettingsDialog::historyFolderAsked, this, &Dialogs::showHistoryFolder);
+        connect(dialog, &SettingsDialog::clearingAsked, this, &Dialogs::askToClearHistory);
+        connect(dialog, &SettingsDialog::updateCheckAsked, this, &Dialogs::checkForUpdates);
+        return dialog;
+    });
+}
+
+void Dialogs::checkForUpdates()
+{
+    m_updateNotices->checkNow(activeWindow());
+}
+
+void Dialogs::showHistoryFolder()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(m_context.history.file()).absolutePath()));
+}
+
+void Dialogs::askToClearHistory()
+{
+    const auto scans = static_cast<int>(m_context.history.snapshots().size());
+    ask(activeWindow(),
+        {.sentence = tr("Clear the scan history?"),
+         .consequence = tr("All %n saved scan(s) will be removed. This can’t be undone.", nullptr, scans),
+         .verb = tr("Clear history")},
+        [this] { m_context.history.clear(); });
+}
+
+} // namespace quillmark::app
