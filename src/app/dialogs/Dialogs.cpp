@@ -7,10 +7,10 @@
 #include "app/dialogs/FirstRunDialog.h"
 #include "app/dialogs/SettingsDialog.h"
 #include "app/dialogs/UpdateNotices.h"
-#include "app/dialogs/questions.h"
 #include "app/settingKeys.h"
 #include "app/views/ContentView.h"
 #include "app/widgets/NoticeBar.h"
+#include "app/widgets/question.h"
 #include "history/ScanHistory.h"
 
 #include <QApplication>
@@ -31,12 +31,6 @@ Dialogs::Dialogs(ContentView &window, const AppContext &context, update::UpdateC
     connect(&window, &ContentView::aboutAsked, this, &Dialogs::showAbout);
     connect(&window, &ContentView::settingsAsked, this, &Dialogs::showSettings);
     connect(&window, &ContentView::updateCheckAsked, this, &Dialogs::checkForUpdates);
-    connect(&context.history, &history::ScanHistory::saveFailed, this,
-            [this](const history::SaveError &error) {
-                m_window.notices().show({.kind = Notice::Kind::Error,
-                                         .sentence = tr("The scan history couldn’t be saved."),
-                                         .detail = error.reason});
-            });
     QTimer::singleShot(0, this, &Dialogs::begin);
 }
 
@@ -117,11 +111,11 @@ void Dialogs::showHistoryFolder()
 void Dialogs::askToClearHistory()
 {
     const auto scans = static_cast<int>(m_context.history.snapshots().size());
-    ask({.text = tr("Clear the scan history?"),
-         .detail = tr("All %n saved scan(s) will be removed. This can’t be undone.", nullptr, scans),
-         .answers = {{tr("Clear history"), [this] { m_context.history.clear(); }}},
-         .isDestructive = true},
-        activeWindow());
+    ask(activeWindow(),
+        {.sentence = tr("Clear the scan history?"),
+         .consequence = tr("All %n saved scan(s) will be removed. This can’t be undone.", nullptr, scans),
+         .verb = tr("Clear history")},
+        [this] { m_context.history.clear(); });
 }
 
 } // namespace quillmark::app

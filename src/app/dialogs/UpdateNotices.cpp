@@ -3,8 +3,8 @@
 
 #include "app/dialogs/UpdateNotices.h"
 
-#include "app/dialogs/questions.h"
 #include "app/settingKeys.h"
+#include "app/widgets/question.h"
 #include "reports/Report.h"
 #include "update/updateTexts.h"
 
@@ -50,10 +50,11 @@ void UpdateNotices::checkNow(QWidget *window)
         m_updates.checkNow();
     };
     //: %1 is the name of a server
-    ask({.text = tr("May Quillmark ask %1 whether there is a newer version?").arg(m_updates.host()),
-         .detail = update::consentNote(),
-         .answers = {{tr("Ask once a day"), daily}, {tr("Ask this once"), once}}},
-        window);
+    ask(window,
+        {//: %1 is the name of a server
+         .sentence = tr("May Quillmark ask %1 whether there is a newer version?").arg(m_updates.host()),
+         .consequence = update::consentNote()},
+        QList<Answer>{{tr("Ask once a day"), daily}, {tr("Ask this once"), once}});
 }
 
 void UpdateNotices::tell(const update::CheckResult &result, Trigger trigger)

@@ -65,9 +65,10 @@ void UpdatesPane::refresh()
     m_automatic->setEnabled(!host.isEmpty());
     m_automatic->setChecked(m_updates.hasConsent());
     m_caption->setText(
-        host.isEmpty() ? update::reasonText({.reason = update::CheckFailure::Reason::BadAddress}, m_updates.feed())
-                       //: %1 is the name of a server
-                       : tr("Asks %1 once a day, when Quillmark starts").arg(host));
+        host.isEmpty()
+            ? update::reasonText({.reason = update::CheckFailure::Reason::BadAddress}, m_updates.feed())
+            //: %1 is the name of a server
+            : tr("Asks %1 once a day, when Quillmark starts").arg(host));
     m_caption->setToolTip(update::consentNote());
     const bool isChecking = m_updates.isChecking();
     m_check->setText(isChecking ? tr("Checking…") : tr("Check now"));

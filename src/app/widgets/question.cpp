@@ -16,20 +16,39 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Question)
 };
 
-} // namespace
-
-void ask(QWidget *asker, const Question &question, const std::function<void()> &confirmed)
+/// A box that can only be cancelled so far.
+QMessageBox *makeBox(QWidget *asker, const Question &question)
 {
     auto *box = new QMessageBox(asker);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
     box->setIcon(QMessageBox::Question);
     box->setText(question.sentence);
     box->setInformativeText(question.consequence);
     auto *cancel = box->addButton(Text::tr("Cancel"), QMessageBox::RejectRole);
-    auto *act = box->addButton(question.verb, QMessageBox::DestructiveRole);
     box->setDefaultButton(cancel);
     box->setEscapeButton(cancel);
+    return box;
+}
+
+} // namespace
+
+void ask(QWidget *asker, const Question &question, const std::function<void()> &confirmed)
+{
+    auto *box = makeBox(asker, question);
+    auto *act = box->addButton(question.verb, QMessageBox::DestructiveRole);
     QObject::connect(act, &QAbstractButton::clicked, asker, confirmed);
+    box->open();
+}
+
+void ask(QWidget *asker, const Question &question, const QList<Answer> &answers)
+{
+    auto *box = makeBox(asker, question);
+    for (const auto &[verb, run] : answers) {
+        auto *button = box->addButton(verb, QMessageBox::AcceptRole);
+        QObject::connect(
+            button, &QAbstractButton::clicked, asker, [run = run] { run(); }, Qt::QueuedConnection);
+    }
     box->open();
 }
 
