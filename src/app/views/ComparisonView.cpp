@@ -87,8 +87,10 @@ public:
             texts->addWidget(label);
         auto *figures = new QVBoxLayout;
         figures->setSpacing(0);
+        figures->addStretch();
         for (auto *label : {m_score, m_scoreWord})
             figures->addWidget(label, 0, Qt::AlignTrailing);
+        figures->addStretch();
         auto *row = new QHBoxLayout(this);
         row->setContentsMargins({});
         row->setSpacing(14);
