@@ -44,16 +44,28 @@
         <translation>لا تُبلغ هذه البطارية عن مقدار الشحن الذي تحتفظ به.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>هذه البطارية في حالة جيدة. تحتفظ بالشحن نفسه تقريبًا كما كانت جديدة.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>هذه البطارية في حالة جيدة.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>تحتفظ هذه البطارية بشحن أقل من السابق. لا تزال تعمل جيدًا، لكنها تدوم مدة أقصر بوضوح.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>تحتفظ هذه البطارية بشحن أقل من السابق.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>هذه البطارية بالية. فكّر في استبدالها.</translation>
+        <source>This battery is worn.</source>
+        <translation>هذه البطارية بالية.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>تحتفظ بالشحن نفسه تقريبًا كما كانت جديدة.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>لا تزال تعمل جيدًا، لكنها تدوم مدة أقصر بوضوح.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>فكّر في استبدالها.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

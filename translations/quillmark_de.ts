@@ -44,16 +44,28 @@
         <translation>Diese Batterie teilt nicht mit, wie viel sie fasst.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>Diese Batterie ist in gutem Zustand. Sie fasst fast so viel Ladung wie im Neuzustand.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>Diese Batterie ist in gutem Zustand.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>Diese Batterie fasst weniger als früher. Sie funktioniert noch gut, hält aber spürbar kürzer.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>Diese Batterie fasst weniger als früher.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>Diese Batterie ist verschlissen. Ein Austausch ist zu erwägen.</translation>
+        <source>This battery is worn.</source>
+        <translation>Diese Batterie ist verschlissen.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>Sie fasst fast so viel Ladung wie im Neuzustand.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>Sie funktioniert noch gut, hält aber spürbar kürzer.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>Ein Austausch ist zu erwägen.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -44,16 +44,28 @@
         <translation>Esta batería no indica cuánta carga admite.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>Esta batería está en buen estado. Admite casi tanta carga como cuando era nueva.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>Esta batería está en buen estado.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>Esta batería admite menos carga que antes. Sigue funcionando bien, pero dura bastante menos.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>Esta batería admite menos carga que antes.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>Esta batería está desgastada. Plantéate cambiarla.</translation>
+        <source>This battery is worn.</source>
+        <translation>Esta batería está desgastada.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>Admite casi tanta carga como cuando era nueva.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>Sigue funcionando bien, pero dura bastante menos.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>Plantéate cambiarla.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -44,16 +44,28 @@
         <translation>Cette batterie n’indique pas ce qu’elle contient.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>Cette batterie est en bon état. Elle contient presque autant de charge qu’à l’état neuf.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>Cette batterie est en bon état.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>Cette batterie contient moins de charge qu’auparavant. Elle fonctionne encore bien, mais dure nettement moins longtemps.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>Cette batterie contient moins de charge qu’auparavant.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>Cette batterie est usée. Pensez à la faire remplacer.</translation>
+        <source>This battery is worn.</source>
+        <translation>Cette batterie est usée.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>Elle contient presque autant de charge qu’à l’état neuf.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>Elle fonctionne encore bien, mais dure nettement moins longtemps.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>Pensez à la faire remplacer.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -44,16 +44,28 @@
         <translation>Questa batteria non indica quanta carica contiene.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>Questa batteria è in buone condizioni. Mantiene quasi la stessa carica di quando era nuova.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>Questa batteria è in buone condizioni.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>Questa batteria mantiene meno carica di prima. Funziona ancora bene, ma dura sensibilmente meno.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>Questa batteria mantiene meno carica di prima.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>Questa batteria è usurata. Valuta di farla sostituire.</translation>
+        <source>This battery is worn.</source>
+        <translation>Questa batteria è usurata.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>Mantiene quasi la stessa carica di quando era nuova.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>Funziona ancora bene, ma dura sensibilmente meno.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>Valuta di farla sostituire.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -44,16 +44,28 @@
         <translation>このバッテリーは充電できる量を報告しません。</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>このバッテリーは良好な状態です。新品のときとほぼ同じ量を充電できます。</translation>
+        <source>This battery is in good condition.</source>
+        <translation>このバッテリーは良好な状態です。</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>このバッテリーが充電できる量は以前より減っています。まだ問題なく使えますが、持続時間は明らかに短くなります。</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>このバッテリーが充電できる量は以前より減っています。</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>このバッテリーは劣化しています。交換を検討してください。</translation>
+        <source>This battery is worn.</source>
+        <translation>このバッテリーは劣化しています。</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>新品のときとほぼ同じ量を充電できます。</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>まだ問題なく使えますが、持続時間は明らかに短くなります。</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>交換を検討してください。</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -44,16 +44,28 @@
         <translation>이 배터리는 충전할 수 있는 양을 알려주지 않습니다.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>이 배터리는 상태가 좋습니다. 새것일 때와 거의 같은 양을 충전합니다.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>이 배터리는 상태가 좋습니다.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>이 배터리는 예전보다 적은 양을 충전합니다. 여전히 잘 작동하지만 사용 시간이 눈에 띄게 짧습니다.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>이 배터리는 예전보다 적은 양을 충전합니다.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>이 배터리는 노후되었습니다. 교체를 고려하십시오.</translation>
+        <source>This battery is worn.</source>
+        <translation>이 배터리는 노후되었습니다.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>새것일 때와 거의 같은 양을 충전합니다.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>여전히 잘 작동하지만 사용 시간이 눈에 띄게 짧습니다.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>교체를 고려하십시오.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

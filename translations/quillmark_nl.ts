@@ -44,16 +44,28 @@
         <translation>Deze batterij meldt niet hoeveel lading ze bevat.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>Deze batterij is in goede staat. Ze houdt bijna evenveel lading vast als toen ze nieuw was.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>Deze batterij is in goede staat.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>Deze batterij houdt minder lading vast dan vroeger. Ze werkt nog goed, maar gaat merkbaar korter mee.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>Deze batterij houdt minder lading vast dan vroeger.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>Deze batterij is versleten. Overweeg om haar te laten vervangen.</translation>
+        <source>This battery is worn.</source>
+        <translation>Deze batterij is versleten.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>Ze houdt bijna evenveel lading vast als toen ze nieuw was.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>Ze werkt nog goed, maar gaat merkbaar korter mee.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>Overweeg om haar te laten vervangen.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -44,16 +44,28 @@
         <translation>Ta bateria nie podaje, ile ładunku mieści.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>Ta bateria jest w dobrym stanie. Mieści prawie tyle ładunku, ile jako nowa.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>Ta bateria jest w dobrym stanie.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>Ta bateria mieści mniej ładunku niż dawniej. Nadal działa dobrze, ale wystarcza wyraźnie krócej.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>Ta bateria mieści mniej ładunku niż dawniej.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>Ta bateria jest zużyta. Warto rozważyć jej wymianę.</translation>
+        <source>This battery is worn.</source>
+        <translation>Ta bateria jest zużyta.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>Mieści prawie tyle ładunku, ile jako nowa.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>Nadal działa dobrze, ale wystarcza wyraźnie krócej.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>Warto rozważyć jej wymianę.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -44,16 +44,28 @@
         <translation>Esta bateria não informa quanta carga mantém.</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>Esta bateria está em boas condições. Ela mantém quase tanta carga quanto quando era nova.</translation>
+        <source>This battery is in good condition.</source>
+        <translation>Esta bateria está em boas condições.</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>Esta bateria mantém menos carga do que antes. Ainda funciona bem, mas dura bem menos.</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>Esta bateria mantém menos carga do que antes.</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>Esta bateria está desgastada. Considere substituí-la.</translation>
+        <source>This battery is worn.</source>
+        <translation>Esta bateria está desgastada.</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>Ela mantém quase tanta carga quanto quando era nova.</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>Ainda funciona bem, mas dura bem menos.</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>Considere substituí-la.</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

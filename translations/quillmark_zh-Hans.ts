@@ -44,16 +44,28 @@
         <translation>此电池不报告可容纳的电量。</translation>
     </message>
     <message>
-        <source>This battery is in good condition. It holds almost as much charge as when it was new.</source>
-        <translation>此电池状态良好，可容纳的电量与全新时相差无几。</translation>
+        <source>This battery is in good condition.</source>
+        <translation>此电池状态良好。</translation>
     </message>
     <message>
-        <source>This battery holds less than it used to. It still works well, but it lasts noticeably shorter.</source>
-        <translation>此电池可容纳的电量比以前少。它仍能正常工作，但续航明显缩短。</translation>
+        <source>This battery holds less than it used to.</source>
+        <translation>此电池可容纳的电量比以前少。</translation>
     </message>
     <message>
-        <source>This battery is worn. Consider having it replaced.</source>
-        <translation>此电池已老化。请考虑更换。</translation>
+        <source>This battery is worn.</source>
+        <translation>此电池已老化。</translation>
+    </message>
+    <message>
+        <source>It holds almost as much charge as when it was new.</source>
+        <translation>可容纳的电量与全新时相差无几。</translation>
+    </message>
+    <message>
+        <source>It still works well, but it lasts noticeably shorter.</source>
+        <translation>它仍能正常工作，但续航明显缩短。</translation>
+    </message>
+    <message>
+        <source>Consider having it replaced.</source>
+        <translation>请考虑更换。</translation>
     </message>
     <message>
         <source>It has reached its rated cycles.</source>

@@ -5,9 +5,11 @@
 
 #include "app/AppContext.h"
 #include "app/Appearance.h"
+#include "app/MenuBar.h"
 #include "app/SingleInstance.h"
 #include "app/dialogs/Dialogs.h"
 #include "app/painting.h"
+#include "app/settingKeys.h"
 #include "app/views/ContentView.h"
 #include "history/ScanHistory.h"
 #include "inspection/Quillmark.h"
@@ -131,7 +133,14 @@ int run(const Launch &launch, QString &)
         QApplication::quit();
     };
     QObject::connect(&window, &ContentView::quitAsked, &window, quit);
-    QObject::connect(&window, &ContentView::closed, &window, [&] { QApplication::quit(); });
+    MenuBar menuBar(context);
+    QObject::connect(&menuBar, &MenuBar::openAsked, &window, &ContentView::bringForward);
+    QObject::connect(&menuBar, &MenuBar::settingsAsked, &window, &ContentView::settingsAsked);
+    QObject::connect(&menuBar, &MenuBar::quitAsked, &window, quit);
+    QObject::connect(&window, &ContentView::closed, &window, [&] {
+        if (!settings.value(keys::keepsRunning) || !menuBar.isShown())
+            QApplication::quit();
+    });
     QObject::connect(&instance, &SingleInstance::activated, &window, &ContentView::bringForward);
     window.restoreWindow();
     window.QWidget::show();

@@ -200,14 +200,28 @@ QString headline(const BatteryJudgement &judgement)
     case Health::NotReported:
         return Text::tr("This battery does not tell how much it holds.");
     case Health::Normal:
-        return Text::tr(
-            "This battery is in good condition. It holds almost as much charge as when it was new.");
+        return Text::tr("This battery is in good condition.");
     case Health::Reduced:
-        return Text::tr(
-            "This battery holds less than it used to. It still works well, but it lasts noticeably "
-            "shorter.");
+        return Text::tr("This battery holds less than it used to.");
     case Health::Worn:
-        return Text::tr("This battery is worn. Consider having it replaced.");
+        return Text::tr("This battery is worn.");
+    }
+    return {};
+}
+
+QString detail(const BatteryJudgement &judgement)
+{
+    if (judgement.cause != Cause::None && judgement.cause != Cause::Health)
+        return {};
+    switch (judgement.health) {
+    case Health::NotReported:
+        return {};
+    case Health::Normal:
+        return Text::tr("It holds almost as much charge as when it was new.");
+    case Health::Reduced:
+        return Text::tr("It still works well, but it lasts noticeably shorter.");
+    case Health::Worn:
+        return Text::tr("Consider having it replaced.");
     }
     return {};
 }

@@ -60,8 +60,10 @@ QString title(Health health);
 QString title(Warmth warmth);
 /// "Normal", "Service recommended", …, or the system's own word.
 QString conditionTitle(const BatteryJudgement &judgement);
-/// What the whole comes to, in a sentence or two.
+/// What the whole comes to, in a sentence.
 QString headline(const BatteryJudgement &judgement);
+/// What that means for who uses it, in a sentence; empty where the headline has all there is to say.
+QString detail(const BatteryJudgement &judgement);
 /// What the headline needs beside it where it only says that something is wrong; else empty.
 QString causeText(const BatteryJudgement &judgement);
 

@@ -61,12 +61,6 @@ QString capacityText(const BatteryReading &reading, const language::Formats &for
     return Text::tr("%1 of %2\u00a0mAh").arg(wholeNumber(present, formats), wholeNumber(design, formats));
 }
 
-QString temperatureText(double celsius, const language::Formats &formats)
-{
-    const auto magnitude = formats.number(std::abs(celsius), 1);
-    return celsius < 0 ? Text::tr("−%1\u00a0°C").arg(magnitude) : Text::tr("%1\u00a0°C").arg(magnitude);
-}
-
 QString chargeStateText(ChargeState state)
 {
     switch (state) {
@@ -108,6 +102,19 @@ CapabilityStatus statusOf(battery::Rating rating)
         return CapabilityStatus::Unsupported;
     }
     return CapabilityStatus::Info;
+}
+
+QString capacityText(std::int64_t capacity, battery::CapacityUnit unit, const language::Formats &formats)
+{
+    return unit == battery::CapacityUnit::MilliwattHours
+               ? Text::tr("%1\u00a0Wh").arg(wattHours(capacity, formats))
+               : Text::tr("%1\u00a0mAh").arg(wholeNumber(capacity, formats));
+}
+
+QString temperatureText(double celsius, const language::Formats &formats)
+{
+    const auto magnitude = formats.number(std::abs(celsius), 1);
+    return celsius < 0 ? Text::tr("−%1\u00a0°C").arg(magnitude) : Text::tr("%1\u00a0°C").arg(magnitude);
 }
 
 QList<CapabilityItem> batteryItems(const BatteryReading &reading, bool onMac,

@@ -58,7 +58,8 @@ void BatteryCommandTest::text_data()
     QTest::addColumn<QByteArray>("recording");
     QTest::addColumn<QString>("expected"); // * stands for any lines
     QTest::newRow("two figures") << recordingText(u"macbook-pro-m2-rosetta"_s) << uR"(
-This battery is in good condition. It holds almost as much charge as when it was new.
+This battery is in good condition.
+It holds almost as much charge as when it was new.
 
 Battery health  █████████████████████░░░  88 % of design capacity
 macOS reports 90 %
@@ -84,10 +85,12 @@ macOS reports 71 %
 *)"_s;
     QTest::newRow("several") << twoBatteries() << uR"(
 BAT0
-This battery is in good condition. It holds almost as much charge as when it was new.
+This battery is in good condition.
+It holds almost as much charge as when it was new.
 *
 BAT1
-This battery is worn. Consider having it replaced.
+This battery is worn.
+Consider having it replaced.
 
 Battery health  ██████░░░░░░░░░░░░░░░░░░  25 % of design capacity
 

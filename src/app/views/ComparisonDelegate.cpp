@@ -26,7 +26,7 @@ using inspection::CapabilityStatus;
 namespace {
 
 // In logical pixels.
-constexpr int headingHeight = 44;
+constexpr int headingHeight = 36;
 constexpr int rowHeight = 44;
 constexpr int padding = 16;
 constexpr int gap = 12;

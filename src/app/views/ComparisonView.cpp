@@ -20,6 +20,7 @@
 #include <QBoxLayout>
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
 
 namespace quillmark::app {
@@ -86,8 +87,10 @@ public:
             texts->addWidget(label);
         auto *figures = new QVBoxLayout;
         figures->setSpacing(0);
+        figures->addStretch();
         for (auto *label : {m_score, m_scoreWord})
             figures->addWidget(label, 0, Qt::AlignTrailing);
+        figures->addStretch();
         auto *row = new QHBoxLayout(this);
         row->setContentsMargins({});
         row->setSpacing(14);
@@ -129,6 +132,7 @@ public:
         , m_arrow(new Arrow(this))
         , m_newer(new ScanPanel(this))
     {
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         m_row->setContentsMargins(20, 8, 20, 8);
         m_row->setSpacing(20);
         m_row->addWidget(m_older, 1);
@@ -188,7 +192,7 @@ ComparisonView::ComparisonView(const AppContext &context, QWidget *parent)
     column->addSpacing(14);
     column->addWidget(m_chips);
     column->addWidget(m_list);
-    column->addWidget(m_same, 1);
+    column->addWidget(m_same);
     m_languages->setContentsMargins(2, 10, 2, 0);
 }
 
@@ -227,7 +231,7 @@ void ComparisonView::arrange(qreal effectiveWidth, int height)
 {
     m_head->arrange(effectiveWidth);
     m_chips->setCompact(effectiveWidth < 640);
-    setMinimumHeight(height);
+    m_same->setMinimumHeight(std::max(0, height - m_head->minimumHeight()));
 }
 
 void ComparisonView::update()

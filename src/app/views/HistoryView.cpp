@@ -368,7 +368,7 @@ void HistoryView::tellFailure(const history::SaveError &error)
 int HistoryView::pageHeight() const
 {
     const auto margins = widget()->layout()->contentsMargins();
-    return viewport()->height() - margins.top() - margins.bottom();
+    return std::max(0, viewport()->height() - margins.top() - margins.bottom());
 }
 
 } // namespace quillmark::app

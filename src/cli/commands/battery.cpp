@@ -52,6 +52,8 @@ void addBattery(TerminalPage &page, const BatteryReading &reading, bool onMac,
 {
     const auto judgement = judge(reading);
     page.addParagraph(headline(judgement), Weight::Bold);
+    if (const auto meaning = detail(judgement); !meaning.isEmpty())
+        page.addParagraph(meaning);
     if (const auto cause = causeText(judgement); !cause.isEmpty())
         page.addParagraph(cause);
 
