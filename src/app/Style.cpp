@@ -124,6 +124,52 @@ void drawIndicator(const QStyleOption &option, QPainter &painter, const QWidget 
         paintFocusRing(painter, bounds.adjusted(-2, -2, 2, 2), radius + 2);
 }
 
+/// A thumb without arrows, and no ground: the page goes on below it.
+void drawScrollBar(const QStyleOptionSlider &option, QPainter &painter, const QStyle &style,
+                   const QWidget *widget)
+{
+    constexpr qreal inset = 2;
+    if (option.maximum <= option.minimum)
+        return;
+    const QRectF thumb =
+        style.subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, widget);
+    const bool isHeld = option.activeSubControls & QStyle::SC_ScrollBarSlider;
+    const auto inside = thumb.adjusted(inset, inset, -inset, -inset);
+    const auto &appearance = Appearance::current();
+    paintBox(painter, inside, std::min(inside.width(), inside.height()) / 2,
+             appearance.color(isHeld ? Role::ControlStrong : Role::ControlBorder), {});
+}
+
+/// All of it is groove: there are no arrows.
+QRect scrollBarPart(const QStyleOptionSlider &option, QStyle::SubControl part)
+{
+    const bool isVertical = option.orientation == Qt::Vertical;
+    const int length = isVertical ? option.rect.height() : option.rect.width();
+    constexpr int leastThumb = 32;
+    const auto range = static_cast<qint64>(option.maximum) - option.minimum;
+    const auto share =
+        length * static_cast<qint64>(option.pageStep) / std::max<qint64>(1, range + option.pageStep);
+    const int thumb = std::clamp(static_cast<int>(share), std::min(leastThumb, length), length);
+    const int begin = QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
+                                                      length - thumb, option.upsideDown);
+    const auto stretch = [&](int from, int size) {
+        return isVertical ? QRect(option.rect.x(), option.rect.y() + from, option.rect.width(), size)
+                          : QRect(option.rect.x() + from, option.rect.y(), size, option.rect.height());
+    };
+    switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+        return stretch(begin, thumb);
+    case QStyle::SC_ScrollBarSubPage:
+        return stretch(0, begin);
+    case QStyle::SC_ScrollBarAddPage:
+        return stretch(begin + thumb, length - begin - thumb);
+    case QStyle::SC_ScrollBarGroove:
+        return option.rect;
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 Style::Style()
@@ -172,6 +218,25 @@ void Style::drawControl(ControlElement element, const QStyleOption *option, QPai
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                               const QWidget *widget) const
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (control == CC_ScrollBar && slider)
+        drawScrollBar(*slider, *painter, *this, widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                            const QWidget *widget) const
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (control == CC_ScrollBar && slider)
+        return visualRect(slider->direction, slider->rect, scrollBarPart(*slider, part));
+    return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
