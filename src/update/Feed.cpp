@@ -3,6 +3,7 @@
 
 #include "update/Feed.h"
 
+#include "update/isHttps.h"
 #include "update/plainText.h"
 
 #include <QRegularExpression>
@@ -23,9 +24,7 @@ constexpr qsizetype longestTitle = 64;
 QUrl httpsUrl(const QString &text)
 {
     const QUrl url(text.trimmed(), QUrl::StrictMode);
-    return url.isValid() && url.scheme() == "https"_L1 && !url.host().isEmpty() && url.userInfo().isEmpty()
-               ? url
-               : QUrl();
+    return isHttps(url) ? url : QUrl();
 }
 
 QString titleOf(const QString &text)

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype mostExchanges = 50;
-constexpr std::chrono::seconds patience{1};
+constexpr std::chrono::milliseconds patience{200};
 
 QJsonObject toJson(const Exchange &exchange)
 {

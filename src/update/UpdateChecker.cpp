@@ -3,6 +3,8 @@
 
 #include "update/UpdateChecker.h"
 
+#include "update/isHttps.h"
+
 #include <QStandardPaths>
 
 #include <utility>
@@ -14,11 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 secondsOfDay = 24 * 60 * 60;
-
-bool isHttps(const QUrl &url)
-{
-    return url.isValid() && url.scheme() == "https"_L1 && !url.host().isEmpty() && url.userInfo().isEmpty();
-}
 
 } // namespace
 
@@ -80,6 +77,7 @@ void UpdateChecker::setConsent(bool isGiven)
     m_settings.setValue(automaticKey, isGiven);
     if (!isGiven && isChecking()) {
         m_source->cancel();
+        complete({}, u"cancelled"_s);
         finish(CheckFailure{CheckFailure::Reason::NoConsent});
     }
 }
@@ -114,9 +112,11 @@ void UpdateChecker::check(Trigger trigger)
     if (trigger != Trigger::ThisOnce && !hasConsent())
         return fail(CheckFailure::Reason::NoConsent);
     const auto now = m_surroundings.now();
-    m_begun = {.date = now, .url = url};
-    if (!ledger(m_surroundings.folder).begin(m_begun))
+    m_feed = url;
+    const Exchange exchange{.date = now, .url = url};
+    if (!ledger(m_surroundings.folder).begin(exchange))
         return fail(CheckFailure::Reason::NoLedger);
+    m_begun = exchange;
 
     m_settings.setValue(lastCheckedKey, now.toString(Qt::ISODate));
     m_cached = readFeedCache(cacheFile(), url);
@@ -130,15 +130,21 @@ void UpdateChecker::check(Trigger trigger)
 
 void UpdateChecker::receive(const FetchOutcome &outcome)
 {
-    auto exchanges = outcome.exchanges;
-    if (exchanges.isEmpty()) {
-        exchanges = {m_begun};
-        if (!outcome.answer)
-            exchanges.last().failure = nameOf(outcome.answer.error().reason);
-    }
-    ledger(m_surroundings.folder).complete(m_begun, exchanges);
+    complete(outcome.exchanges, outcome.answer ? QString() : nameOf(outcome.answer.error().reason));
     const auto feed = feedFrom(outcome);
     finish(feed ? judge(*feed) : feed.error());
+}
+
+void UpdateChecker::complete(QList<Exchange> exchanges, const QString &failure)
+{
+    if (!m_begun)
+        return;
+    if (exchanges.isEmpty()) { // nothing more is known of the request than that it was sent
+        exchanges = {*m_begun};
+        exchanges.last().failure = failure;
+    }
+    ledger(m_surroundings.folder).complete(*m_begun, exchanges);
+    m_begun.reset();
 }
 
 std::expected<Feed, CheckFailure> UpdateChecker::feedFrom(const FetchOutcome &outcome)
@@ -153,10 +159,9 @@ std::expected<Feed, CheckFailure> UpdateChecker::feedFrom(const FetchOutcome &ou
         return std::unexpected(
             CheckFailure{.reason = CheckFailure::Reason::Unreadable, .feed = feed.error()});
     if (isNew)
-        writeFeedCache(cacheFile(), {.url = m_begun.url,
-                                     .etag = answer.etag,
-                                     .lastModified = answer.lastModified,
-                                     .body = answer.body});
+        writeFeedCache(
+            cacheFile(),
+            {.url = m_feed, .etag = answer.etag, .lastModified = answer.lastModified, .body = answer.body});
     return std::move(*feed);
 }
 

@@ -76,7 +76,7 @@ enum class Trigger {
 /// Knows whether a newer version is published, and tells; it installs nothing.
 ///
 /// Sends nothing without the user’s consent, which is for one host: where the feed’s address becomes that of
-/// another, the user is to be asked again. Lives on the main thread, which it never keeps waiting.
+/// another, the user is to be asked again. Lives on the main thread, which does not wait for the network.
 class UpdateChecker : public QObject
 {
     Q_OBJECT
@@ -134,6 +134,8 @@ Q_SIGNALS:
 private:
     bool isDue() const;
     void receive(const FetchOutcome &outcome);
+    /// Enters in the ledger what came of the request.
+    void complete(QList<Exchange> exchanges, const QString &failure);
     std::expected<Feed, CheckFailure> feedFrom(const FetchOutcome &outcome);
     CheckResult judge(const Feed &feed) const;
     void finish(const CheckResult &result);
@@ -143,7 +145,8 @@ private:
     Surroundings m_surroundings;
     std::unique_ptr<FeedSource> m_source;
     std::optional<Trigger> m_trigger; ///< of the check under way
-    Exchange m_begun;                 ///< its entry in the ledger
+    QUrl m_feed;                      ///< that it asks
+    std::optional<Exchange> m_begun;  ///< its entry in the ledger, while that waits for its outcome
     std::optional<CachedFeed> m_cached;
     std::optional<CheckResult> m_result;
 };

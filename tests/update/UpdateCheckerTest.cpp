@@ -374,6 +374,7 @@ void UpdateCheckerTest::refusalEndsCheck()
     desk.checker->setConsent(false);
     QCOMPARE(spy.size(), 1);
     QVERIFY(!desk.checker->isChecking());
+    QCOMPARE(desk.ledger().last().failure, u"cancelled"_s);
 
     // One that is under way when the program ends is given up too.
     desk.checker->setConsent(true);
