@@ -2957,6 +2957,59 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Messwerte werden gesammelt…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Quillmark öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Live-Monitor von Quillmark</translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation>Benutzter Arbeitsspeicher: %1</translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation>Prozessorlast: %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Live-Monitor von Quillmark</translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation>Jede Sekunde</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Messwerte werden gesammelt…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Quillmark öffnen</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>

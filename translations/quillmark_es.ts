@@ -2338,7 +2338,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Live Monitor</source>
-        <translation>Monitor en vivo</translation>
+        <translation>Monitor en directo</translation>
     </message>
     <message>
         <source>Previous Section</source>
@@ -2585,11 +2585,11 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation>Mostrar el monitor en vivo en la barra de menús</translation>
+        <translation>Mostrar el monitor en directo en la barra de menús</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Mostrar el monitor en vivo en el área de estado</translation>
+        <translation>Mostrar el monitor en directo en el área de estado</translation>
     </message>
     <message>
         <source>Get started</source>
@@ -2957,6 +2957,59 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Recopilando muestras…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Abrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Monitor en directo de Quillmark</translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation>Memoria en uso: %1</translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation>Carga del procesador: %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Monitor en directo de Quillmark</translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation>Cada segundo</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Recopilando muestras…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Abrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Ajustes…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
@@ -2972,7 +3025,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation>Mostrar el monitor en vivo en la barra de menús</translation>
+        <translation>Mostrar el monitor en directo en la barra de menús</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
@@ -2984,7 +3037,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Mostrar el monitor en vivo en el área de estado</translation>
+        <translation>Mostrar el monitor en directo en el área de estado</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
@@ -3015,7 +3068,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::MonitorView</name>
     <message>
         <source>Live monitor</source>
-        <translation>Monitor en vivo</translation>
+        <translation>Monitor en directo</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
@@ -3357,7 +3410,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation>Monitor en vivo</translation>
+        <translation>Monitor en directo</translation>
     </message>
 </context>
 <context>

@@ -2957,6 +2957,59 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Collecte des mesures…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Ouvrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Moniteur en direct de Quillmark</translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation>Mémoire utilisée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation>Charge du processeur&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Moniteur en direct de Quillmark</translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation>Chaque seconde</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Collecte des mesures…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Ouvrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Réglages…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
