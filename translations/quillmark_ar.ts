@@ -3051,6 +3051,59 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation type="unfinished">جارٍ جمع العينات…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation type="unfinished">جارٍ جمع العينات…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>

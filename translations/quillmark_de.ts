@@ -1265,15 +1265,15 @@
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt heute um %1 gesucht</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt gestern um %1 gesucht</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt am %1 gesucht</translation>
     </message>
 </context>
 <context>
@@ -1648,259 +1648,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, grafikkarte, videokarte, 3d, spiele</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ki, ai, ml, maschinelles lernen, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>display, monitor</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>video, codec</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>strom, akku, batterie</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>internet, online</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>schutz</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>computername, hostname, rechnername</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>modell</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, systemversion, macos, linux, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>läuft seit, neustart, laufzeit</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>temperatur, hitze, drosselung, lüfter</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, hypervisor</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, chip, soc</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu-kerne</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu-kerne, threads, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>taktfrequenz, takt, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, hauptspeicher</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, grafikspeicher</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, schreibwerkzeuge, sprachmodell</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ki, ai</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, bildwiederholfrequenz</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, helligkeit</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, gamut, farbraum</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>pixel, hertz, hz, 4k, 5k, bildwiederholrate</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, video-decodierung, wiedergabe</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, video-codierung, aufnahme</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, video-decodierung, wiedergabe</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, video-codierung, aufnahme</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, fotos, bilder</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>lautsprecher, ton, audio</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>mikro, ton, audio</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>mikro, berechtigung, datenschutz</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, berechtigung, datenschutz</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, lautsprecher, kopfhörer</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, mikrofon</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, ton</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>abtastrate, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>speicherplatz, festplattengröße</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>freier speicher, speicherplatz, voll</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, festplatte, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>partition, laufwerk</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>eingesteckt, netzstrom</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>ladegerät, netzteil, watt</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>maximale kapazität, verschleiß, alterung</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>akkulaufzeit, laufzeit</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>energiesparen, energiesparmodus</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wi-fi, wifi, funk</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wi-fi, wifi, funk, empfang</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wi-fi, wifi, funk, geschwindigkeit</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wi-fi, wifi, wlan, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>ip-adresse</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, verschlüsselt</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>verschlüsselung, verschlüsselt, festplattenverschlüsselung</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>fingerabdruck, biometrie</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, sicherheitschip</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, startsicherheit, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>virus, schadsoftware, malware, antivirus</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>schadsoftware, notarisierung, app-signatur</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown</translation>
     </message>
 </context>
 <context>
@@ -2031,7 +2031,7 @@
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [j/N]</translation>
     </message>
 </context>
 <context>
@@ -2231,7 +2231,7 @@
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort von %1 ist kein Feed: Sie ist kein XML oder nur ein Teil davon.</translation>
     </message>
 </context>
 <context>
@@ -2412,11 +2412,11 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Kopieren</translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert kopieren</translation>
     </message>
 </context>
 <context>
@@ -2424,12 +2424,12 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2514,152 +2514,152 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished">Der Verlauf konnte nicht gesichert werden.</translation>
+        <translation>Der Verlauf konnte nicht gesichert werden.</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished">Verlauf löschen?</translation>
+        <translation>Verlauf löschen?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n gesicherte Untersuchung wird entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
+            <numerusform>Alle %n gesicherten Untersuchungen werden entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished">Verlauf löschen</translation>
+        <translation>Verlauf löschen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Mac wird untersucht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer wird untersucht…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehen Sie, was dieser Mac wirklich kann</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehen Sie, was dieser Computer wirklich kann</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Fähigkeit Ihrer Hardware und Ihres Systems, mit klarem Status.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>Elf Abschnitte, ein Wert</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Prozessor und Grafik bis zu Codecs, Bildschirmen und Sicherheit.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Änderung wird gesichert</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen Sie zwei beliebige Untersuchungen und sehen Sie, was ein Update geändert hat.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Daten bleiben hier</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts über diesen Mac wird irgendwohin gesendet. Quillmark geht nur online, um nach eigenen Updates zu suchen.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts über diesen Computer wird irgendwohin gesendet. Quillmark geht nur online, um nach eigenen Updates zu suchen.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch nach Updates suchen</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fragt höchstens einmal am Tag bei %1 nach und nennt dabei nur die Version von Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Monitor in der Menüleiste anzeigen</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Monitor im Infobereich anzeigen</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>Los geht’s</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Öffnen von Quillmark:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenschutz:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersicht anzeigen</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt benutzte Ansicht anzeigen</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Finder zeigen</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Dateiverwaltung zeigen</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished">Verlauf löschen…</translation>
+        <translation>Verlauf löschen…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was Quillmark liest, bleibt auf diesem Mac.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was Quillmark liest, bleibt auf diesem Computer.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die einzige Verbindung ist die Suche nach Updates.</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Untersuchung gesichert, höchstens %1</numerusform>
+            <numerusform>%n Untersuchungen gesichert, höchstens %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2707,68 +2707,68 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">Fähigkeitswert</translation>
+        <translation>Fähigkeitswert</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1, %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fähigkeitswert %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">%1 Arbeitsspeicher</translation>
+        <translation>%1 Arbeitsspeicher</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">%1 Speicherplatz</translation>
+        <translation>%1 Speicherplatz</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">Anteil der bewerteten Fähigkeiten, die dieser Mac unterstützt</translation>
+        <translation>Anteil der bewerteten Fähigkeiten, die dieser Mac unterstützt</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">Anteil der bewerteten Fähigkeiten, die dieser Computer unterstützt</translation>
+        <translation>Anteil der bewerteten Fähigkeiten, die dieser Computer unterstützt</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">Nichts ist bewertet</translation>
+        <translation>Nichts ist bewertet</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 von %n Fähigkeit</numerusform>
+            <numerusform>%1 von %n Fähigkeiten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Prozent, %2 von %n Fähigkeit unterstützt</numerusform>
+            <numerusform>%1 Prozent, %2 von %n Fähigkeiten unterstützt</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Mac wird untersucht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer wird untersucht…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Das dauert länger als sonst</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardware und Systemeinstellungen werden gelesen</translation>
     </message>
 </context>
 <context>
@@ -2946,19 +2946,19 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache der Oberfläche:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache der Oberfläche</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neue Sprache wird sofort verwendet. In einer anderen Sprache gesicherte Untersuchungen lassen sich weiterhin vergleichen.</translation>
     </message>
 </context>
 <context>
@@ -2969,58 +2969,111 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Messwerte werden gesammelt…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Quillmark öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Live-Monitor von Quillmark</translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation>Benutzter Arbeitsspeicher: %1</translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation>Prozessorlast: %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Live-Monitor von Quillmark</translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation>Jede Sekunde</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Messwerte werden gesammelt…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Quillmark öffnen</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>Menüleiste:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>Neben dem Symbol zeigen:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Monitor in der Menüleiste anzeigen</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark bleibt in der Menüleiste, bis Sie es beenden</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Infobereich:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Monitor im Infobereich anzeigen</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark bleibt im Infobereich, bis Sie es beenden</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Arbeitsumgebung hat keinen Infobereich.</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessorlast</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzter Arbeitsspeicher</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur das Symbol</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiterlaufen, wenn das Hauptfenster geschlossen ist</translation>
     </message>
 </context>
 <context>
@@ -3125,29 +3178,29 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Untersuchung gesichert</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Spätere Untersuchungen werden mit ihr verglichen</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n geändert</numerusform>
             <numerusform>%n geändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n hinzugefügt</numerusform>
             <numerusform>%n hinzugefügt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n entfernt</numerusform>
             <numerusform>%n entfernt</numerusform>
         </translation>
@@ -3155,144 +3208,144 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Seit %1</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">Keine Unterschiede</translation>
+        <translation>Keine Unterschiede</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished">Untersuchungen vergleichen</translation>
+        <translation>Untersuchungen vergleichen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse für „%1“</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Abschnitt</numerusform>
+            <numerusform>%n Abschnitten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile in %1</numerusform>
+            <numerusform>%n Zeilen in %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gefiltert nach: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine passenden Zeilen</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts enthält „%1“. Prüfen Sie die Schreibweise oder versuchen Sie ein kürzeres Wort.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile, die „%1“ enthält, hat den Status „%2“.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile passt mit anderem Status.</numerusform>
+            <numerusform>%n Zeilen passen mit anderem Status.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished">Suche löschen</translation>
+        <translation>Suche löschen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine passenden Zeilen</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile hat hier den Status „%1“.</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished">Fähigkeiten</translation>
+        <translation>Fähigkeiten</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Status zeigen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n unterstützt</numerusform>
             <numerusform>%n unterstützt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n nicht unterstützt</numerusform>
             <numerusform>%n nicht unterstützt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n Warnung</numerusform>
             <numerusform>%n Warnungen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Info</numerusform>
+            <numerusform>%n Infos</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Mac wird untersucht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer wird untersucht…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Abschnitt ist nichts bewertet</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 von %n bewerteten Fähigkeit unterstützt</numerusform>
+            <numerusform>%1 von %n bewerteten Fähigkeiten unterstützt</numerusform>
         </translation>
     </message>
 </context>
@@ -3300,27 +3353,27 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Menüleiste</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Infobereich</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -3392,78 +3445,78 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Darf Quillmark bei %1 fragen, ob es eine neuere Version gibt?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Einmal am Tag fragen</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur dieses Mal fragen</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche nach Updates ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 ist verfügbar, eine wichtige Aktualisierung.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 ist verfügbar.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben Version %1.</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Funktionen</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version überspringen</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Funktionen in Quillmark %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch nach Updates suchen</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragt einmal am Tag bei %1 nach, wenn Quillmark startet</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gesucht…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt suchen</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nie gesucht</translation>
     </message>
 </context>
 </TS>

@@ -111,9 +111,9 @@
     <name>quillmark::app::Dialogs</name>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n saved scan will be removed. This can’t be undone.</numerusform>
+            <numerusform>All %n saved scans will be removed. This can’t be undone.</numerusform>
         </translation>
     </message>
 </context>
@@ -122,9 +122,9 @@
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scan saved, %1 at most</numerusform>
+            <numerusform>%n scans saved, %1 at most</numerusform>
         </translation>
     </message>
 </context>
@@ -133,17 +133,17 @@
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 of %n capability</numerusform>
+            <numerusform>%1 of %n capabilities</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 percent, %2 of %n capability supported</numerusform>
+            <numerusform>%1 percent, %2 of %n capabilities supported</numerusform>
         </translation>
     </message>
 </context>
@@ -202,21 +202,21 @@
     <name>quillmark::app::OverviewPage</name>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n changed</numerusform>
             <numerusform>%n changed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n added</numerusform>
             <numerusform>%n added</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n removed</numerusform>
             <numerusform>%n removed</numerusform>
         </translation>
@@ -227,24 +227,24 @@
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section</numerusform>
+            <numerusform>%n sections</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n row in %1</numerusform>
+            <numerusform>%n rows in %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n row matches with another status.</numerusform>
+            <numerusform>%n rows match with other statuses.</numerusform>
         </translation>
     </message>
 </context>
@@ -252,30 +252,30 @@
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n supported</numerusform>
             <numerusform>%n supported</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n not supported</numerusform>
             <numerusform>%n not supported</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n warning</numerusform>
             <numerusform>%n warnings</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n info</numerusform>
+            <numerusform>%n info</numerusform>
         </translation>
     </message>
 </context>
@@ -284,9 +284,9 @@
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 of %n rated capability supported</numerusform>
+            <numerusform>%1 of %n rated capabilities supported</numerusform>
         </translation>
     </message>
 </context>

@@ -1265,15 +1265,15 @@
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Última búsqueda: hoy a las %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Última búsqueda: ayer a las %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Última búsqueda: %1</translation>
     </message>
 </context>
 <context>
@@ -1648,259 +1648,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, tarjeta gráfica, tarjeta de vídeo, 3d, juegos</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ia, ai, ml, aprendizaje automático, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>monitor, visualización</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo, códec</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>energía, batería</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>internet, en línea</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>protección</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre del ordenador, nombre de host, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>modelo</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, versión del sistema, macos, linux, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64 bits, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>encendido desde, reinicio, uptime</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>temperatura, calor, limitación, ventilador</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, hipervisor</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, chip, soc</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>núcleos de cpu</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>núcleos de cpu, hilos, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>velocidad de reloj, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, memoria principal</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, memoria de vídeo</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, herramientas de escritura, modelo de lenguaje</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ia, ai</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, frecuencia de actualización</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, brillo</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, gama</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles, hercios, hz, 4k, 5k, frecuencia de actualización</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, decodificación de vídeo, reproducción</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, codificación de vídeo</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, decodificación de vídeo, reproducción</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, codificación de vídeo</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, fotos, imágenes</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, cámara web, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>parlantes, sonido, audio</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>micro, sonido, audio</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>micro, permiso, privacidad</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, cámara web, permiso, privacidad</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, altavoces, auriculares</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, micrófono</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, sonido</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>frecuencia de muestreo, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>espacio en disco, tamaño del disco</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>espacio libre, espacio en disco, lleno</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, unidad, disco duro, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>partición, unidad</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>enchufado, corriente</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>cargador, fuente de alimentación, vatio</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>capacidad máxima, desgaste, envejecimiento</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>autonomía</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>ahorro de energía</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, inalámbrica, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, inalámbrica, wifi, recepción</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, inalámbrica, wifi, velocidad</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>dirección ip</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, encriptado, cifrado</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>encriptación, cifrado, cifrado de disco</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>huella dactilar, biometría</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, chip de seguridad</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, seguridad de arranque, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>virus, malware, antivirus</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>malware, notarización, firma de apps</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown</translation>
     </message>
 </context>
 <context>
@@ -2031,7 +2031,7 @@
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [s/N]</translation>
     </message>
 </context>
 <context>
@@ -2231,7 +2231,7 @@
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La respuesta de %1 no es un canal: no es XML o solo es una parte.</translation>
     </message>
 </context>
 <context>
@@ -2350,7 +2350,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Live Monitor</source>
-        <translation>Monitor en vivo</translation>
+        <translation>Monitor en directo</translation>
     </message>
     <message>
         <source>Previous Section</source>
@@ -2412,11 +2412,11 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copiar</translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar valor</translation>
     </message>
 </context>
 <context>
@@ -2424,12 +2424,12 @@ Todo lo que lee se queda en este ordenador.</translation>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2514,152 +2514,152 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished">No se ha podido guardar el historial.</translation>
+        <translation>No se ha podido guardar el historial.</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished">¿Borrar el historial?</translation>
+        <translation>¿Borrar el historial?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se eliminará %n análisis guardado. Esta acción no se puede deshacer.</numerusform>
+            <numerusform>Se eliminarán los %n análisis guardados. Esta acción no se puede deshacer.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished">Borrar historial</translation>
+        <translation>Borrar historial</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspeccionando este Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspeccionando este ordenador…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Descubre lo que este Mac puede hacer de verdad</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Descubre lo que este ordenador puede hacer de verdad</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las capacidades de tu hardware y tu sistema, con un estado claro.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>Once secciones, una puntuación</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde el procesador y los gráficos hasta los códecs, las pantallas y la seguridad.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guarda cada cambio</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compara dos análisis y mira qué ha cambiado una actualización.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>Tus datos se quedan aquí</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se envía nada sobre este Mac a ningún sitio. Quillmark solo se conecta para buscar sus propias actualizaciones.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se envía nada sobre este ordenador a ningún sitio. Quillmark solo se conecta para buscar sus propias actualizaciones.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones automáticamente</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pregunta a %1 como máximo una vez al día y solo le indica la versión de Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el monitor en directo en la barra de menús</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el monitor en directo en el área de estado</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>Al abrir Quillmark:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Privacidad:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el resumen</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la última pantalla utilizada</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en el Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en el gestor de archivos</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished">Borrar historial…</translation>
+        <translation>Borrar historial…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que Quillmark lee se queda en este Mac.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que Quillmark lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>La única conexión que hace es la búsqueda de actualizaciones.</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n análisis guardado, %1 como máximo</numerusform>
+            <numerusform>%n análisis guardados, %1 como máximo</numerusform>
         </translation>
     </message>
 </context>
@@ -2707,68 +2707,68 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">Puntuación de capacidades</translation>
+        <translation>Puntuación</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1, %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación de capacidades %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">%1 de memoria</translation>
+        <translation>%1 de memoria</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">%1 de almacenamiento</translation>
+        <translation>%1 de almacenamiento</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">Parte de las capacidades valoradas que este Mac admite</translation>
+        <translation>Parte de las capacidades evaluadas que ofrece este Mac</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">Parte de las capacidades valoradas que este ordenador admite</translation>
+        <translation>Parte de las capacidades evaluadas que ofrece este ordenador</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">Nada valorado</translation>
+        <translation>No hay nada evaluado</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 de %n capacidad</numerusform>
+            <numerusform>%1 de %n capacidades</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 por ciento, %2 de %n capacidad compatible</numerusform>
+            <numerusform>%1 por ciento, %2 de %n capacidades compatibles</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspeccionando este Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspeccionando este ordenador…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Está tardando más de lo habitual</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el hardware y los ajustes del sistema</translation>
     </message>
 </context>
 <context>
@@ -2946,19 +2946,19 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma de la interfaz:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplo:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma de la interfaz</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nuevo idioma se usa de inmediato. Los análisis guardados en otro idioma se pueden seguir comparando.</translation>
     </message>
 </context>
 <context>
@@ -2969,65 +2969,118 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Recopilando muestras…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Abrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Monitor en directo de Quillmark</translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation>Memoria en uso: %1</translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation>Carga del procesador: %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Monitor en directo de Quillmark</translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation>Cada segundo</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Recopilando muestras…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Abrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Ajustes…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de menús:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar junto al icono:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el monitor en directo en la barra de menús</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark permanece en la barra de menús hasta que lo cierres</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Área de estado:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el monitor en directo en el área de estado</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark permanece en el área de estado hasta que lo cierres</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este escritorio no tiene área de estado.</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga del procesador</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria en uso</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo el icono</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguir en ejecución al cerrar la ventana principal</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MonitorView</name>
     <message>
         <source>Live monitor</source>
-        <translation>Monitor en vivo</translation>
+        <translation>Monitor en directo</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
@@ -3125,174 +3178,174 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer análisis guardado</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Los análisis posteriores se comparan con él</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
-            <numerusform>%n cambiada</numerusform>
-            <numerusform>%n cambiadas</numerusform>
+        <translation>
+            <numerusform>%n cambiado</numerusform>
+            <numerusform>%n cambiados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
-            <numerusform>%n añadida</numerusform>
-            <numerusform>%n añadidas</numerusform>
+        <translation>
+            <numerusform>%n añadido</numerusform>
+            <numerusform>%n añadidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
-            <numerusform>%n eliminada</numerusform>
-            <numerusform>%n eliminadas</numerusform>
+        <translation>
+            <numerusform>%n eliminado</numerusform>
+            <numerusform>%n eliminados</numerusform>
         </translation>
     </message>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Desde %1</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">Sin diferencias</translation>
+        <translation>Sin diferencias</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished">Comparar análisis</translation>
+        <translation>Comparar análisis</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de “%1”</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sección</numerusform>
+            <numerusform>%n secciones</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila en %1</numerusform>
+            <numerusform>%n filas en %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Filtro: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>No coincide ninguna fila</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada contiene “%1”. Revisa la ortografía o prueba con una palabra más corta.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila que contenga “%1” tiene el estado “%2”.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila coincide con otro estado.</numerusform>
+            <numerusform>%n filas coinciden con otros estados.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished">Borrar búsqueda</translation>
+        <translation>Borrar búsqueda</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>No coincide ninguna fila</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila tiene aquí el estado “%1”.</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished">Capacidades</translation>
+        <translation>Capacidades</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todos los estados</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n compatible</numerusform>
             <numerusform>%n compatibles</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n no compatible</numerusform>
             <numerusform>%n no compatibles</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n advertencia</numerusform>
             <numerusform>%n advertencias</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n informativa</numerusform>
+            <numerusform>%n informativas</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspeccionando este Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspeccionando este ordenador…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta sección no hay nada evaluado</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 de %n capacidad evaluada compatible</numerusform>
+            <numerusform>%1 de %n capacidades evaluadas compatibles</numerusform>
         </translation>
     </message>
 </context>
@@ -3300,27 +3353,27 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizaciones</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de menús</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área de estado</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
 </context>
 <context>
@@ -3369,7 +3422,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation>Monitor en vivo</translation>
+        <translation>Monitor en directo</translation>
     </message>
 </context>
 <context>
@@ -3392,78 +3445,78 @@ Todo lo que lee se queda en este ordenador.</translation>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>¿Puede Quillmark preguntar a %1 si hay una versión más reciente?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Preguntar una vez al día</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>Preguntar solo esta vez</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido buscar actualizaciones.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 está disponible, una actualización importante.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 está disponible.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tienes la versión %1.</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Novedades</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir esta versión</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Novedades de Quillmark %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizaciones:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones automáticamente</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Pregunta a %1 una vez al día, al iniciar Quillmark</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar ahora</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Nunca se ha buscado</translation>
     </message>
 </context>
 </TS>

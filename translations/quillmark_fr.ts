@@ -1265,15 +1265,15 @@
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière recherche aujourd’hui à %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière recherche hier à %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière recherche le %1</translation>
     </message>
 </context>
 <context>
@@ -1648,259 +1648,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, carte graphique, carte vidéo, 3d, jeux</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ia, ai, ml, apprentissage automatique, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>moniteur, affichage</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>vidéo, codec</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>énergie, batterie</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>internet, en ligne</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>sûreté, protection</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>nom de l’ordinateur, nom d’hôte, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>modèle</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, version du système, macos, linux, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64 bits, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>allumé depuis, redémarrage, uptime</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>température, chaleur, bridage, ventilateur</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, hyperviseur</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, puce, soc</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>cœurs cpu, coeurs</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>cœurs cpu, coeurs, threads, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>cadence, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, mémoire vive</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, mémoire vidéo</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, outils d’écriture, modèle de langage</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ia, ai</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, taux de rafraîchissement</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, luminosité</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, gamut</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>pixels, hertz, hz, 4k, 5k, taux de rafraîchissement</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, décodage vidéo, lecture</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, encodage vidéo</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, décodage vidéo, lecture</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, encodage vidéo</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, photos, images</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>enceintes, son, audio</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>microphone, son, audio</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>microphone, autorisation, confidentialité</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, autorisation, confidentialité</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, enceintes, casque</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, microphone</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, son</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>fréquence d’échantillonnage, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>espace disque, taille du disque</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>espace libre, espace disque, plein</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, lecteur, disque dur, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>partition, lecteur</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>branché, secteur</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>chargeur, alimentation, watt</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>capacité maximale, usure, vieillissement</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>autonomie</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>économiseur d’énergie</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, sans fil, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, sans fil, wifi, réception</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, sans fil, wifi, vitesse</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>adresse ip</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, chiffré</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>chiffrement, chiffré, chiffrement du disque</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>empreinte digitale, biométrie</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, puce de sécurité</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, sécurité au démarrage, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>virus, logiciel malveillant, antivirus</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>logiciel malveillant, notarisation, signature des apps</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown</translation>
     </message>
 </context>
 <context>
@@ -2031,7 +2031,7 @@
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [o/N]</translation>
     </message>
 </context>
 <context>
@@ -2231,7 +2231,7 @@
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La réponse de %1 n’est pas un flux&#xa0;: ce n’est pas du XML, ou seulement une partie.</translation>
     </message>
 </context>
 <context>
@@ -2412,11 +2412,11 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copier</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la valeur</translation>
     </message>
 </context>
 <context>
@@ -2424,12 +2424,12 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1&#xa0;: %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2514,152 +2514,152 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished">L’historique n’a pas pu être enregistré.</translation>
+        <translation>L’historique n’a pas pu être enregistré.</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished">Effacer l’historique&#xa0;?</translation>
+        <translation>Effacer l’historique&#xa0;?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n analyse enregistrée sera supprimée. Cette action est irréversible.</numerusform>
+            <numerusform>Les %n analyses enregistrées seront supprimées. Cette action est irréversible.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished">Effacer l’historique</translation>
+        <translation>Effacer l’historique</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspection de ce Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspection de cet ordinateur…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Voyez ce que ce Mac sait vraiment faire</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Voyez ce que cet ordinateur sait vraiment faire</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque capacité de votre matériel et de votre système, avec un état clair.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>Onze sections, un score</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du processeur et du graphisme aux codecs, écrans et à la sécurité.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque changement est enregistré</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparez deux analyses et voyez ce qu’une mise à jour a changé.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos données restent ici</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien sur ce Mac n’est envoyé où que ce soit. Quillmark ne se connecte que pour rechercher ses propres mises à jour.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien sur cet ordinateur n’est envoyé où que ce soit. Quillmark ne se connecte que pour rechercher ses propres mises à jour.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher automatiquement les mises à jour</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Interroge %1 une fois par jour au plus, et ne lui indique que la version de Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le moniteur en direct dans la barre des menus</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le moniteur en direct dans la zone de notification</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’ouverture de Quillmark&#xa0;:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>Historique&#xa0;:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Confidentialité&#xa0;:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la vue d’ensemble</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le dernier écran utilisé</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans le Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished">Effacer l’historique…</translation>
+        <translation>Effacer l’historique…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce que Quillmark lit reste sur ce Mac.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce que Quillmark lit reste sur cet ordinateur.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>La seule connexion établie est la recherche de mises à jour.</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n analyse enregistrée, %1 au plus</numerusform>
+            <numerusform>%n analyses enregistrées, %1 au plus</numerusform>
         </translation>
     </message>
 </context>
@@ -2707,68 +2707,68 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">Score de capacités</translation>
+        <translation>Score de capacités</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1, %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Score de capacités %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">%1 de mémoire</translation>
+        <translation>%1 de mémoire</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">%1 de stockage</translation>
+        <translation>%1 de stockage</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">Part des capacités évaluées que ce Mac prend en charge</translation>
+        <translation>Part des capacités évaluées que ce Mac prend en charge</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">Part des capacités évaluées que cet ordinateur prend en charge</translation>
+        <translation>Part des capacités évaluées que cet ordinateur prend en charge</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">Rien n’est évalué</translation>
+        <translation>Rien n’est évalué</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 capacité sur %n</numerusform>
+            <numerusform>%1 capacités sur %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 pour cent, %2 capacité sur %n prise en charge</numerusform>
+            <numerusform>%1 pour cent, %2 capacités sur %n prises en charge</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspection de ce Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspection de cet ordinateur…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela prend plus de temps que d’habitude</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du matériel et des réglages système</translation>
     </message>
 </context>
 <context>
@@ -2946,19 +2946,19 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue de l’interface&#xa0;:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple&#xa0;:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue de l’interface</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>La nouvelle langue est utilisée immédiatement. Les analyses enregistrées dans une autre langue restent comparables.</translation>
     </message>
 </context>
 <context>
@@ -2969,58 +2969,111 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Collecte des mesures…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Ouvrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Moniteur en direct de Quillmark</translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation>Mémoire utilisée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation>Charge du processeur&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Moniteur en direct de Quillmark</translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation>Chaque seconde</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Collecte des mesures…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Ouvrir Quillmark</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Réglages…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre des menus&#xa0;:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher à côté de l’icône&#xa0;:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtre&#xa0;:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le moniteur en direct dans la barre des menus</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark reste dans la barre des menus jusqu’à ce que vous le quittiez</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone de notification&#xa0;:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le moniteur en direct dans la zone de notification</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark reste dans la zone de notification jusqu’à ce que vous le quittiez</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet environnement de bureau n’a pas de zone de notification.</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge du processeur</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire utilisée</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône seule</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuer lorsque la fenêtre principale est fermée</translation>
     </message>
 </context>
 <context>
@@ -3125,29 +3178,29 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Première analyse enregistrée</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Les analyses suivantes lui sont comparées</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n modifié</numerusform>
             <numerusform>%n modifiés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n ajouté</numerusform>
             <numerusform>%n ajoutés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n supprimé</numerusform>
             <numerusform>%n supprimés</numerusform>
         </translation>
@@ -3155,144 +3208,144 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Depuis %1</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">Aucune différence</translation>
+        <translation>Aucune différence</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished">Comparer les analyses</translation>
+        <translation>Comparer les analyses</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section</numerusform>
+            <numerusform>%n sections</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne dans %1</numerusform>
+            <numerusform>%n lignes dans %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Filtre&#xa0;: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne ne correspond</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne contient «&#xa0;%1&#xa0;». Vérifiez l’orthographe ou essayez un mot plus court.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne contenant «&#xa0;%1&#xa0;» n’a l’état «&#xa0;%2&#xa0;».</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne correspond avec un autre état.</numerusform>
+            <numerusform>%n lignes correspondent avec d’autres états.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished">Effacer la recherche</translation>
+        <translation>Effacer la recherche</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne ne correspond</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne n’a ici l’état «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished">Capacités</translation>
+        <translation>Capacités</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher tous les états</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n prise en charge</numerusform>
             <numerusform>%n prises en charge</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n non prise en charge</numerusform>
             <numerusform>%n non prises en charge</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n avertissement</numerusform>
             <numerusform>%n avertissements</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n info</numerusform>
+            <numerusform>%n infos</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspection de ce Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspection de cet ordinateur…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est évalué dans cette section</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 capacité évaluée sur %n prise en charge</numerusform>
+            <numerusform>%1 capacités évaluées sur %n prises en charge</numerusform>
         </translation>
     </message>
 </context>
@@ -3300,27 +3353,27 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Mises à jour</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre des menus</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone de notification</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
 </context>
 <context>
@@ -3392,78 +3445,78 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark peut-il demander à %1 s’il existe une version plus récente&#xa0;?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Demander une fois par jour</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>Demander cette fois seulement</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>La recherche de mises à jour a échoué.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 est disponible, une mise à jour importante.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 est disponible.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous avez la version %1.</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveautés</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer cette version</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveautés de Quillmark %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mises à jour&#xa0;:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>État&#xa0;:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher automatiquement les mises à jour</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Interroge %1 une fois par jour, au démarrage de Quillmark</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher maintenant</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Jamais recherché</translation>
     </message>
 </context>
 </TS>

@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -1231,49 +1231,49 @@
     <message>
         <source>%1, %2</source>
         <extracomment>%1: a day, %2: a time: &quot;12 November, 19:20&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Today, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oggi, %1</translation>
     </message>
     <message>
         <source>Yesterday, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ieri, %1</translation>
     </message>
     <message>
         <source>today, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>oggi, %1</translation>
     </message>
     <message>
         <source>yesterday, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and yesterday, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ieri, %1</translation>
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizzato oggi alle %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizzato ieri alle %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizzato il %1</translation>
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultima ricerca oggi alle %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultima ricerca ieri alle %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultima ricerca il %1</translation>
     </message>
 </context>
 <context>
@@ -1350,98 +1350,98 @@
         <source>Normal</source>
         <comment>pressure</comment>
         <extracomment>of the memory pressure</extracomment>
-        <translation type="unfinished">Normale</translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Elevated</source>
         <comment>pressure</comment>
-        <translation type="unfinished"></translation>
+        <translation>Elevata</translation>
     </message>
     <message>
         <source>Critical</source>
         <comment>pressure</comment>
-        <translation type="unfinished">Critico</translation>
+        <translation>Critica</translation>
     </message>
     <message>
         <source>No limits on performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun limite alle prestazioni</translation>
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Leggermente caldo, nessun limite</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestazioni ridotte</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestazioni fortemente ridotte</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 per cento, tra %2 e %3 per cento negli ultimi 2 minuti</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n core, al %1 per cento</numerusform>
+            <numerusform>%n core, il più occupato al %1 per cento</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2 in uso, %3 per cento. Pressione %4 per cento, %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricevuti %1, inviati %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row of the menu: what it is, and its figure</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 (%3)</source>
         <extracomment>A row of the menu: what it is, its figure and a remark on it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">Processore</translation>
+        <translation>Processore</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">Memoria</translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">%1 di %2</translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">Pressione</translation>
+        <translation>Pressione</translation>
     </message>
     <message>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">Stato termico</translation>
+        <translation>Stato termico</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Rete</translation>
+        <translation>Rete</translation>
     </message>
 </context>
 <context>
     <name>Question</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -1648,259 +1648,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, scheda grafica, scheda video, 3d, giochi</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ia, ai, ml, apprendimento automatico, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>schermo, monitor</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>video, codec</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>energia, batteria</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>internet, online</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>protezione</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>nome del computer, nome host, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>modello</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, versione del sistema, macos, linux, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>acceso da, riavvio, uptime</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>temperatura, calore, throttling, ventola</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, hypervisor</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, chip, soc</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>core cpu</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>core cpu, thread, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>velocità di clock, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, memoria principale</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, memoria video</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, strumenti di scrittura, modello linguistico</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ia, ai</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, frequenza di aggiornamento</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, luminosità</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, gamut</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>pixel, hertz, hz, 4k, 5k, frequenza di aggiornamento</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, decodifica video, riproduzione</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, codifica video</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, decodifica video, riproduzione</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, codifica video</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, foto, immagini</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>casse, suono, audio</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>mic, suono, audio</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>mic, autorizzazione, privacy</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, autorizzazione, privacy</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, altoparlanti, cuffie</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, microfono</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, suono</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>frequenza di campionamento, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>spazio su disco, dimensione del disco</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>spazio libero, spazio su disco, pieno</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, unità, disco rigido, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>partizione, unità</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>collegato, corrente</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>caricabatterie, alimentatore, watt</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>capacità massima, usura, invecchiamento</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>autonomia, durata</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>risparmio energetico</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, wireless, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, wireless, wifi, ricezione</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, wireless, wifi, velocità</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>indirizzo ip</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, codificato, crittografato</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>crittografia, codificato, codifica del disco</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>impronta digitale, biometria</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, chip di sicurezza</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, sicurezza di avvio, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>virus, malware, antivirus</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>malware, autenticazione, firma delle app</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown</translation>
     </message>
 </context>
 <context>
@@ -1998,40 +1998,40 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Download: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Download: %1</translation>
     </message>
     <message>
         <source>Release notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Note di rilascio: %1</translation>
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark non ha inviato alcuna richiesta.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished">Stato</translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Indirizzo</translation>
+        <translation>Indirizzo</translation>
     </message>
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [s/N]</translation>
     </message>
 </context>
 <context>
@@ -2153,268 +2153,270 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile raggiungere %1: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha potuto dimostrare di essere %1: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non ha risposto in tempo.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>La risposta di %1 è più lunga di quanto possa essere un feed.</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 rimanda a un altro indirizzo, che non è stato seguito: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha risposto con lo stato %2 invece che con un feed.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation type="unfinished"></translation>
+        <translation>La risposta di %1 non è un feed: dichiara un tipo di documento.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation type="unfinished"></translation>
+        <translation>La risposta di %1 non è un feed: è un altro tipo di XML.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation type="unfinished"></translation>
+        <translation>La risposta di %1 non è un feed: contiene più di qualsiasi feed.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark può chiedere a %1 se ci sono versioni più recenti, ora e al massimo una volta al giorno all’apertura della finestra?</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La richiesta contiene la versione di Quillmark e nulla su di te o su questo computer. Non viene installato nulla.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 è disponibile; hai scelto di saltare questa versione. Hai la versione %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 è disponibile, un aggiornamento importante. Hai la versione %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 è disponibile. Hai la versione %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 è aggiornato.</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark non è riuscito a verificare se esiste una versione più recente.</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è stato interrogato perché non hai dato il consenso.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’indirizzo del feed degli aggiornamenti non è https: %1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non è stato interrogato perché il registro delle richieste non può essere scritto.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La risposta di %1 non è un feed: non è XML o ne è solo una parte.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::AboutDialog</name>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Quillmark</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione %1</translation>
     </message>
     <message>
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ti dice cosa può fare davvero il tuo Mac.
+Tutto ciò che legge resta su questo Mac.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ti dice cosa può fare davvero il tuo computer.
+Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenze</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica aggiornamenti</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Actions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Quillmark</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica aggiornamenti…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
     <message>
         <source>Inspect Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizza di nuovo</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta…</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi finestra</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia come testo</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona tutto</translation>
     </message>
     <message>
         <source>Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova…</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Panoramica</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato batteria</translation>
     </message>
     <message>
         <source>Live Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor dal vivo</translation>
     </message>
     <message>
         <source>Previous Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezione precedente</translation>
     </message>
     <message>
         <source>Next Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezione successiva</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Nascondi barra laterale</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>A tutto schermo</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrai</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Ridimensiona</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta tutto in primo piano</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto Quillmark</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished"></translation>
+        <translation>Novità</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">Salute della batteria</translation>
+        <translation>Stato della batteria</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia valore</translation>
     </message>
 </context>
 <context>
@@ -2422,27 +2424,27 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation type="unfinished">2 min</translation>
+        <translation>2&#xa0;min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished">1 min</translation>
+        <translation>1&#xa0;min</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished">Ora</translation>
+        <translation>Ora</translation>
     </message>
 </context>
 <context>
@@ -2450,214 +2452,214 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Modificato: %1, da %2 a %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunto: %1, %2</translation>
     </message>
     <message>
         <source>Removed: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimosso: %1, %2</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
         <extracomment>A line of text: label, value before, value now</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 → %3</translation>
     </message>
     <message>
         <source>%1: added, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: aggiunto, %2</translation>
     </message>
     <message>
         <source>%1: removed, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: rimosso, %2</translation>
     </message>
     <message>
         <source>%1: %2 · %3 · %4 · %5</source>
         <extracomment>The head of a comparison: &quot;Older: 12 November 2025, 19:20 · Nora’s Mac · macOS 26.1 · 82%&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 · %3 · %4 · %5</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenze</translation>
     </message>
     <message>
         <source>score</source>
         <extracomment>Below a figure: the capability score</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>punteggio</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n riga</numerusform>
+            <numerusform>%1, %n righe</numerusform>
         </translation>
     </message>
     <message>
         <source>All changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le modifiche</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare la cronologia.</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellare la cronologia?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scansione salvata sarà rimossa. L’operazione non può essere annullata.</numerusform>
+            <numerusform>Tutte le %n scansioni salvate saranno rimosse. L’operazione non può essere annullata.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella cronologia</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi di questo Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi di questo computer…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Scopri cosa può fare davvero questo Mac</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Scopri cosa può fare davvero questo computer</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni capacità del tuo hardware e del tuo sistema, con uno stato chiaro.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>Undici sezioni, un punteggio</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dal processore e dalla grafica ai codec, ai monitor e alla sicurezza.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni modifica viene salvata</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronta due scansioni qualsiasi e guarda cosa ha cambiato un aggiornamento.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>I tuoi dati restano qui</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla su questo Mac viene inviato altrove. Quillmark va online solo per cercare i propri aggiornamenti.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla su questo computer viene inviato altrove. Quillmark va online solo per cercare i propri aggiornamenti.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica automaticamente gli aggiornamenti</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Interroga %1 al massimo una volta al giorno e comunica solo la versione di Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il monitor dal vivo nella barra dei menu</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il monitor dal vivo nell’area di stato</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizia</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>All’apertura di Quillmark:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Privacy:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra la panoramica</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’ultima schermata usata</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra nel Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra nel gestore di file</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella cronologia…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto ciò che Quillmark legge resta su questo Mac.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto ciò che Quillmark legge resta su questo computer.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’unica connessione è la verifica degli aggiornamenti.</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scansione salvata, al massimo %1</numerusform>
+            <numerusform>%n scansioni salvate, al massimo %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2665,168 +2667,168 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::Header</name>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiato</translation>
     </message>
     <message>
         <source>Search capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca nelle capacità</translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella ricerca</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Inspect again</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizza di nuovo</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia come testo</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta…</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Menu (F10)</source>
         <extracomment>Tool tip of the button that opens the menus, with its key</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Menu (F10)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">Punteggio delle capacità</translation>
+        <translation>Punteggio delle capacità</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Punteggio delle capacità %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">%1 di memoria</translation>
+        <translation>%1 di memoria</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">%1 di archiviazione</translation>
+        <translation>%1 di archiviazione</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">Parte delle capacità valutate che questo Mac supporta</translation>
+        <translation>Quota di capacità valutate che questo Mac supporta</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">Parte delle capacità valutate che questo computer supporta</translation>
+        <translation>Quota di capacità valutate che questo computer supporta</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">Nulla di valutato</translation>
+        <translation>Nulla è valutato</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 di %n capacità</numerusform>
+            <numerusform>%1 di %n capacità</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 per cento, %2 di %n capacità supportata</numerusform>
+            <numerusform>%1 per cento, %2 di %n capacità supportate</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi di questo Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi di questo computer…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Sta richiedendo più tempo del solito</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura di hardware e impostazioni di sistema</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryDelegate</name>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryModel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Oggi</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Ieri</translation>
     </message>
     <message>
         <source>This month</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo mese</translation>
     </message>
     <message>
         <source>Other Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro Mac</translation>
     </message>
     <message>
         <source>Other computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro computer</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
         <extracomment>A saved scan for screen readers: date, system, counts of three statuses, what it changed</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3, %4, %5, %6</translation>
     </message>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n supportata</numerusform>
+            <numerusform>%n supportate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non supportata</numerusform>
+            <numerusform>%n non supportate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n avviso</numerusform>
+            <numerusform>%n avvisi</numerusform>
         </translation>
     </message>
 </context>
@@ -2834,102 +2836,102 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::HistoryView</name>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronta scansioni</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una scansione viene salvata ogni volta che qualcosa è cambiato. Le 200 più recenti restano su questo Mac.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una scansione viene salvata ogni volta che qualcosa è cambiato. Le 200 più recenti restano su questo computer.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark salva una scansione ogni volta che un’analisi trova qualcosa di nuovo. Analizza questo Mac per salvare la prima.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark salva una scansione ogni volta che un’analisi trova qualcosa di nuovo. Analizza questo computer per salvare la prima.</translation>
     </message>
     <message>
         <source>Inspect now</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizza ora</translation>
     </message>
     <message>
         <source>Saved scans</source>
-        <translation type="unfinished"></translation>
+        <translation>Scansioni salvate</translation>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla selezione</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronta</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella cronologia…</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scansione salvata</numerusform>
+            <numerusform>%n scansioni salvate</numerusform>
         </translation>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation type="unfinished"></translation>
+        <translation>1 scansione selezionata · scegline un’altra</translation>
     </message>
     <message>
         <source>2 scans selected</source>
-        <translation type="unfinished"></translation>
+        <translation>2 scansioni selezionate</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 e %2</translation>
     </message>
     <message>
         <source>Delete this scan?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare questa scansione?</translation>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scansione del %1 sarà rimossa dalla cronologia.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellare la cronologia?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scansione salvata sarà rimossa. L’operazione non può essere annullata.</numerusform>
+            <numerusform>Tutte le %n scansioni salvate saranno rimosse. L’operazione non può essere annullata.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella cronologia</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare la cronologia.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un’altra copia di Quillmark la sta usando. Le scansioni fatte qui vengono conservate finché non termina.</translation>
     </message>
 </context>
 <context>
@@ -2937,215 +2939,268 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1 (%2)</source>
         <extracomment>Tool tip of a button: its name and its shortcut, &quot;Inspect again (Ctrl+R)&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua dell’interfaccia:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Esempio:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua dell’interfaccia</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>La nuova lingua viene usata subito. Le scansioni salvate in un’altra lingua si possono ancora confrontare.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LicencesDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenze</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBar</name>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Raccolta dei campioni…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Apri Quillmark</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarLabel</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Monitor dal vivo di Quillmark</translation>
+    </message>
+    <message>
+        <source>Memory used: %1</source>
+        <translation>Memoria in uso: %1</translation>
+    </message>
+    <message>
+        <source>Processor load: %1</source>
+        <translation>Carico del processore: %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::MenuBarMonitorView</name>
+    <message>
+        <source>Quillmark live monitor</source>
+        <translation>Monitor dal vivo di Quillmark</translation>
+    </message>
+    <message>
+        <source>Every second</source>
+        <translation>Ogni secondo</translation>
+    </message>
+    <message>
+        <source>Collecting samples…</source>
+        <translation>Raccolta dei campioni…</translation>
+    </message>
+    <message>
+        <source>Open Quillmark</source>
+        <translation>Apri Quillmark</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Impostazioni…</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei menu:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra accanto all’icona:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il monitor dal vivo nella barra dei menu</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark resta nella barra dei menu finché non esci</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Area di stato:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il monitor dal vivo nell’area di stato</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark resta nell’area di stato finché non esci</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo desktop non ha un’area di stato.</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>Carico del processore</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria in uso</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo l’icona</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Continua quando la finestra principale è chiusa</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MonitorView</name>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">Monitor dal vivo</translation>
+        <translation>Monitor dal vivo</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished">Aggiornato ogni secondo · ultimi 2 minuti</translation>
+        <translation>Aggiornato ogni secondo · ultimi 2 minuti</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">Raccolta dei campioni…</translation>
+        <translation>Raccolta dei campioni…</translation>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>La prima lettura arriva tra circa un secondo.</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">Processore</translation>
+        <translation>Processore</translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished">Per core</translation>
+        <translation>Per core</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">Memoria</translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Rete</translation>
+        <translation>Rete</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">Stato termico</translation>
+        <translation>Stato termico</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished">Swap in uso</translation>
+        <translation>Swap in uso</translation>
     </message>
     <message>
         <source>All interfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le interfacce</translation>
     </message>
     <message>
         <source>On the start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Sul volume di avvio</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n core</numerusform>
+            <numerusform>%n core</numerusform>
         </translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">di %1</translation>
+        <translation>di %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished">In uso</translation>
+        <translation>In uso</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">Pressione</translation>
+        <translation>Pressione</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished">In entrata</translation>
+        <translation>Ricevuti</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished">In uscita</translation>
+        <translation>Inviati</translation>
     </message>
     <message>
         <source>Power adapter connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentatore collegato</translation>
     </message>
     <message>
         <source>Not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Non in carica</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::NoticeBar</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::OverviewPage</name>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Panoramica</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima scansione salvata</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Le scansioni successive si confrontano con questa</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n modificata</numerusform>
             <numerusform>%n modificate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n aggiunta</numerusform>
             <numerusform>%n aggiunte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n rimossa</numerusform>
             <numerusform>%n rimosse</numerusform>
         </translation>
@@ -3153,144 +3208,144 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Da %1</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">Nessuna differenza</translation>
+        <translation>Nessuna differenza</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronta scansioni</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultati per “%1”</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sezione</numerusform>
+            <numerusform>%n sezioni</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riga in %1</numerusform>
+            <numerusform>%n righe in %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Filtro: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga corrisponde</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla contiene “%1”. Controlla l’ortografia o prova una parola più corta.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga che contiene “%1” ha lo stato “%2”.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riga corrisponde con un altro stato.</numerusform>
+            <numerusform>%n righe corrispondono con altri stati.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella ricerca</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga corrisponde</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga qui ha lo stato “%1”.</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutti gli stati</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n supportata</numerusform>
+            <numerusform>%n supportate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non supportata</numerusform>
+            <numerusform>%n non supportate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n avviso</numerusform>
+            <numerusform>%n avvisi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n informazione</numerusform>
+            <numerusform>%n informazioni</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi di questo Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi di questo computer…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>In questa sezione nulla è valutato</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 di %n capacità valutata supportata</numerusform>
+            <numerusform>%1 di %n capacità valutate supportate</numerusform>
         </translation>
     </message>
 </context>
@@ -3298,76 +3353,76 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Generali</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamenti</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei menu</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Area di stato</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Sidebar</name>
     <message>
         <source>Inspecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi…</translation>
     </message>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra laterale</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafici in tempo reale di CPU, memoria, temperatura, batteria e rete</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n avviso</numerusform>
+            <numerusform>%1, %n avvisi</numerusform>
         </translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Panoramica</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Strumenti</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">Salute della batteria</translation>
+        <translation>Stato della batteria</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">Monitor dal vivo</translation>
+        <translation>Monitor dal vivo</translation>
     </message>
 </context>
 <context>
@@ -3375,14 +3430,14 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n riga</numerusform>
+            <numerusform>%1, %n righe</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto</translation>
     </message>
 </context>
 <context>
@@ -3390,78 +3445,78 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark può chiedere a %1 se esiste una versione più recente?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiedi una volta al giorno</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiedi solo stavolta</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile verificare gli aggiornamenti.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 è disponibile, un aggiornamento importante.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 è disponibile.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hai la versione %1.</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Novità</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>Salta questa versione</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarica…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Novità di Quillmark %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamenti:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica automaticamente gli aggiornamenti</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Interroga %1 una volta al giorno, all’avvio di Quillmark</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica ora</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Mai verificato</translation>
     </message>
 </context>
 </TS>
