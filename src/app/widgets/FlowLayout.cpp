@@ -52,7 +52,7 @@ int FlowLayout::heightForWidth(int width) const
 
 QSize FlowLayout::sizeHint() const
 {
-    QSize size;
+    QSize size(0, 0);
     int items = 0;
     for (const auto &item : m_items) {
         if (item->isEmpty())
@@ -66,7 +66,7 @@ QSize FlowLayout::sizeHint() const
 
 QSize FlowLayout::minimumSize() const
 {
-    QSize size;
+    QSize size(0, 0);
     for (const auto &item : m_items)
         size = size.expandedTo(item->minimumSize());
     return size;
