@@ -10,7 +10,6 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPointer>
-#include <QTextLayout>
 #include <QWidget>
 
 #include <algorithm>
@@ -193,30 +192,6 @@ void drawTabular(QPainter &painter, const QRectF &rectangle, Qt::Alignment align
 qreal tabularWidth(const QFont &font, const QString &text)
 {
     return widthOf(pieces(QFontMetricsF(font), text));
-}
-
-QStringList wrappedLines(const QFont &font, const QString &text, qreal width, int most)
-{
-    const QFontMetricsF metrics(font);
-    if (most <= 1 || metrics.horizontalAdvance(text) <= width)
-        return {metrics.elidedText(text, Qt::ElideRight, width)};
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QStringList lines;
-    while (lines.size() < most) {
-        auto line = layout.createLine();
-        if (!line.isValid())
-            break;
-        line.setLineWidth(width);
-        const bool isLast = lines.size() + 1 == most;
-        const auto part = text.mid(line.textStart(), isLast ? -1 : line.textLength()).trimmed();
-        lines += isLast ? metrics.elidedText(part, Qt::ElideRight, width) : part;
-    }
-    layout.endLayout();
-    return lines;
 }
 
 QRectF placed(const QRectF &rectangle, const QRectF &bounds, Qt::LayoutDirection direction)

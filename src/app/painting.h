@@ -8,7 +8,6 @@
 #include <QColor>
 #include <QRectF>
 #include <QString>
-#include <QStringList>
 #include <Qt>
 
 class QFont;
@@ -54,10 +53,6 @@ void paintHairline(QPainter &painter, qreal x1, qreal x2, qreal y, const QColor 
 /// and changing ones do not jump.
 void drawTabular(QPainter &painter, const QRectF &rectangle, Qt::Alignment alignment, const QString &text);
 qreal tabularWidth(const QFont &font, const QString &text);
-
-/// The text in at most so many lines of that width. The last one ends with an ellipsis where there would be
-/// more.
-QStringList wrappedLines(const QFont &font, const QString &text, qreal width, int most);
 
 /// The rectangle where it stands in a layout of this direction: mirrored within `bounds` from right to left.
 QRectF placed(const QRectF &rectangle, const QRectF &bounds, Qt::LayoutDirection direction);

@@ -7,6 +7,7 @@
 #include "app/Appearance.h"
 #include "app/painting.h"
 #include "history/ScanHistory.h"
+#include "history/snapshotJson.h"
 #include "inspection/Quillmark.h"
 #include "language/LanguageManager.h"
 #include "monitor/LiveMonitor.h"
@@ -14,6 +15,7 @@
 #include "settings/Settings.h"
 #include "support/Recordings.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <chrono>
@@ -35,8 +37,10 @@ public:
 class AppStage
 {
 public:
-    explicit AppStage(const QByteArray &recording)
+    /// The scans are those that were saved before, newest first.
+    explicit AppStage(const QByteArray &recording, const QList<history::ScanSnapshot> &scans = {})
         : machine(machineFrom(recording))
+        , history(language, saved(scans))
     {
         app::watchFocus();
         app::Appearance::current();
@@ -49,7 +53,7 @@ public:
     std::unique_ptr<platform::Machine> machine;
     settings::Settings settings{folder.filePath(QStringLiteral("settings.conf"))};
     language::LanguageManager language{{QStringLiteral("en")}};
-    history::ScanHistory history{language, folder.filePath(QStringLiteral("snapshots.json"))};
+    history::ScanHistory history;
     monitor::LiveMonitor monitor{*machine, std::chrono::milliseconds(5)};
     TestPasteboard pasteboard;
     inspection::Quillmark inspection{
@@ -59,6 +63,21 @@ public:
                                        inspection.summary().value_or(inspection::DeviceSummary()), sections});
         }};
     app::AppContext context{*machine, settings, language, inspection, history, monitor};
+
+    QString historyFile() const { return folder.filePath(QStringLiteral("snapshots.json")); }
+
+private:
+    QString saved(const QList<history::ScanSnapshot> &scans) const
+    {
+        QByteArrayList texts;
+        for (const auto &scan : scans)
+            texts += history::encoded(scan);
+        QFile file(historyFile());
+        if (!scans.isEmpty() &&
+            (!file.open(QIODevice::WriteOnly) || file.write('[' + texts.join(',') + ']') < 0))
+            qFatal("%s", qPrintable(file.errorString()));
+        return historyFile();
+    }
 };
 
 } // namespace quillmark::support

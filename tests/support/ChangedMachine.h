@@ -20,6 +20,7 @@ public:
     const platform::Counters *otherCounters = nullptr;
     const platform::Registry *otherRegistry = nullptr;
     const platform::Network *otherNetwork = nullptr;
+    const platform::Power *otherPower = nullptr;
 
     const platform::KernelValues &kernelValues() const override
     {
@@ -33,7 +34,7 @@ public:
     {
         return otherCounters ? *otherCounters : m_machine.counters();
     }
-    const platform::Power &power() const override { return m_machine.power(); }
+    const platform::Power &power() const override { return otherPower ? *otherPower : m_machine.power(); }
     const platform::Registry &registry() const override
     {
         return otherRegistry ? *otherRegistry : m_machine.registry();

@@ -138,15 +138,11 @@ private:
         painter.drawText(QPointF(left + numberWidth + 1, base), sign);
 
         const auto font = appearance.font(TextRole::Small);
-        const qreal height = QFontMetricsF(font).height();
         const auto inside = QRectF(rect()).adjusted(appearance.scaled(24), 0, -appearance.scaled(24), 0);
         painter.setFont(font);
         painter.setPen(appearance.color(Role::Text2));
-        qreal top = base + appearance.scaled(10);
-        for (const auto &line : wrappedLines(font, m_caption, inside.width(), 2)) {
-            painter.drawText(QRectF(inside.left(), top, inside.width(), height), Qt::AlignCenter, line);
-            top += height;
-        }
+        painter.drawText(QRectF(inside.left(), base + appearance.scaled(10), inside.width(), inside.height()),
+                         Qt::AlignHCenter | Qt::TextWordWrap, m_caption);
     }
 
     std::optional<int> m_percent;

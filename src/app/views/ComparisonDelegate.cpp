@@ -4,6 +4,7 @@
 #include "app/views/ComparisonDelegate.h"
 
 #include "app/Appearance.h"
+#include "app/WrappedText.h"
 #include "app/models/ComparisonModel.h"
 #include "app/painting.h"
 #include "design/Theme.h"
@@ -15,6 +16,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <memory>
 
 namespace quillmark::app {
 
@@ -31,6 +33,7 @@ constexpr int rowHeight = 44;
 constexpr int padding = 16;
 constexpr int gap = 12;
 constexpr int markSize = 15;
+constexpr int markGap = 8;
 constexpr int arrowSize = 14;
 constexpr int separatorLeft = 44;
 constexpr int lineGap = 4;
@@ -69,11 +72,13 @@ QFont valueFont()
     return Appearance::current().font(TextRole::Body);
 }
 
-/// One of the two values: where it stands, and its lines.
+using TextPointer = std::unique_ptr<WrappedText>;
+
+/// One of the two values.
 struct Side
 {
     QRectF place;
-    QStringList lines; ///< empty: there is no such side
+    TextPointer text; ///< none: there is no such side
     CapabilityStatus status = CapabilityStatus::Info;
 };
 
@@ -82,17 +87,12 @@ struct Layout
 {
     QRectF word;
     QRectF label;
-    QStringList labelLines;
+    TextPointer labelText;
     Side before;
     Side now;
     QRectF arrow; ///< empty: none
     qreal height = 0;
 };
-
-qreal heightOf(const QFont &font, const QStringList &lines)
-{
-    return QFontMetricsF(font).height() * static_cast<qreal>(std::max<qsizetype>(1, lines.size()));
-}
 
 /// As wide as the longest of the three words.
 qreal wordColumn()
@@ -124,29 +124,24 @@ public:
     }
 
 private:
-    QStringList lines(int role, qreal width) const
-    {
-        const auto value = m_index.data(role);
-        if (!value.isValid())
-            return {};
-        const qreal mark = Appearance::current().scaled(markSize) + 8;
-        auto texts = wrappedLines(valueFont(), value.toString(), width - mark, mostLines);
-        std::ranges::transform(texts, texts.begin(), isolated);
-        return texts;
-    }
-
     Side side(int valueRole, int statusRole, qreal left, qreal width) const
     {
-        const auto texts = lines(valueRole, width);
-        return {{left, 0, width, heightOf(valueFont(), texts)},
-                texts,
-                m_index.data(statusRole).value<CapabilityStatus>()};
+        Side side{.place = {left, 0, width, QFontMetricsF(valueFont()).height()}};
+        const auto value = m_index.data(valueRole);
+        if (!value.isValid())
+            return side;
+        const qreal mark = Appearance::current().scaled(markSize) + markGap;
+        side.text = std::make_unique<WrappedText>(value.toString(), valueFont(), width - mark, mostLines);
+        side.place.setHeight(side.text->height());
+        side.status = m_index.data(statusRole).value<CapabilityStatus>();
+        return side;
     }
 
     void setLabel(Layout &layout, qreal left, qreal width) const
     {
-        layout.labelLines = wrappedLines(labelFont(), m_index.data().toString(), width, mostLines);
-        layout.label = {left, 0, width, heightOf(labelFont(), layout.labelLines)};
+        layout.labelText =
+            std::make_unique<WrappedText>(m_index.data().toString(), labelFont(), width, mostLines);
+        layout.label = {left, 0, width, layout.labelText->height()};
     }
 
     Layout sideBySide() const
@@ -210,7 +205,7 @@ private:
         if (m_isChanged)
             layout.arrow = {values, layout.now.place.top() + (lineHeight - arrow) / 2, arrow, arrow};
         else // only one of them is there
-            (layout.now.lines.isEmpty() ? layout.now : layout.before).place = {};
+            (!layout.now.text ? layout.now : layout.before).place = {};
         return layout;
     }
 
@@ -235,15 +230,17 @@ public:
         return placed(place.translated(m_row.topLeft()), m_row, m_direction);
     }
 
-    void text(const QRectF &place, const QStringList &lines, const QFont &font, Role color)
+    /// A single line.
+    void text(const QRectF &place, const QString &words, const QFont &font, Role color)
     {
         m_painter.setFont(font);
         m_painter.setPen(Appearance::current().color(color));
-        const qreal height = QFontMetricsF(font).height();
-        for (qsizetype line = 0; line < lines.size(); ++line)
-            m_painter.drawText(
-                at({place.left(), place.top() + static_cast<qreal>(line) * height, place.width(), height}),
-                Qt::AlignLeft | Qt::AlignVCenter, lines[line]);
+        m_painter.drawText(at(place), Qt::AlignLeft | Qt::AlignVCenter, words);
+    }
+
+    void text(const QRectF &place, const WrappedText &words, Role color)
+    {
+        words.draw(m_painter, at(place).topLeft(), m_direction, Appearance::current().color(color));
     }
 
     void mark(const QRectF &place, const QString &symbol, Role color, int size)
@@ -257,15 +254,15 @@ public:
     {
         if (side.place.isEmpty())
             return;
-        if (side.lines.isEmpty()) {
-            text(side.place, {u"–"_s}, valueFont(), Role::Text3);
+        if (!side.text) {
+            text(side.place, u"–"_s, valueFont(), Role::Text3);
             return;
         }
         const auto style = design::statusStyle(side.status);
         const qreal line = QFontMetricsF(valueFont()).height();
         mark({side.place.left(), side.place.top(), 0, line}, style.symbol, style.mark, markSize);
-        text(side.place.adjusted(Appearance::current().scaled(markSize) + 8, 0, 0, 0), side.lines,
-             valueFont(), color);
+        text(side.place.adjusted(Appearance::current().scaled(markSize) + markGap, 0, 0, 0), *side.text,
+             color);
     }
 
 private:
@@ -290,7 +287,7 @@ void paintHeading(QPainter &painter, const QStyleOptionViewItem &option, const Q
     const qreal countWidth = tabularWidth(appearance.font(TextRole::Small), count);
     const auto shown = metrics.elidedText(title, Qt::ElideRight, row.width() - left - countWidth - 10);
     const qreal width = metrics.horizontalAdvance(shown) + 1;
-    paint.text({left, top + (line - metrics.height()) / 2, width, metrics.height()}, {shown},
+    paint.text({left, top + (line - metrics.height()) / 2, width, metrics.height()}, shown,
                appearance.font(TextRole::Body, QFont::DemiBold), Role::Text);
     painter.setFont(appearance.font(TextRole::Small));
     painter.setPen(appearance.color(Role::Text3));
@@ -318,8 +315,8 @@ void paintChange(QPainter &painter, const QStyleOptionViewItem &option, const QM
     const qreal wordHeight = QFontMetricsF(wordFont).height();
     paint.text({layout.word.left() + appearance.scaled(markSize) + 7,
                 layout.word.center().y() - wordHeight / 2, layout.word.width(), wordHeight},
-               {title(kind)}, wordFont, style.word);
-    paint.text(layout.label, layout.labelLines, labelFont(), Role::Text);
+               title(kind), wordFont, style.word);
+    paint.text(layout.label, *layout.labelText, Role::Text);
     paint.side(layout.before, Role::Text2);
     if (!layout.arrow.isEmpty())
         paint.mark(layout.arrow, option.direction == Qt::RightToLeft ? u"arrow.left"_s : u"arrow.right"_s,
@@ -357,10 +354,8 @@ bool ComparisonDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
     if (event->type() != QEvent::ToolTip || index.data(ComparisonModel::HeadingRole).toBool())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const auto layout = Arranger(option.rect.width(), index).arrange();
-    const auto isCut = [](const QStringList &lines) {
-        return !lines.isEmpty() && lines.last().contains(u'…');
-    };
-    const bool anyIsCut = isCut(layout.labelLines) || isCut(layout.before.lines) || isCut(layout.now.lines);
+    const auto isCut = [](const TextPointer &text) { return text && text->isElided(); };
+    const bool anyIsCut = isCut(layout.labelText) || isCut(layout.before.text) || isCut(layout.now.text);
     QToolTip::showText(event->globalPos(),
                        anyIsCut ? index.data(ComparisonModel::TextRole).toString() : QString(), view);
     return true;

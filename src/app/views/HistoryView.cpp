@@ -20,8 +20,8 @@
 #include "language/LanguageManager.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
@@ -120,6 +120,7 @@ HistoryView::HistoryView(const AppContext &context, QWidget *parent)
         m_model->tick({});
         m_list->setFocus(Qt::OtherFocusReason);
     });
+    connect(&Appearance::current(), &Appearance::changed, this, &HistoryView::updateSelection);
     connect(&m_context.history, &history::ScanHistory::saveFailed, this, &HistoryView::tellFailure);
     setUp();
 }
@@ -143,7 +144,7 @@ void HistoryView::copy()
 {
     if (!canCopy())
         return;
-    QGuiApplication::clipboard()->setText(m_comparison->currentText());
+    QApplication::clipboard()->setText(m_comparison->currentText());
     Q_EMIT copied();
 }
 
@@ -151,7 +152,7 @@ bool HistoryView::copyAsText()
 {
     if (!isComparing())
         return false;
-    QGuiApplication::clipboard()->setText(m_comparison->text());
+    QApplication::clipboard()->setText(m_comparison->text());
     return true;
 }
 
@@ -300,7 +301,9 @@ void HistoryView::showComparison(bool isShown)
 {
     if (isShown == isComparing())
         return;
-    const bool hadFocus = isAncestorOf(focusWidget());
+    const auto *focus = QApplication::focusWidget();
+    const bool hadFocus = isAncestorOf(focus);
+    const auto reason = hadFocus && hasKeyboardFocus(*focus) ? Qt::TabFocusReason : Qt::OtherFocusReason;
     if (isShown)
         m_listPosition = verticalScrollBar()->value();
     m_scans->setHidden(isShown);
@@ -310,7 +313,7 @@ void HistoryView::showComparison(bool isShown)
     widget()->layout()->activate();
     verticalScrollBar()->setValue(isShown ? 0 : m_listPosition);
     if (hadFocus)
-        firstStop()->setFocus(Qt::OtherFocusReason);
+        firstStop()->setFocus(reason);
 }
 
 void HistoryView::askToDelete(const QModelIndex &index)
