@@ -105,6 +105,105 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation type="unfinished">Wird geladen</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation type="unfinished">Voll</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation type="unfinished">Batteriebetrieb</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation type="unfinished">Angeschlossen, lädt nicht</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation type="unfinished">Im Finder zeigen</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation type="unfinished">In der Dateiverwaltung zeigen</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1217,6 +1316,14 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (schwach)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1274,6 +1381,27 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Zuletzt am %1 gesucht</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2402,10 +2530,69 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation type="unfinished">Ladestand</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation type="unfinished">Ladezyklen</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
         <translation>Batteriezustand</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation type="unfinished">Ladezyklen</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2513,23 +2700,56 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation>Der Verlauf konnte nicht gesichert werden.</translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
         <translation>Verlauf löschen?</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n gesicherte Untersuchung wird entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
-            <numerusform>Alle %n gesicherten Untersuchungen werden entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
-        </translation>
     </message>
     <message>
         <source>Clear history</source>
         <translation>Verlauf löschen</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
+        <translation type="unfinished">
+            <numerusform>%n gesicherte Untersuchung wird entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
+            <numerusform>Alle %n gesicherten Untersuchungen werden entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export inspection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished">Exportieren…</translation>
     </message>
 </context>
 <context>
@@ -2631,14 +2851,6 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
         <translation>Zuletzt benutzte Ansicht anzeigen</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Im Finder zeigen</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>In der Dateiverwaltung zeigen</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Verlauf löschen…</translation>
     </message>
@@ -2655,11 +2867,11 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
         <translation>Die einzige Verbindung ist die Suche nach Updates.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation>
-            <numerusform>%n Untersuchung gesichert, höchstens %1</numerusform>
-            <numerusform>%n Untersuchungen gesichert, höchstens %1</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>
@@ -3220,6 +3432,21 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3444,7 +3671,7 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
         <translation>Darf Quillmark bei %1 fragen, ob es eine neuere Version gibt?</translation>
     </message>
     <message>

@@ -105,6 +105,105 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation type="unfinished">充電中</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation type="unfinished">満充電</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation type="unfinished">バッテリーで動作中</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation type="unfinished">接続中、充電していません</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation type="unfinished">Finderに表示</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation type="unfinished">ファイルマネージャに表示</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1212,6 +1311,14 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1 dBm（弱い）</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1269,6 +1376,24 @@
     <message>
         <source>Last checked on %1</source>
         <translation>最終確認: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2391,10 +2516,69 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation type="unfinished">充電量</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation type="unfinished">充放電回数</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
         <translation>バッテリーの状態</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation type="unfinished">充放電回数</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2501,22 +2685,53 @@ Everything it reads stays on this computer.</source>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation>スキャン履歴を保存できませんでした。</translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
         <translation>スキャン履歴を消去しますか？</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>保存済みのスキャン%n件がすべて削除されます。この操作は取り消せません。</numerusform>
-        </translation>
     </message>
     <message>
         <source>Clear history</source>
         <translation>履歴を消去</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
+        <translation type="unfinished">
+            <numerusform>保存済みのスキャン%n件がすべて削除されます。この操作は取り消せません。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export inspection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">キャンセル</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished">書き出す…</translation>
     </message>
 </context>
 <context>
@@ -2618,14 +2833,6 @@ Everything it reads stays on this computer.</source>
         <translation>最後に使用した画面を表示</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Finderに表示</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>ファイルマネージャに表示</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>履歴を消去…</translation>
     </message>
@@ -2642,10 +2849,10 @@ Everything it reads stays on this computer.</source>
         <translation>行う接続はアップデートの確認だけです。</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation>
-            <numerusform>%n件のスキャンを保存済み、最大%1件</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>
@@ -3195,6 +3402,21 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3409,7 +3631,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
         <translation>新しいバージョンがあるかどうか、Quillmarkが%1に問い合わせてもよいですか？</translation>
     </message>
     <message>

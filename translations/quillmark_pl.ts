@@ -105,6 +105,105 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation type="unfinished">Ładowanie</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation type="unfinished">Pełna</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation type="unfinished">Na baterii</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation type="unfinished">Podłączona, nie ładuje się</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation type="unfinished">Pokaż w Finderze</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation type="unfinished">Pokaż w menedżerze plików</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1222,6 +1321,14 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (słaby)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1279,6 +1386,30 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Ostatnio szukano %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2413,10 +2544,69 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation type="unfinished">Poziom naładowania</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation type="unfinished">Liczba cykli</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
         <translation>Kondycja baterii</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation type="unfinished">Liczba cykli</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2525,24 +2715,59 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation>Nie udało się zachować historii.</translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
         <translation>Wyczyścić historię?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Wyczyść historię</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
+        <translation type="unfinished">
             <numerusform>%n zachowane sprawdzenie zostanie usunięte. Tego nie można cofnąć.</numerusform>
             <numerusform>Wszystkie %n zachowane sprawdzenia zostaną usunięte. Tego nie można cofnąć.</numerusform>
             <numerusform>Wszystkie %n zachowanych sprawdzeń zostanie usuniętych. Tego nie można cofnąć.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Wyczyść historię</translation>
+        <source>Export inspection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Anuluj</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished">Eksportuj…</translation>
     </message>
 </context>
 <context>
@@ -2644,14 +2869,6 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
         <translation>Pokaż ostatnio używany ekran</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Pokaż w Finderze</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>Pokaż w menedżerze plików</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Wyczyść historię…</translation>
     </message>
@@ -2668,12 +2885,12 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
         <translation>Jedyne nawiązywane połączenie to szukanie uaktualnień.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation>
-            <numerusform>Zachowano %n sprawdzenie, najwyżej %1</numerusform>
-            <numerusform>Zachowano %n sprawdzenia, najwyżej %1</numerusform>
-            <numerusform>Zachowano %n sprawdzeń, najwyżej %1</numerusform>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>
@@ -3245,6 +3462,21 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3479,7 +3711,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
         <translation>Czy Quillmark może zapytać %1, czy istnieje nowsza wersja?</translation>
     </message>
     <message>

