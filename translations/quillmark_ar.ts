@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يُشحن، يكتمل خلال %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">قيد الشحن</translation>
+        <translation>قيد الشحن</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">مكتملة</translation>
+        <translation>مكتملة</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>على البطارية، يتبقى %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">على البطارية</translation>
+        <translation>على البطارية</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">متصلة، لا تُشحن</translation>
+        <translation>متصلة، لا تُشحن</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>مصممة لعدد %1 من الدورات</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>الطبيعي: من ١٠ إلى ٤٥&#xa0;°م</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>وفق ما أبلغ به النظام</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُبلغ عن صحة البطارية</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>صحة البطارية %1 بالمئة، %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير PDF</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>نص عادي</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>صفحات مصممة، جاهزة للطباعة أو الإرسال</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>كل القيم، للبرامج النصية والأدوات</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>جداول للملاحظات ومواقع الويكي والتذاكر</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>النص نفسه كما في نسخ كنص</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">إظهار في Finder</translation>
+        <translation>إظهار في Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">إظهار في مدير الملفات</translation>
+        <translation>إظهار في مدير الملفات</translation>
     </message>
 </context>
 <context>
@@ -1338,11 +1338,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;واط ساعة</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;ملي أمبير ساعة</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>حالة الشحن</translation>
     </message>
 </context>
 <context>
@@ -1404,35 +1409,35 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا أقسام، فُحصت اليوم في %1.</numerusform>
+            <numerusform>قسم واحد، فُحص اليوم في %1.</numerusform>
+            <numerusform>قسمان، فُحصا اليوم في %1.</numerusform>
+            <numerusform>%n أقسام، فُحصت اليوم في %1.</numerusform>
+            <numerusform>%n قسمًا، فُحصت اليوم في %1.</numerusform>
+            <numerusform>%n قسم، فُحصت اليوم في %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا أقسام، فُحصت أمس في %1.</numerusform>
+            <numerusform>قسم واحد، فُحص أمس في %1.</numerusform>
+            <numerusform>قسمان، فُحصا أمس في %1.</numerusform>
+            <numerusform>%n أقسام، فُحصت أمس في %1.</numerusform>
+            <numerusform>%n قسمًا، فُحصت أمس في %1.</numerusform>
+            <numerusform>%n قسم، فُحصت أمس في %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا أقسام، فُحصت في %1.</numerusform>
+            <numerusform>قسم واحد، فُحص في %1.</numerusform>
+            <numerusform>قسمان، فُحصا في %1.</numerusform>
+            <numerusform>%n أقسام، فُحصت في %1.</numerusform>
+            <numerusform>%n قسمًا، فُحصت في %1.</numerusform>
+            <numerusform>%n قسم، فُحصت في %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -2589,31 +2594,31 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>من السعة التصميمية</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>السعة الحالية</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>السعة التصميمية</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">الشحن</translation>
+        <translation>الشحن</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">عدد الدورات</translation>
+        <translation>عدد الدورات</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة الحرارة</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>الوضع</translation>
     </message>
 </context>
 <context>
@@ -2624,31 +2629,31 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>الصحة</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>السعة الحالية كنسبة من السعة التصميمية. ٨٠٪ أو أكثر جيد.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">عدد الدورات</translation>
+        <translation>عدد الدورات</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>الدورة الواحدة هي تفريغ كامل، حتى لو توزع على عدة أيام.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة الحرارة</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>الحرارة تُهرم البطارية أسرع من الاستخدام. أبعدها عن الشمس.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>قُرئت اليوم في %1. الأرقام من وحدة تحكم البطارية نفسها وقد تختلف قليلًا بين القراءات.</translation>
     </message>
 </context>
 <context>
@@ -2769,7 +2774,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>لا توجد فحوص محفوظة لإزالتها.</numerusform>
             <numerusform>سيُزال الفحص المحفوظ الوحيد. لا يمكن التراجع عن هذا.</numerusform>
             <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن هذا.</numerusform>
@@ -2783,45 +2788,45 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا صفحات، US Letter</numerusform>
+            <numerusform>صفحة واحدة، US Letter</numerusform>
+            <numerusform>صفحتان، US Letter</numerusform>
+            <numerusform>%n صفحات، US Letter</numerusform>
+            <numerusform>%n صفحة، US Letter</numerusform>
+            <numerusform>%n صفحة، US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا صفحات، A4</numerusform>
+            <numerusform>صفحة واحدة، A4</numerusform>
+            <numerusform>صفحتان، A4</numerusform>
+            <numerusform>%n صفحات، A4</numerusform>
+            <numerusform>%n صفحة، A4</numerusform>
+            <numerusform>%n صفحة، A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير الفحص</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف الأسماء والعناوين</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>معاينة</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">إلغاء</translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">تصدير…</translation>
+        <translation>تصدير…</translation>
     </message>
 </context>
 <context>
@@ -2941,13 +2946,13 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا فحوص محفوظة، %1 كحد أقصى</numerusform>
+            <numerusform>فحص واحد محفوظ، %1 كحد أقصى</numerusform>
+            <numerusform>فحصان محفوظان، %1 كحد أقصى</numerusform>
+            <numerusform>%n فحوص محفوظة، %1 كحد أقصى</numerusform>
+            <numerusform>%n فحصًا محفوظًا، %1 كحد أقصى</numerusform>
+            <numerusform>%n فحص محفوظ، %1 كحد أقصى</numerusform>
         </translation>
     </message>
 </context>
@@ -3555,15 +3560,15 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير الفحص</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ التقرير.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار مكان آخر…</translation>
     </message>
 </context>
 <context>

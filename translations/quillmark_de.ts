@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geladen, voll in %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">Wird geladen</translation>
+        <translation>Wird geladen</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">Voll</translation>
+        <translation>Voll</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteriebetrieb, noch %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">Batteriebetrieb</translation>
+        <translation>Batteriebetrieb</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">Angeschlossen, lädt nicht</translation>
+        <translation>Angeschlossen, lädt nicht</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelegt für %1 Zyklen</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal: 10 bis 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom System gemeldet</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteriezustand nicht gemeldet</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Batteriezustand %1 Prozent, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Bericht</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiner Text</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestaltete Seiten, bereit zum Drucken oder Senden</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Werte, für Skripte und Werkzeuge</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen für Notizen, Wikis und Tickets</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Derselbe Text wie bei „Als Text kopieren“</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Im Finder zeigen</translation>
+        <translation>Im Finder zeigen</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">In der Dateiverwaltung zeigen</translation>
+        <translation>In der Dateiverwaltung zeigen</translation>
     </message>
 </context>
 <context>
@@ -1318,11 +1318,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Ladevorgang</translation>
     </message>
 </context>
 <context>
@@ -1384,23 +1389,23 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Abschnitt, heute um %1 untersucht.</numerusform>
+            <numerusform>Alle %n Abschnitte, heute um %1 untersucht.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Abschnitt, gestern um %1 untersucht.</numerusform>
+            <numerusform>Alle %n Abschnitte, gestern um %1 untersucht.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Abschnitt, am %1 untersucht.</numerusform>
+            <numerusform>Alle %n Abschnitte, am %1 untersucht.</numerusform>
         </translation>
     </message>
 </context>
@@ -2533,31 +2538,31 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>der Nennkapazität</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Kapazität</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Nennkapazität</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">Ladestand</translation>
+        <translation>Ladestand</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Ladezyklen</translation>
+        <translation>Ladezyklen</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
 </context>
 <context>
@@ -2568,31 +2573,31 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Kapazität als Anteil der Nennkapazität. 80&#xa0;% oder mehr sind gut.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Ladezyklen</translation>
+        <translation>Ladezyklen</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zyklus ist eine volle Entladung, auch wenn sie sich über mehrere Tage verteilt.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hitze lässt eine Batterie schneller altern als Benutzung. Halten Sie sie von der Sonne fern.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Heute um %1 gelesen. Die Werte stammen vom Controller der Batterie selbst und können von Mal zu Mal leicht abweichen.</translation>
     </message>
 </context>
 <context>
@@ -2709,7 +2714,7 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n gesicherte Untersuchung wird entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
             <numerusform>Alle %n gesicherten Untersuchungen werden entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
         </translation>
@@ -2719,37 +2724,37 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Seite, US Letter</numerusform>
+            <numerusform>%n Seiten, US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Seite, A4</numerusform>
+            <numerusform>%n Seiten, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Untersuchung exportieren</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen und Adressen auslassen</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">Exportieren…</translation>
+        <translation>Exportieren…</translation>
     </message>
 </context>
 <context>
@@ -2869,9 +2874,9 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Untersuchung gesichert, höchstens %1</numerusform>
+            <numerusform>%n Untersuchungen gesichert, höchstens %1</numerusform>
         </translation>
     </message>
 </context>
@@ -3435,15 +3440,15 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Untersuchung exportieren</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht gesichert.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderen Ort wählen…</translation>
     </message>
 </context>
 <context>

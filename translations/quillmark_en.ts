@@ -46,23 +46,23 @@
     <name>Moment</name>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section, as inspected today at %1.</numerusform>
+            <numerusform>All %n sections, as inspected today at %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section, as inspected yesterday at %1.</numerusform>
+            <numerusform>All %n sections, as inspected yesterday at %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section, as inspected on %1.</numerusform>
+            <numerusform>All %n sections, as inspected on %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -135,7 +135,7 @@
     <name>quillmark::app::Dialogs</name>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n saved scan will be removed. This can’t be undone.</numerusform>
             <numerusform>All %n saved scans will be removed. This can’t be undone.</numerusform>
         </translation>
@@ -145,16 +145,16 @@
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n page, US Letter</numerusform>
+            <numerusform>%n pages, US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n page, A4</numerusform>
+            <numerusform>%n pages, A4</numerusform>
         </translation>
     </message>
 </context>
@@ -163,9 +163,9 @@
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scan saved, %1 at most</numerusform>
+            <numerusform>%n scans saved, %1 at most</numerusform>
         </translation>
     </message>
 </context>

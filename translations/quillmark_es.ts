@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando, completa en %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">Cargando</translation>
+        <translation>Cargando</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">Completa</translation>
+        <translation>Completa</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Con batería, quedan %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">Con batería</translation>
+        <translation>Con batería</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">Conectada, sin cargar</translation>
+        <translation>Conectada, sin cargar</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Prevista para %1 ciclos</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal: de 10 a 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicado por el sistema</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Salud de la batería no indicada</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salud de la batería %1 por ciento, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe PDF</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto sin formato</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas diseñadas, listas para imprimir o enviar</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los valores, para scripts y herramientas</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas para notas, wikis e incidencias</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>El mismo texto que Copiar como texto</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Mostrar en el Finder</translation>
+        <translation>Mostrar en el Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">Mostrar en el gestor de archivos</translation>
+        <translation>Mostrar en el gestor de archivos</translation>
     </message>
 </context>
 <context>
@@ -1318,11 +1318,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Estado de carga</translation>
     </message>
 </context>
 <context>
@@ -1384,23 +1389,23 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sección, inspeccionada hoy a las %1.</numerusform>
+            <numerusform>Las %n secciones, inspeccionadas hoy a las %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sección, inspeccionada ayer a las %1.</numerusform>
+            <numerusform>Las %n secciones, inspeccionadas ayer a las %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sección, inspeccionada el %1.</numerusform>
+            <numerusform>Las %n secciones, inspeccionadas el %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -2533,31 +2538,31 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>de la capacidad de diseño</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad actual</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad de diseño</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">Carga</translation>
+        <translation>Carga</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Número de ciclos</translation>
+        <translation>Número de ciclos</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
 </context>
 <context>
@@ -2568,31 +2573,31 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salud</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad actual como parte de la capacidad de diseño. Un 80&#xa0;% o más es bueno.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Número de ciclos</translation>
+        <translation>Número de ciclos</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ciclo es una descarga completa, aunque se reparta en varios días.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>El calor envejece una batería más rápido que el uso. Mantenla lejos del sol.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leído hoy a las %1. Las cifras proceden del controlador de la propia batería y pueden variar ligeramente entre lecturas.</translation>
     </message>
 </context>
 <context>
@@ -2709,7 +2714,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>Se eliminará %n análisis guardado. Esta acción no se puede deshacer.</numerusform>
             <numerusform>Se eliminarán los %n análisis guardados. Esta acción no se puede deshacer.</numerusform>
         </translation>
@@ -2719,37 +2724,37 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n página, carta de EE. UU.</numerusform>
+            <numerusform>%n páginas, carta de EE. UU.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n página, A4</numerusform>
+            <numerusform>%n páginas, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la inspección</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir nombres y direcciones</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">Exportar…</translation>
+        <translation>Exportar…</translation>
     </message>
 </context>
 <context>
@@ -2869,9 +2874,9 @@ Todo lo que lee se queda en este ordenador.</translation>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n análisis guardado, %1 como máximo</numerusform>
+            <numerusform>%n análisis guardados, %1 como máximo</numerusform>
         </translation>
     </message>
 </context>
@@ -3435,15 +3440,15 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la inspección</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe guardado.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir otra ubicación…</translation>
     </message>
 </context>
 <context>

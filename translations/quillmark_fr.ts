@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En charge, pleine dans %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">En charge</translation>
+        <translation>En charge</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">Pleine</translation>
+        <translation>Pleine</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur batterie, %1 restantes</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">Sur batterie</translation>
+        <translation>Sur batterie</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">Branchée, ne se charge pas</translation>
+        <translation>Branchée, ne se charge pas</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Prévue pour %1 cycles</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal&#xa0;: 10 à 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiqué par le système</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>État de la batterie non communiqué</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>État de la batterie %1 pour cent, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport PDF</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte brut</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages mises en forme, prêtes à imprimer ou à envoyer</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les valeurs, pour scripts et outils</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux pour notes, wikis et tickets</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Le même texte que Copier comme texte</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Afficher dans le Finder</translation>
+        <translation>Afficher dans le Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">Afficher dans le gestionnaire de fichiers</translation>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
     </message>
 </context>
 <context>
@@ -1318,11 +1318,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>État de charge</translation>
     </message>
 </context>
 <context>
@@ -1384,23 +1389,23 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section, inspectée aujourd’hui à %1.</numerusform>
+            <numerusform>Les %n sections, inspectées aujourd’hui à %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section, inspectée hier à %1.</numerusform>
+            <numerusform>Les %n sections, inspectées hier à %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n section, inspectée le %1.</numerusform>
+            <numerusform>Les %n sections, inspectées le %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -2533,31 +2538,31 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>de la capacité d’origine</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité actuelle</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité d’origine</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">Charge</translation>
+        <translation>Charge</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Nombre de cycles</translation>
+        <translation>Nombre de cycles</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Température</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Condition</translation>
     </message>
 </context>
 <context>
@@ -2568,31 +2573,31 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité actuelle par rapport à la capacité d’origine. 80&#xa0;% ou plus est une bonne valeur.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Nombre de cycles</translation>
+        <translation>Nombre de cycles</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cycle est une décharge complète, même répartie sur plusieurs jours.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Température</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaleur vieillit une batterie plus vite que l’usage. Gardez-la à l’abri du soleil.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lu aujourd’hui à %1. Les chiffres viennent du contrôleur de la batterie et peuvent varier légèrement d’une lecture à l’autre.</translation>
     </message>
 </context>
 <context>
@@ -2709,7 +2714,7 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n analyse enregistrée sera supprimée. Cette action est irréversible.</numerusform>
             <numerusform>Les %n analyses enregistrées seront supprimées. Cette action est irréversible.</numerusform>
         </translation>
@@ -2719,37 +2724,37 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n page, US Letter</numerusform>
+            <numerusform>%n pages, US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n page, A4</numerusform>
+            <numerusform>%n pages, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter l’inspection</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Omettre les noms et les adresses</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">Exporter…</translation>
+        <translation>Exporter…</translation>
     </message>
 </context>
 <context>
@@ -2869,9 +2874,9 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n analyse enregistrée, %1 au plus</numerusform>
+            <numerusform>%n analyses enregistrées, %1 au plus</numerusform>
         </translation>
     </message>
 </context>
@@ -3435,15 +3440,15 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter l’inspection</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport enregistré.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un autre emplacement…</translation>
     </message>
 </context>
 <context>

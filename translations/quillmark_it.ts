@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In carica, piena tra %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">In carica</translation>
+        <translation>In carica</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">Carica</translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>A batteria, restano %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">A batteria</translation>
+        <translation>A batteria</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">Collegata, non in carica</translation>
+        <translation>Collegata, non in carica</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Prevista per %1 cicli</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale: da 10 a 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicato dal sistema</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato della batteria non indicato</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Stato della batteria %1 per cento, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>Report PDF</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo semplice</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine impaginate, pronte da stampare o inviare</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i valori, per script e strumenti</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle per note, wiki e segnalazioni</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo stesso testo di Copia come testo</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Mostra nel Finder</translation>
+        <translation>Mostra nel Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">Mostra nel gestore di file</translation>
+        <translation>Mostra nel gestore di file</translation>
     </message>
 </context>
 <context>
@@ -1318,11 +1318,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Stato di carica</translation>
     </message>
 </context>
 <context>
@@ -1384,23 +1389,23 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sezione, analizzata oggi alle %1.</numerusform>
+            <numerusform>Tutte le %n sezioni, analizzate oggi alle %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sezione, analizzata ieri alle %1.</numerusform>
+            <numerusform>Tutte le %n sezioni, analizzate ieri alle %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sezione, analizzata il %1.</numerusform>
+            <numerusform>Tutte le %n sezioni, analizzate il %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -2533,31 +2538,31 @@ Tutto ciò che legge resta su questo computer.</translation>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>della capacità di progetto</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità attuale</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità di progetto</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">Carica</translation>
+        <translation>Carica</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Numero di cicli</translation>
+        <translation>Numero di cicli</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Condizione</translation>
     </message>
 </context>
 <context>
@@ -2568,31 +2573,31 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità attuale come quota di quella di progetto. 80% o più è un buon valore.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Numero di cicli</translation>
+        <translation>Numero di cicli</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ciclo è una scarica completa, anche se distribuita su più giorni.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il calore invecchia una batteria più in fretta dell’uso. Tienila lontana dal sole.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Letto oggi alle %1. I valori vengono dal controller della batteria e possono variare leggermente tra una lettura e l’altra.</translation>
     </message>
 </context>
 <context>
@@ -2709,7 +2714,7 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n scansione salvata sarà rimossa. L’operazione non può essere annullata.</numerusform>
             <numerusform>Tutte le %n scansioni salvate saranno rimosse. L’operazione non può essere annullata.</numerusform>
         </translation>
@@ -2719,37 +2724,37 @@ Tutto ciò che legge resta su questo computer.</translation>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n pagina, US Letter</numerusform>
+            <numerusform>%n pagine, US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n pagina, A4</numerusform>
+            <numerusform>%n pagine, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta analisi</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Ometti nomi e indirizzi</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annulla</translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">Esporta…</translation>
+        <translation>Esporta…</translation>
     </message>
 </context>
 <context>
@@ -2869,9 +2874,9 @@ Tutto ciò che legge resta su questo computer.</translation>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scansione salvata, al massimo %1</numerusform>
+            <numerusform>%n scansioni salvate, al massimo %1</numerusform>
         </translation>
     </message>
 </context>
@@ -3435,15 +3440,15 @@ Tutto ciò che legge resta su questo computer.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta analisi</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Report salvato.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un’altra posizione…</translation>
     </message>
 </context>
 <context>

@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>充電中、満充電まで%1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">充電中</translation>
+        <translation>充電中</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">満充電</translation>
+        <translation>満充電</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー使用中、残り%1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">バッテリーで動作中</translation>
+        <translation>バッテリーで動作中</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">接続中、充電していません</translation>
+        <translation>接続中、充電していません</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>定格%1サイクル</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>正常: 10〜45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>システムの報告</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの状態は報告されていません</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの状態%1パーセント、%2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>PDFレポート</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>標準テキスト</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷や送付にすぐ使えるデザイン済みのページ</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプトやツール向けのすべての値</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>メモ、Wiki、課題管理向けの表</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>「テキストとしてコピー」と同じテキスト</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Finderに表示</translation>
+        <translation>Finderに表示</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">ファイルマネージャに表示</translation>
+        <translation>ファイルマネージャに表示</translation>
     </message>
 </context>
 <context>
@@ -1313,11 +1313,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>充電の状態</translation>
     </message>
 </context>
 <context>
@@ -1379,20 +1384,20 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>今日%1に検査した全%nセクション。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>昨日%1に検査した全%nセクション。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1に検査した全%nセクション。</numerusform>
         </translation>
     </message>
 </context>
@@ -2519,31 +2524,31 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>設計容量に対する割合</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の容量</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>設計容量</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">充電量</translation>
+        <translation>充電量</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">充放電回数</translation>
+        <translation>充放電回数</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
 </context>
 <context>
@@ -2554,31 +2559,31 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>設計容量に対する現在の容量の割合です。80%以上なら良好です。</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">充放電回数</translation>
+        <translation>充放電回数</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>1サイクルは1回分の完全な放電です。数日に分かれていても同じです。</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>熱は使用よりも早くバッテリーを劣化させます。直射日光を避けてください。</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>今日%1に読み取りました。値はバッテリー自身のコントローラによるもので、読み取るたびにわずかに異なることがあります。</translation>
     </message>
 </context>
 <context>
@@ -2694,7 +2699,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>保存済みのスキャン%n件がすべて削除されます。この操作は取り消せません。</numerusform>
         </translation>
     </message>
@@ -2703,35 +2708,35 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nページ、USレター</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nページ、A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>検査結果を書き出す</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>名前とアドレスを除く</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">キャンセル</translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">書き出す…</translation>
+        <translation>書き出す…</translation>
     </message>
 </context>
 <context>
@@ -2851,8 +2856,8 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件のスキャンを保存済み、最大%1件</numerusform>
         </translation>
     </message>
 </context>
@@ -3405,15 +3410,15 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>検査結果を書き出す</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートを保存しました。</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>別の場所を選択…</translation>
     </message>
 </context>
 <context>

@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>충전 중, 완료까지 %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">충전 중</translation>
+        <translation>충전 중</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">완충됨</translation>
+        <translation>완충됨</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>배터리 사용 중, %1 남음</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">배터리 사용 중</translation>
+        <translation>배터리 사용 중</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">연결됨, 충전 중 아님</translation>
+        <translation>연결됨, 충전 중 아님</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>정격 %1사이클</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>정상: 10&#xa0;45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템 보고</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>배터리 상태가 보고되지 않음</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>배터리 상태 %1퍼센트, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF 보고서</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>일반 텍스트</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄하거나 보낼 수 있도록 디자인된 페이지</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>스크립트와 도구를 위한 모든 값</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>메모, 위키, 이슈를 위한 표</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>‘텍스트로 복사’와 같은 텍스트</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Finder에서 보기</translation>
+        <translation>Finder에서 보기</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">파일 관리자에서 보기</translation>
+        <translation>파일 관리자에서 보기</translation>
     </message>
 </context>
 <context>
@@ -1313,11 +1313,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>충전 상태</translation>
     </message>
 </context>
 <context>
@@ -1379,20 +1384,20 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>오늘 %1에 검사한 섹션 %n개 모두.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>어제 %1에 검사한 섹션 %n개 모두.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1에 검사한 섹션 %n개 모두.</numerusform>
         </translation>
     </message>
 </context>
@@ -2519,31 +2524,31 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>설계 용량 대비</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 용량</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>설계 용량</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">충전량</translation>
+        <translation>충전량</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">사이클 수</translation>
+        <translation>사이클 수</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>온도</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>상태</translation>
     </message>
 </context>
 <context>
@@ -2554,31 +2559,31 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>상태</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>설계 용량 대비 현재 용량입니다. 80% 이상이면 양호합니다.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">사이클 수</translation>
+        <translation>사이클 수</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>한 사이클은 여러 날에 걸치더라도 한 번의 완전한 방전입니다.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>온도</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>열은 사용보다 더 빨리 배터리를 노화시킵니다. 직사광선을 피하십시오.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>오늘 %1에 읽음. 값은 배터리 자체 컨트롤러에서 나오며 읽을 때마다 조금씩 다를 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -2694,7 +2699,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>저장된 검사 %n개가 모두 제거됩니다. 이 동작은 실행 취소할 수 없습니다.</numerusform>
         </translation>
     </message>
@@ -2703,35 +2708,35 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n페이지, US 레터</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n페이지, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 결과 내보내기</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 및 주소 제외</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>미리보기</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">내보내기…</translation>
+        <translation>내보내기…</translation>
     </message>
 </context>
 <context>
@@ -2851,8 +2856,8 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>검사 %n개 저장됨, 최대 %1개</numerusform>
         </translation>
     </message>
 </context>
@@ -3405,15 +3410,15 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 결과 내보내기</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>보고서를 저장했습니다.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 위치 선택…</translation>
     </message>
 </context>
 <context>

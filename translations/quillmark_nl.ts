@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laadt op, vol over %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">Wordt opgeladen</translation>
+        <translation>Wordt opgeladen</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">Vol</translation>
+        <translation>Vol</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Op batterij, nog %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">Op batterij</translation>
+        <translation>Op batterij</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">Aangesloten, laadt niet op</translation>
+        <translation>Aangesloten, laadt niet op</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedoeld voor %1 cycli</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>Normaal: 10 tot 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemeld door het systeem</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterijconditie niet gemeld</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Batterijconditie %1 procent, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>Pdf-rapport</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>Platte tekst</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>Opgemaakte pagina’s, klaar om af te drukken of te versturen</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle waarden, voor scripts en hulpmiddelen</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen voor notities, wiki’s en meldingen</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezelfde tekst als Kopieer als tekst</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Toon in Finder</translation>
+        <translation>Toon in Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">Toon in bestandsbeheer</translation>
+        <translation>Toon in bestandsbeheer</translation>
     </message>
 </context>
 <context>
@@ -1318,11 +1318,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Laadstatus</translation>
     </message>
 </context>
 <context>
@@ -1384,23 +1389,23 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n gedeelte, vandaag om %1 onderzocht.</numerusform>
+            <numerusform>Alle %n gedeelten, vandaag om %1 onderzocht.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n gedeelte, gisteren om %1 onderzocht.</numerusform>
+            <numerusform>Alle %n gedeelten, gisteren om %1 onderzocht.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n gedeelte, onderzocht op %1.</numerusform>
+            <numerusform>Alle %n gedeelten, onderzocht op %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -2533,31 +2538,31 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>van de ontwerpcapaciteit</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Huidige capaciteit</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontwerpcapaciteit</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">Lading</translation>
+        <translation>Lading</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Aantal cycli</translation>
+        <translation>Aantal cycli</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatuur</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Toestand</translation>
     </message>
 </context>
 <context>
@@ -2568,31 +2573,31 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Conditie</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Huidige capaciteit als deel van de ontwerpcapaciteit. 80% of meer is goed.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Aantal cycli</translation>
+        <translation>Aantal cycli</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eén cyclus is een volledige ontlading, ook als die over meerdere dagen is verdeeld.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatuur</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>Warmte veroudert een batterij sneller dan gebruik. Houd hem uit de zon.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vandaag om %1 gelezen. De cijfers komen van de controller van de batterij zelf en kunnen per meting iets verschillen.</translation>
     </message>
 </context>
 <context>
@@ -2709,7 +2714,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n bewaarde scan wordt verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
             <numerusform>Alle %n bewaarde scans worden verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
         </translation>
@@ -2719,37 +2724,37 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n pagina, US Letter</numerusform>
+            <numerusform>%n pagina’s, US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n pagina, A4</numerusform>
+            <numerusform>%n pagina’s, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporteer onderzoek</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Laat namen en adressen weg</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorvertoning</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuleer</translation>
+        <translation>Annuleer</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">Exporteer…</translation>
+        <translation>Exporteer…</translation>
     </message>
 </context>
 <context>
@@ -2869,9 +2874,9 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scan bewaard, hooguit %1</numerusform>
+            <numerusform>%n scans bewaard, hooguit %1</numerusform>
         </translation>
     </message>
 </context>
@@ -3435,15 +3440,15 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporteer onderzoek</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport bewaard.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kies een andere locatie…</translation>
     </message>
 </context>
 <context>

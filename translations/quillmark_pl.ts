@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ładowanie, pełna za %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">Ładowanie</translation>
+        <translation>Ładowanie</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">Pełna</translation>
+        <translation>Pełna</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Na baterii, pozostało %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">Na baterii</translation>
+        <translation>Na baterii</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">Podłączona, nie ładuje się</translation>
+        <translation>Podłączona, nie ładuje się</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Przewidziana na %1 cykli</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>Normalnie: od 10 do 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Podane przez system</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja baterii niepodana</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja baterii %1 procent, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>Raport PDF</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwykły tekst</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaprojektowane strony, gotowe do druku lub wysłania</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie wartości, dla skryptów i narzędzi</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabele do notatek, wiki i zgłoszeń</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Ten sam tekst co Kopiuj jako tekst</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Pokaż w Finderze</translation>
+        <translation>Pokaż w Finderze</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">Pokaż w menedżerze plików</translation>
+        <translation>Pokaż w menedżerze plików</translation>
     </message>
 </context>
 <context>
@@ -1323,11 +1323,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Stan ładowania</translation>
     </message>
 </context>
 <context>
@@ -1389,26 +1394,26 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sekcja, sprawdzona dzisiaj o %1.</numerusform>
+            <numerusform>Wszystkie %n sekcje, sprawdzone dzisiaj o %1.</numerusform>
+            <numerusform>Wszystkie %n sekcji, sprawdzone dzisiaj o %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sekcja, sprawdzona wczoraj o %1.</numerusform>
+            <numerusform>Wszystkie %n sekcje, sprawdzone wczoraj o %1.</numerusform>
+            <numerusform>Wszystkie %n sekcji, sprawdzone wczoraj o %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sekcja, sprawdzona %1.</numerusform>
+            <numerusform>Wszystkie %n sekcje, sprawdzone %1.</numerusform>
+            <numerusform>Wszystkie %n sekcji, sprawdzone %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -2547,31 +2552,31 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>pojemności projektowej</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Obecna pojemność</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność projektowa</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">Poziom naładowania</translation>
+        <translation>Poziom naładowania</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Liczba cykli</translation>
+        <translation>Liczba cykli</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Stan</translation>
     </message>
 </context>
 <context>
@@ -2582,31 +2587,31 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Kondycja</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obecna pojemność jako część pojemności projektowej. 80% lub więcej to dobry wynik.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Liczba cykli</translation>
+        <translation>Liczba cykli</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden cykl to jedno pełne rozładowanie, nawet rozłożone na kilka dni.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciepło starzy baterię szybciej niż użytkowanie. Należy chronić ją przed słońcem.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odczytano dzisiaj o %1. Wartości pochodzą z kontrolera baterii i mogą się nieco różnić między odczytami.</translation>
     </message>
 </context>
 <context>
@@ -2724,7 +2729,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n zachowane sprawdzenie zostanie usunięte. Tego nie można cofnąć.</numerusform>
             <numerusform>Wszystkie %n zachowane sprawdzenia zostaną usunięte. Tego nie można cofnąć.</numerusform>
             <numerusform>Wszystkie %n zachowanych sprawdzeń zostanie usuniętych. Tego nie można cofnąć.</numerusform>
@@ -2735,39 +2740,39 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n strona, US Letter</numerusform>
+            <numerusform>%n strony, US Letter</numerusform>
+            <numerusform>%n stron, US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n strona, A4</numerusform>
+            <numerusform>%n strony, A4</numerusform>
+            <numerusform>%n stron, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksportuj sprawdzenie</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomiń nazwy i adresy</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Podgląd</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Anuluj</translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">Eksportuj…</translation>
+        <translation>Eksportuj…</translation>
     </message>
 </context>
 <context>
@@ -2887,10 +2892,10 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zachowano %n sprawdzenie, najwyżej %1</numerusform>
+            <numerusform>Zachowano %n sprawdzenia, najwyżej %1</numerusform>
+            <numerusform>Zachowano %n sprawdzeń, najwyżej %1</numerusform>
         </translation>
     </message>
 </context>
@@ -3465,15 +3470,15 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksportuj sprawdzenie</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachowano raport.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybierz inne miejsce…</translation>
     </message>
 </context>
 <context>

@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando, completa em %1</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">Carregando</translation>
+        <translation>Carregando</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">Cheia</translation>
+        <translation>Cheia</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Na bateria, restam %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">Na bateria</translation>
+        <translation>Na bateria</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">Conectada, sem carregar</translation>
+        <translation>Conectada, sem carregar</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Projetada para %1 ciclos</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal: de 10 a 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Informado pelo sistema</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Saúde da bateria não informada</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Saúde da bateria %1 por cento, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>Relatório PDF</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto simples</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas diagramadas, prontas para imprimir ou enviar</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos os valores, para scripts e ferramentas</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelas para notas, wikis e chamados</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>O mesmo texto de Copiar como texto</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">Mostrar no Finder</translation>
+        <translation>Mostrar no Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">Mostrar no gerenciador de arquivos</translation>
+        <translation>Mostrar no gerenciador de arquivos</translation>
     </message>
 </context>
 <context>
@@ -1318,11 +1318,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Estado da carga</translation>
     </message>
 </context>
 <context>
@@ -1384,23 +1389,23 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n seção, inspecionada hoje às %1.</numerusform>
+            <numerusform>Todas as %n seções, inspecionadas hoje às %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n seção, inspecionada ontem às %1.</numerusform>
+            <numerusform>Todas as %n seções, inspecionadas ontem às %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n seção, inspecionada em %1.</numerusform>
+            <numerusform>Todas as %n seções, inspecionadas em %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -2533,31 +2538,31 @@ Tudo o que ele lê permanece neste computador.</translation>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>da capacidade de projeto</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidade atual</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidade de projeto</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">Carga</translation>
+        <translation>Carga</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Contagem de ciclos</translation>
+        <translation>Contagem de ciclos</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Condição</translation>
     </message>
 </context>
 <context>
@@ -2568,31 +2573,31 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Saúde</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidade atual em relação à capacidade de projeto. 80% ou mais é bom.</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">Contagem de ciclos</translation>
+        <translation>Contagem de ciclos</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um ciclo é uma descarga completa, mesmo que distribuída por vários dias.</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>O calor envelhece a bateria mais rápido que o uso. Mantenha-a longe do sol.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lido hoje às %1. Os números vêm do controlador da própria bateria e podem variar um pouco entre leituras.</translation>
     </message>
 </context>
 <context>
@@ -2709,7 +2714,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n análise salva será removida. Esta ação não pode ser desfeita.</numerusform>
             <numerusform>Todas as %n análises salvas serão removidas. Esta ação não pode ser desfeita.</numerusform>
         </translation>
@@ -2719,37 +2724,37 @@ Tudo o que ele lê permanece neste computador.</translation>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n página, Carta</numerusform>
+            <numerusform>%n páginas, Carta</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n página, A4</numerusform>
+            <numerusform>%n páginas, A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar inspeção</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir nomes e endereços</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-visualização</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">Exportar…</translation>
+        <translation>Exportar…</translation>
     </message>
 </context>
 <context>
@@ -2869,9 +2874,9 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n análise salva, no máximo %1</numerusform>
+            <numerusform>%n análises salvas, no máximo %1</numerusform>
         </translation>
     </message>
 </context>
@@ -3435,15 +3440,15 @@ Tudo o que ele lê permanece neste computador.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar inspeção</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Relatório salvo.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher outro local…</translation>
     </message>
 </context>
 <context>

@@ -108,99 +108,99 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在充电，%1后充满</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished">正在充电</translation>
+        <translation>正在充电</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished">已充满</translation>
+        <translation>已充满</translation>
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>使用电池，剩余 %1</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished">使用电池</translation>
+        <translation>使用电池</translation>
     </message>
     <message>
         <source>Connected, not charging</source>
-        <translation type="unfinished">已连接，未充电</translation>
+        <translation>已连接，未充电</translation>
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>额定 %1 次循环</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation type="unfinished"></translation>
+        <translation>正常：10 至 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation type="unfinished"></translation>
+        <translation>由系统报告</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation type="unfinished"></translation>
+        <translation>未报告电池健康</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>电池健康百分之 %1，%2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF 报告</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Markdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Markdown</translation>
     </message>
     <message>
         <source>Plain text</source>
-        <translation type="unfinished"></translation>
+        <translation>纯文本</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation type="unfinished"></translation>
+        <translation>经过设计的页面，可直接打印或发送</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation type="unfinished"></translation>
+        <translation>所有值，供脚本和工具使用</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation type="unfinished"></translation>
+        <translation>用于备忘录、Wiki 和问题单的表格</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>与“拷贝为文本”相同的文本</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished">在访达中显示</translation>
+        <translation>在访达中显示</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished">在文件管理器中显示</translation>
+        <translation>在文件管理器中显示</translation>
     </message>
 </context>
 <context>
@@ -1313,11 +1313,16 @@
     </message>
     <message>
         <source>%1&#xa0;Wh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;Wh</translation>
     </message>
     <message>
         <source>%1&#xa0;mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>充电状态</translation>
     </message>
 </context>
 <context>
@@ -1379,20 +1384,20 @@
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>全部 %n 个部分，检查于今天 %1。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>全部 %n 个部分，检查于昨天 %1。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>全部 %n 个部分，检查于 %1。</numerusform>
         </translation>
     </message>
 </context>
@@ -2519,31 +2524,31 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>设计容量</translation>
     </message>
     <message>
         <source>Present capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>当前容量</translation>
     </message>
     <message>
         <source>Design capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>设计容量</translation>
     </message>
     <message>
         <source>Charge</source>
-        <translation type="unfinished">电量</translation>
+        <translation>电量</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">循环次数</translation>
+        <translation>循环次数</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>状况</translation>
     </message>
 </context>
 <context>
@@ -2554,31 +2559,31 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>健康</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前容量占设计容量的比例。80% 或以上为良好。</translation>
     </message>
     <message>
         <source>Cycle count</source>
-        <translation type="unfinished">循环次数</translation>
+        <translation>循环次数</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation type="unfinished"></translation>
+        <translation>一次循环是一次完整的放电，即使分散在数天内。</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation type="unfinished"></translation>
+        <translation>高温比使用更容易使电池老化。请避免日晒。</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation type="unfinished"></translation>
+        <translation>读取于今天 %1。数值来自电池自身的控制器，每次读取可能略有不同。</translation>
     </message>
 </context>
 <context>
@@ -2694,7 +2699,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>全部 %n 次已存储的扫描都将被移除。此操作无法撤销。</numerusform>
         </translation>
     </message>
@@ -2703,35 +2708,35 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 页，US Letter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 页，A4</numerusform>
         </translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>导出检查结果</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>略去名称和地址</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>预览</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">取消</translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished">导出…</translation>
+        <translation>导出…</translation>
     </message>
 </context>
 <context>
@@ -2851,8 +2856,8 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已存储 %n 次扫描，最多 %1 次</numerusform>
         </translation>
     </message>
 </context>
@@ -3405,15 +3410,15 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation type="unfinished"></translation>
+        <translation>导出检查结果</translation>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>已存储报告。</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation type="unfinished"></translation>
+        <translation>选取其他位置…</translation>
     </message>
 </context>
 <context>
