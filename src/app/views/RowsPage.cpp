@@ -104,6 +104,7 @@ void RowsPage::inspected()
 void RowsPage::update()
 {
     const bool hasRows = m_rows.shownRows() > 0;
+    m_chips->setEnabled(isInspected());
     m_chips->setCounts(isInspected() ? std::optional(m_rows.counts()) : std::nullopt);
     m_list->setVisible(hasRows && showsList());
     m_empty->setVisible(!hasRows && showsList() && isInspected());
