@@ -107,6 +107,8 @@ void RowsPage::update()
     m_chips->setEnabled(isInspected());
     m_chips->setCounts(isInspected() ? std::optional(m_rows.counts()) : std::nullopt);
     m_list->setVisible(hasRows && showsList());
+    if (!m_list->isHidden())
+        m_list->doItemsLayout(); // before it is seen, not after
     m_empty->setVisible(!hasRows && showsList() && isInspected());
     setFilled(!m_empty->isHidden());
     if (!m_empty->isHidden())
