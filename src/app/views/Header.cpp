@@ -54,7 +54,7 @@ class Header::Note final : public QWidget
 public:
     explicit Note(QWidget *parent)
         : QWidget(parent)
-        , m_text(new TextLabel(TextRole::Small, Role::Text2, this))
+        , m_text(new ElidedLabel(TextRole::Small, Role::Text2, this))
     {
         auto *row = new QHBoxLayout(this);
         row->setContentsMargins({});
@@ -83,7 +83,7 @@ protected:
 
 private:
     QString m_symbol;
-    TextLabel *m_text;
+    ElidedLabel *m_text;
 };
 
 Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
@@ -102,6 +102,7 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
 {
     m_machine->setWeight(QFont::Medium);
     m_machine->hide();
+    m_title->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred); // the note gives way to it
     m_searchIcon = m_search->addAction(QIcon(), QLineEdit::LeadingPosition);
     m_clear = m_search->addAction(QIcon(), QLineEdit::TrailingPosition);
     m_clear->setVisible(false);
