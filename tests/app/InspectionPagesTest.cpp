@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
+#include "app/WrappedText.h"
 #include "app/models/CapabilityListModel.h"
 #include "app/models/leadingRow.h"
 #include "app/views/CapabilityList.h"
@@ -14,12 +15,15 @@
 #include "app/widgets/HeadlineCard.h"
 #include "app/widgets/OverviewCard.h"
 #include "app/widgets/ScoreRing.h"
+#include "app/widgets/TextLabel.h"
 #include "inspection/DeviceProbe.h"
 #include "support/AppStage.h"
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
+#include <QImage>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -137,6 +141,116 @@ private Q_SLOTS:
         std::ranges::reverse(sections);
         model.setSections(sections);
         QCOMPARE(lines(model).size(), unsupported.size());
+    }
+
+    void tellsStatusOnlyWhereItTellsMore_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<CapabilityStatus>("status");
+        QTest::addColumn<QString>("word");
+        QTest::newRow("said by the value") << u"Supported"_s << CapabilityStatus::Supported << QString();
+        QTest::newRow("not said by the value")
+            << u"Available"_s << CapabilityStatus::Supported << u"Supported"_s;
+        QTest::newRow("an exception") << u"Off"_s << CapabilityStatus::Warning << u"Warning"_s;
+        QTest::newRow("a plain fact") << u"16 GB"_s << CapabilityStatus::Info << QString();
+    }
+
+    void tellsStatusOnlyWhereItTellsMore()
+    {
+        QFETCH(const QString, value);
+        QFETCH(const CapabilityStatus, status);
+        CapabilityListModel model;
+        model.setSections({section(u"s"_s, u"Section"_s, {row(u"r"_s, u"Row"_s, value, status)})});
+        const auto index = model.index(1);
+        QTEST(index.data(CapabilityListModel::StatusWordRole).toString(), "word");
+        // Who cannot see the mark is told in any case.
+        QCOMPARE(index.data(Qt::AccessibleTextRole).toString(),
+                 u"Row, %1, %2"_s.arg(value, inspection::title(status)));
+    }
+
+    void roundsTheEndsOfEachCard()
+    {
+        CapabilityListModel model;
+        model.setSections(small);
+        const auto ends = [&] {
+            QString result;
+            for (int at = 0; at < model.rowCount(); ++at) {
+                const auto index = model.index(at);
+                if (index.data(CapabilityListModel::HeadingRole).toBool())
+                    continue;
+                result += index.data(CapabilityListModel::FirstRole).toBool() ? u'(' : u'-';
+                result += index.data(CapabilityListModel::LastRole).toBool() ? u')' : u'-';
+            }
+            return result;
+        };
+        QCOMPARE(ends(), u"(--)(--)"_s);
+        model.setQuery({.status = CapabilityStatus::Info});
+        QCOMPARE(ends(), u"()()"_s);
+        model.setQuery({.section = u"processor"_s});
+        QCOMPARE(ends(), u"(--)"_s);
+    }
+
+    void keepsRowsApartThatBearOneKey()
+    {
+        CapabilityListModel model;
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+        const auto twin = [](const QString &value) {
+            return row(u"twin"_s, u"Twin"_s, value, CapabilityStatus::Info);
+        };
+        model.setSections({section(u"s"_s, u"Section"_s, {twin(u"one"_s), twin(u"two"_s)})});
+        model.setSections(
+            {section(u"s"_s, u"Section"_s, {twin(u"one"_s), twin(u"two"_s), twin(u"three"_s)})});
+        QCOMPARE(model.text({model.index(3), model.index(1)}), u"Twin: one\nTwin: three"_s);
+    }
+
+    void wraps_data()
+    {
+        QTest::addColumn<int>("widths"); // of the letter M, ten of which are the text in two words
+        QTest::addColumn<int>("mostLines");
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<bool>("isElided");
+        QTest::newRow("fits") << 20 << 2 << 1 << false;
+        QTest::newRow("in two") << 6 << 2 << 2 << false;
+        QTest::newRow("one line only") << 6 << 1 << 1 << true;
+        QTest::newRow("more than two") << 3 << 2 << 2 << true;
+        QTest::newRow("no room at all") << 0 << 2 << 1 << true;
+    }
+
+    void wraps()
+    {
+        QFETCH(const int, widths);
+        QFETCH(const int, mostLines);
+        QFETCH(const int, lines);
+        const auto font = QApplication::font();
+        const auto width = QFontMetricsF(font).horizontalAdvance(u'M') * widths;
+        const app::WrappedText text(u"MMMMM MMMMM"_s, font, width, mostLines);
+        QCOMPARE(qRound(text.height() / app::WrappedText(u"M"_s, font, 1000, 1).height()), lines);
+        QTEST(text.isElided(), "isElided");
+    }
+
+    void shadesWhatWasFound_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("atTheLeft");
+        QTest::newRow("left to right") << u"hhhh iiii"_s << true;
+        QTest::newRow("right to left") << u"אאאא בבבב"_s << false;
+    }
+
+    /// The first word lies where its writing begins, in a layout of its direction.
+    void shadesWhatWasFound()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const bool, atTheLeft);
+        QImage image(300, 40, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        const app::WrappedText set(text, QApplication::font(), image.width(), 2);
+        set.draw(painter, {0, 5}, atTheLeft ? Qt::LeftToRight : Qt::RightToLeft, Qt::transparent, {{0, 4}},
+                 Qt::red);
+        painter.end();
+        const auto isShaded = [&](int x) { return image.pixelColor(x, 10) == Qt::red; };
+        QCOMPARE(isShaded(4), atTheLeft);
+        QCOMPARE(isShaded(image.width() - 5), !atTheLeft);
     }
 
     void leadsWith_data()
@@ -276,6 +390,48 @@ private Q_SLOTS:
         QCOMPARE(chosen.constFirst().constFirst().toString(), u"security"_s);
     }
 
+    void arrowsFollowTheLayout()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        const auto page = shownPage<app::OverviewPage>(stage);
+        page->setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        const auto cards = page->findChild<app::CardGrid *>()->cards();
+        cards[0]->setFocus(Qt::TabFocusReason);
+        QVERIFY(cards[0]->x() > cards[1]->x());
+        QTest::keyClick(cards[0], Qt::Key_Left);
+        QCOMPARE(QApplication::focusWidget(), cards[1]);
+        page->resize(400, 700); // a column
+        QTest::keyClick(cards[1], Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget(), cards[2]);
+    }
+
+    void speaksOfComputersWhereThereIsNoMac()
+    {
+        AppStage stage(recordingText(u"linux-laptop"_s));
+        const auto page = shownPage<app::OverviewPage>(stage);
+        QCOMPARE(page->findChild<app::HeadlineCard *>()->accessibleName(), u"Inspecting this computer…"_s);
+        stage.inspect();
+        page->resize(500, 700); // where the ring alone tells the score
+        QVERIFY(page->findChild<app::ScoreRing *>()->toolTip().startsWith(
+            u"Share of rated capabilities that this computer supports\n"_s));
+    }
+
+    void speaksAnotherLanguage()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        const auto page = shownPage<app::SectionPage>(stage);
+        page->setSection(u"network"_s);
+        QVERIFY(stage.language.setLanguage(u"de"_s));
+        stage.inspect();
+        const auto labels = page->findChildren<app::ElidedLabel *>();
+        QVERIFY(
+            std::ranges::any_of(labels, [](const auto *label) { return label->text() == u"Netzwerk"_s; }));
+        QCOMPARE(page->findChild<app::StatusChips *>()->chip(1)->text(), u"Unterstützt"_s);
+    }
+
     void filterPutsRowsInPlaceOfCards()
     {
         AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
@@ -362,10 +518,14 @@ private Q_SLOTS:
         const auto buttons = page->findChild<app::EmptyState *>()->findChildren<QPushButton *>();
         QTest::mouseClick(buttons[0], Qt::LeftButton);
         QVERIFY(says(u"9 rows in 2 sections"_s));
+        page->setStatus(CapabilityStatus::Supported);
         page->setSearch(u"xyzzy"_s);
+        QVERIFY(page->status()); // more letters are the same search
         QVERIFY(!buttons[0]->isVisible());
         QTest::mouseClick(buttons[1], Qt::LeftButton);
         QCOMPARE(cleared.size(), 1);
+        page->hide();
+        QVERIFY(!page->status()); // the next one is another
     }
 };
 
