@@ -53,13 +53,23 @@ public:
         , compare(new Button(Button::Kind::Primary, u"arrow.left.arrow.right"_s, this))
     {
         count->setWeight(QFont::DemiBold);
-        count->setWordWrap(true);
         row = new QHBoxLayout(this);
         row->setSpacing(10);
-        row->addWidget(count, 1);
-        row->addWidget(moments, 2);
+        row->addWidget(count);
+        row->addWidget(moments, 1);
         row->addWidget(clear);
         row->addWidget(compare);
+    }
+
+    void show(const QString &selection, const QString &which)
+    {
+        // A sentence that stands alone may take the room of both.
+        const bool isAlone = which.isEmpty();
+        count->setWordWrap(isAlone);
+        row->setStretchFactor(count, isAlone ? 1 : 0);
+        count->setText(selection);
+        moments->setText(which);
+        moments->setHidden(isAlone);
     }
 
     TextLabel *count;
@@ -285,13 +295,14 @@ void HistoryView::updateSelection()
 {
     const auto ticked = m_model->ticked().size();
     const auto pair = m_model->pair();
-    m_bar->count->setText(ticked < 2 ? tr("1 scan selected · choose one more") : tr("2 scans selected"));
-    const auto &formats = m_context.language.formats();
-    m_bar->moments->setText(pair ? //: Two moments: "18 September, 12:10 and today, 08:41"
-                                tr("%1 and %2")
-                                    .arg(shortMomentText(pair->first.date.toLocalTime(), formats),
-                                         shortMomentText(pair->second.date.toLocalTime(), formats))
-                                 : QString());
+    const auto moment = [&](const history::ScanSnapshot &scan) {
+        return shortMomentText(scan.date.toLocalTime(), m_context.language.formats());
+    };
+    if (pair)
+        //: Two moments: "18 September, 12:10 and today, 08:41"
+        m_bar->show(tr("2 scans selected"), tr("%1 and %2").arg(moment(pair->first), moment(pair->second)));
+    else
+        m_bar->show(tr("1 scan selected · choose one more"), {});
     m_bar->compare->setEnabled(pair.has_value());
     const bool isShown = ticked > 0 && !isComparing();
     m_bar->setVisible(isShown);
