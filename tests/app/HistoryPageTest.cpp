@@ -246,6 +246,20 @@ private Q_SLOTS:
         QCOMPARE(window.list->currentIndex().data(HistoryModel::IdRole).toUuid(), kept);
     }
 
+    void staysAtItsScanWhenOneIsAdded()
+    {
+        AppStage stage(recording(), scans());
+        Window window(stage);
+        window.tick(1);
+        const auto current = window.list->currentIndex().data(HistoryModel::IdRole).toUuid();
+        const auto row = window.list->currentIndex().row();
+        stage.inspect(); // the window saves it
+        QTRY_COMPARE(stage.history.snapshots().size(), 5);
+        QCOMPARE(window.list->currentIndex().data(HistoryModel::IdRole).toUuid(), current);
+        QVERIFY(window.list->currentIndex().row() != row);
+        QCOMPARE(window.model->ticked(), QList({current}));
+    }
+
     void clearsAfterAQuestion()
     {
         AppStage stage(recording(), scans());

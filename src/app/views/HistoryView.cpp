@@ -23,6 +23,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -121,7 +122,12 @@ HistoryView::HistoryView(const AppContext &context, QWidget *parent)
     m_comparison->hide();
     m_bar->hide();
 
-    connect(m_model, &QAbstractItemModel::modelReset, this, &HistoryView::update);
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this,
+            [this] { m_current = m_list->currentIndex().data(HistoryModel::IdRole).toUuid(); });
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        m_list->selectionModel()->setCurrentIndex(m_model->indexOf(m_current), QItemSelectionModel::NoUpdate);
+        update();
+    });
     connect(m_model, &HistoryModel::tickedChanged, this, &HistoryView::updateSelection);
     connect(delegate, &HistoryDelegate::removalAsked, this, &HistoryView::askToDelete);
     connect(m_clear, &QAction::triggered, this, &HistoryView::askToClear);
