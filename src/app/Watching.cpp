@@ -3,9 +3,9 @@
 
 #include "app/Watching.h"
 
+#include "app/Visibility.h"
 #include "monitor/LiveMonitor.h"
 
-#include <QEvent>
 #include <QWidget>
 
 namespace quillmark::app {
@@ -13,10 +13,10 @@ namespace quillmark::app {
 Watching::Watching(monitor::LiveMonitor &monitor, QWidget &view)
     : QObject(&view)
     , m_monitor(monitor)
-    , m_view(&view)
 {
-    view.installEventFilter(this);
-    followWindow();
+    const auto *visibility = new Visibility(view);
+    connect(visibility, &Visibility::changed, this, &Watching::setShown);
+    setShown(visibility->isVisible());
 }
 
 Watching::Watching(monitor::LiveMonitor &monitor, QObject *parent)
@@ -38,35 +38,6 @@ void Watching::setShown(bool isShown)
         m_monitor.start();
     else
         m_monitor.stop();
-}
-
-bool Watching::eventFilter(QObject *object, QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::Show:
-    case QEvent::WindowStateChange:
-        followWindow();
-        break;
-    case QEvent::Hide:
-        // A minimised window hides what is in it as far as the window system knows; the widgets stay shown.
-        if (object == m_view && !m_view->isVisible())
-            setShown(false);
-        break;
-    default:
-        break;
-    }
-    return false;
-}
-
-void Watching::followWindow()
-{
-    if (m_window != m_view->window()) {
-        if (m_window && m_window != m_view)
-            m_window->removeEventFilter(this);
-        m_window = m_view->window();
-        m_window->installEventFilter(this); // moves to the front where it was there already
-    }
-    setShown(m_view->isVisible() && !m_window->isMinimized());
 }
 
 } // namespace quillmark::app

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 
 class QWidget;
 
@@ -23,7 +22,7 @@ class Watching : public QObject
     Q_OBJECT
 
 public:
-    /// Follows the view, which becomes the parent: seen is what is shown in a window that is not minimised.
+    /// Follows the view, which becomes the parent.
     Watching(monitor::LiveMonitor &monitor, QWidget &view);
     /// For what is no widget: counted in when setShown() says so.
     Watching(monitor::LiveMonitor &monitor, QObject *parent);
@@ -32,15 +31,8 @@ public:
     void setShown(bool isShown);
     bool isShown() const { return m_isShown; }
 
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override;
-
 private:
-    void followWindow();
-
     monitor::LiveMonitor &m_monitor;
-    QWidget *m_view = nullptr; ///< the parent; none when it is no widget
-    QPointer<QWidget> m_window;
     bool m_isShown = false;
 };
 

@@ -14,6 +14,8 @@
 #include <QGridLayout>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace quillmark::app {
 
 using namespace Qt::StringLiterals;
@@ -51,16 +53,20 @@ public:
     }
     QSize sizeHint() const override
     {
-        const int side = Appearance::current().scaled(m_size);
-        return {side, side};
+        // As high as a line of text, so that it stands beside the first one.
+        const auto &appearance = Appearance::current();
+        const int side = appearance.scaled(m_size);
+        return {side, std::max(side, QFontMetrics(appearance.font(TextRole::Body)).height())};
     }
 
 protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
+        QRectF square(0, 0, width(), width());
+        square.moveCenter(QRectF(rect()).center());
         if (!m_symbol.isEmpty())
-            Appearance::current().paintIcon(painter, rect(), m_symbol, m_role);
+            Appearance::current().paintIcon(painter, square, m_symbol, m_role);
     }
 
 private:

@@ -5,6 +5,7 @@
 
 #include "app/Appearance.h"
 #include "app/BatteryWatch.h"
+#include "app/Visibility.h"
 #include "app/models/BatteryFacts.h"
 #include "app/momentTexts.h"
 #include "app/views/BatteryPanel.h"
@@ -16,7 +17,6 @@
 #include "language/LanguageManager.h"
 
 #include <QBoxLayout>
-#include <QEvent>
 
 #include <algorithm>
 #include <array>
@@ -103,6 +103,9 @@ BatteryView::BatteryView(const AppContext &context, QWidget *parent)
             m_watch->read();
     });
     setUp();
+
+    const auto *visibility = new Visibility(*this);
+    connect(visibility, &Visibility::changed, m_watch, &BatteryWatch::setShown);
 }
 
 QString BatteryView::headerTitle() const
@@ -130,36 +133,6 @@ void BatteryView::resizeEvent(QResizeEvent *event)
     Page::resizeEvent(event);
     const auto margins = widget()->layout()->contentsMargins();
     m_none->setMinimumHeight(std::max(0, viewport()->height() - margins.top() - margins.bottom()));
-}
-
-void BatteryView::showEvent(QShowEvent *event)
-{
-    Page::showEvent(event);
-    if (m_window != window()) {
-        if (m_window)
-            m_window->removeEventFilter(this);
-        m_window = window();
-        m_window->installEventFilter(this);
-    }
-    followWindow();
-}
-
-void BatteryView::hideEvent(QHideEvent *event)
-{
-    Page::hideEvent(event);
-    m_watch->setShown(false);
-}
-
-bool BatteryView::eventFilter(QObject *object, QEvent *event)
-{
-    if (object == m_window && event->type() == QEvent::WindowStateChange)
-        followWindow();
-    return Page::eventFilter(object, event);
-}
-
-void BatteryView::followWindow()
-{
-    m_watch->setShown(isVisible() && !window()->isMinimized());
 }
 
 void BatteryView::update()

@@ -6,8 +6,6 @@
 #include "app/AppContext.h"
 #include "app/views/Page.h"
 
-#include <QPointer>
-
 #include <vector>
 
 namespace quillmark::app {
@@ -33,14 +31,10 @@ protected:
     void retranslate() override;
     void arrange() override;
     void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
-    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     class Explanations;
     void update();
-    void followWindow();
 
     const AppContext &m_context;
     BatteryWatch *m_watch;
@@ -48,7 +42,6 @@ private:
     Explanations *m_explanations;
     TextLabel *m_note;
     EmptyState *m_none;
-    QPointer<QWidget> m_window;
 };
 
 } // namespace quillmark::app

@@ -33,7 +33,7 @@ using history::ScanSnapshot;
 namespace {
 
 constexpr int headHeight = 70;
-constexpr qreal headStackedBelow = 560;
+constexpr qreal headStackedBelow = 640;
 constexpr std::array kinds = {ChangeKind::Changed, ChangeKind::Added, ChangeKind::Removed};
 
 /// From the older scan to the newer.

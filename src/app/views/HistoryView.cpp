@@ -23,6 +23,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -53,13 +54,23 @@ public:
         , compare(new Button(Button::Kind::Primary, u"arrow.left.arrow.right"_s, this))
     {
         count->setWeight(QFont::DemiBold);
-        count->setWordWrap(true);
         row = new QHBoxLayout(this);
         row->setSpacing(10);
-        row->addWidget(count, 1);
-        row->addWidget(moments, 2);
+        row->addWidget(count);
+        row->addWidget(moments, 1);
         row->addWidget(clear);
         row->addWidget(compare);
+    }
+
+    void show(const QString &selection, const QString &which)
+    {
+        // A sentence that stands alone may take the room of both.
+        const bool isAlone = which.isEmpty();
+        count->setWordWrap(isAlone);
+        row->setStretchFactor(count, isAlone ? 1 : 0);
+        count->setText(selection);
+        moments->setText(which);
+        moments->setHidden(isAlone);
     }
 
     TextLabel *count;
@@ -111,7 +122,12 @@ HistoryView::HistoryView(const AppContext &context, QWidget *parent)
     m_comparison->hide();
     m_bar->hide();
 
-    connect(m_model, &QAbstractItemModel::modelReset, this, &HistoryView::update);
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this,
+            [this] { m_current = m_list->currentIndex().data(HistoryModel::IdRole).toUuid(); });
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        m_list->selectionModel()->setCurrentIndex(m_model->indexOf(m_current), QItemSelectionModel::NoUpdate);
+        update();
+    });
     connect(m_model, &HistoryModel::tickedChanged, this, &HistoryView::updateSelection);
     connect(delegate, &HistoryDelegate::removalAsked, this, &HistoryView::askToDelete);
     connect(m_clear, &QAction::triggered, this, &HistoryView::askToClear);
@@ -285,13 +301,14 @@ void HistoryView::updateSelection()
 {
     const auto ticked = m_model->ticked().size();
     const auto pair = m_model->pair();
-    m_bar->count->setText(ticked < 2 ? tr("1 scan selected · choose one more") : tr("2 scans selected"));
-    const auto &formats = m_context.language.formats();
-    m_bar->moments->setText(pair ? //: Two moments: "18 September, 12:10 and today, 08:41"
-                                tr("%1 and %2")
-                                    .arg(shortMomentText(pair->first.date.toLocalTime(), formats),
-                                         shortMomentText(pair->second.date.toLocalTime(), formats))
-                                 : QString());
+    const auto moment = [&](const history::ScanSnapshot &scan) {
+        return shortMomentText(scan.date.toLocalTime(), m_context.language.formats());
+    };
+    if (pair)
+        //: Two moments: "18 September, 12:10 and today, 08:41"
+        m_bar->show(tr("2 scans selected"), tr("%1 and %2").arg(moment(pair->first), moment(pair->second)));
+    else
+        m_bar->show(tr("1 scan selected · choose one more"), {});
     m_bar->compare->setEnabled(pair.has_value());
     const bool isShown = ticked > 0 && !isComparing();
     m_bar->setVisible(isShown);

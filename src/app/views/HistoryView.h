@@ -8,6 +8,7 @@
 #include "history/HistoryFile.h"
 
 #include <QDate>
+#include <QUuid>
 
 #include <optional>
 
@@ -80,6 +81,7 @@ private:
     Button *m_inspect;
     SelectionBar *m_bar;
     QAction *m_clear;
+    QUuid m_current;        ///< the list's current scan, while the list is made anew
     int m_listPosition = 0; ///< where the list had been scrolled to when the comparison came
     QDate m_today;          ///< for which the groups were made
     std::optional<history::SaveError> m_toldFailure;

@@ -116,6 +116,7 @@ QWidget *MonitorView::makeLive()
     m_battery = new MonitorTile(u"battery.100.bolt"_s);
 
     auto *live = new QWidget;
+    m_battery->setParent(live); // in no layout until there is a battery, and no window of its own
     auto *column = new QVBoxLayout(live);
     column->setContentsMargins({});
     column->setSpacing(gap);

@@ -6,6 +6,8 @@
 #include "app/Appearance.h"
 
 #include <QKeyEvent>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace quillmark::app {
 
@@ -22,6 +24,18 @@ Button::Button(Kind kind, const QString &symbol, QWidget *parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     applyAppearance();
     connect(&Appearance::current(), &Appearance::changed, this, &Button::applyAppearance);
+}
+
+/// Qt 6.4 puts the text beside an icon to the wrong side from right to left: it mirrors the alignment twice.
+void Button::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    if (!option.icon.isNull())
+        painter.setLayoutDirection(Qt::LeftToRight);
+    painter.drawControl(QStyle::CE_PushButtonLabel, option);
 }
 
 void Button::keyPressEvent(QKeyEvent *event)

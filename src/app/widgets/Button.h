@@ -24,6 +24,7 @@ public:
     explicit Button(Kind kind, const QString &symbol = {}, QWidget *parent = nullptr);
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

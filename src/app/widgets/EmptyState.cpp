@@ -39,7 +39,12 @@ EmptyState::EmptyState(const QString &symbol, QWidget *parent)
     column->addSpacing(20);
     column->addWidget(m_title);
     column->addSpacing(8);
-    column->addWidget(m_text, 0, Qt::AlignHCenter);
+    // An aligned widget would get the height of its text in one line.
+    auto *middle = new QHBoxLayout;
+    middle->addStretch();
+    middle->addWidget(m_text);
+    middle->addStretch();
+    column->addLayout(middle);
     column->addSpacing(18);
     column->addLayout(m_buttons);
     column->addStretch();
