@@ -2531,7 +2531,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Scan History</source>
-        <translation>سجل الفحوص</translation>
+        <translation>سجل الفحوصات</translation>
     </message>
     <message>
         <source>Battery Health</source>
@@ -2766,7 +2766,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>Clear the scan history?</source>
-        <translation>هل تريد مسح سجل الفحوص؟</translation>
+        <translation>هل تريد مسح سجل الفحوصات؟</translation>
     </message>
     <message>
         <source>Clear history</source>
@@ -2775,12 +2775,12 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>لا توجد فحوص محفوظة لإزالتها.</numerusform>
+            <numerusform>لا توجد فحوصات محفوظة لإزالتها.</numerusform>
             <numerusform>سيُزال الفحص المحفوظ الوحيد. لا يمكن التراجع عن هذا.</numerusform>
             <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوص المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوص المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوص المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
         </translation>
     </message>
 </context>
@@ -2913,7 +2913,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation>سجل الفحوص:</translation>
+        <translation>سجل الفحوصات:</translation>
     </message>
     <message>
         <source>Privacy:</source>
@@ -2947,10 +2947,10 @@ Everything it reads stays on this computer.</source>
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
-            <numerusform>لا فحوص محفوظة، %1 كحد أقصى</numerusform>
+            <numerusform>لا فحوصات محفوظة، %1 كحد أقصى</numerusform>
             <numerusform>فحص واحد محفوظ، %1 كحد أقصى</numerusform>
             <numerusform>فحصان محفوظان، %1 كحد أقصى</numerusform>
-            <numerusform>%n فحوص محفوظة، %1 كحد أقصى</numerusform>
+            <numerusform>%n فحوصات محفوظة، %1 كحد أقصى</numerusform>
             <numerusform>%n فحصًا محفوظًا، %1 كحد أقصى</numerusform>
             <numerusform>%n فحص محفوظ، %1 كحد أقصى</numerusform>
         </translation>
@@ -3149,11 +3149,11 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::HistoryView</name>
     <message>
         <source>Compare scans</source>
-        <translation>مقارنة الفحوص</translation>
+        <translation>مقارنة الفحوصات</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>سجل الفحوص</translation>
+        <translation>سجل الفحوصات</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
@@ -3177,7 +3177,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Saved scans</source>
-        <translation>الفحوص المحفوظة</translation>
+        <translation>الفحوصات المحفوظة</translation>
     </message>
     <message>
         <source>Clear selection</source>
@@ -3194,10 +3194,10 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n scans saved</source>
         <translation>
-            <numerusform>لا فحوص محفوظة</numerusform>
+            <numerusform>لا فحوصات محفوظة</numerusform>
             <numerusform>فحص واحد محفوظ</numerusform>
             <numerusform>فحصان محفوظان</numerusform>
-            <numerusform>%n فحوص محفوظة</numerusform>
+            <numerusform>%n فحوصات محفوظة</numerusform>
             <numerusform>%n فحصًا محفوظًا</numerusform>
             <numerusform>%n فحص محفوظ</numerusform>
         </translation>
@@ -3229,17 +3229,17 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation>هل تريد مسح سجل الفحوص؟</translation>
+        <translation>هل تريد مسح سجل الفحوصات؟</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>لا توجد فحوص محفوظة لإزالتها.</numerusform>
+            <numerusform>لا توجد فحوصات محفوظة لإزالتها.</numerusform>
             <numerusform>سيُزال الفحص المحفوظ الوحيد. لا يمكن التراجع عن هذا.</numerusform>
             <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوص المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوص المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوص المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
         </translation>
     </message>
     <message>
@@ -3248,11 +3248,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation>تعذر حفظ سجل الفحوص.</translation>
+        <translation>تعذر حفظ سجل الفحوصات.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>نسخة أخرى من Quillmark تستخدمه. تُحفظ الفحوص التي تُجرى هنا حتى تنتهي.</translation>
+        <translation>نسخة أخرى من Quillmark تستخدمه. تُحفظ الفحوصات التي تُجرى هنا حتى تنتهي.</translation>
     </message>
 </context>
 <context>
@@ -3279,7 +3279,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation>تُستخدم اللغة الجديدة فورًا. تظل مقارنة الفحوص المحفوظة بلغة أخرى ممكنة.</translation>
+        <translation>تُستخدم اللغة الجديدة فورًا. تظل مقارنة الفحوصات المحفوظة بلغة أخرى ممكنة.</translation>
     </message>
 </context>
 <context>
@@ -3507,7 +3507,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation>تُقارن به الفحوص اللاحقة</translation>
+        <translation>تُقارن به الفحوصات اللاحقة</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
@@ -3553,7 +3553,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation>مقارنة الفحوص</translation>
+        <translation>مقارنة الفحوصات</translation>
     </message>
 </context>
 <context>
@@ -3802,7 +3802,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>سجل الفحوص</translation>
+        <translation>سجل الفحوصات</translation>
     </message>
     <message>
         <source>Battery health</source>

@@ -3,7 +3,7 @@
 
 #include "app/momentTexts.h"
 
-#include <QCoreApplication>
+#include "language/texts.h"
 
 namespace quillmark::app {
 
@@ -11,7 +11,7 @@ namespace {
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Moment)
+    QUILLMARK_TEXTS(Moment)
 };
 
 } // namespace

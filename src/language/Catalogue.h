@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "language/Formats.h"
+
 #include <QString>
 #include <QTranslator>
 
@@ -10,15 +12,20 @@
 
 namespace quillmark::language {
 
-/// The texts of one language, as they lie in the program.
-struct Catalogue
+/// The texts of one language, as they lie in the program. What %n stands for is in them by then, in the
+/// digits of the language, where Qt would put its own.
+class Catalogue final : public QTranslator
 {
-    explicit Catalogue(const QString &tag);
+public:
+    explicit Catalogue(const QString &language);
 
-    QString language;
-    bool hasPluralsAlone; ///< the English one: its other texts are the sources
-    QTranslator texts; ///< those of this program
-    QTranslator ofQt;  ///< for its dialogs and buttons, where they are installed; else empty
+    const Formats &formats() const { return m_formats; }
+
+    /// Null where there is none: the source serves.
+    QString translate(const char *context, const char *source, const char *comment, int count) const override;
+
+private:
+    Formats m_formats;
 };
 
 /// Makes it the one that translated() reads.

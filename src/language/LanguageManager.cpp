@@ -9,16 +9,9 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QResource>
+#include <QTranslator>
 
-#include <tuple>
 #include <utility>
-
-/// A static library's resources are linked in by being asked for; Qt wants this outside of namespaces.
-static void loadCatalogues()
-{
-    Q_INIT_RESOURCE(catalogues);
-}
 
 namespace quillmark::language {
 
@@ -51,22 +44,6 @@ QString primaryPart(const QString &tag)
 }
 
 } // namespace
-
-Catalogue::Catalogue(const QString &tag)
-    : language(tag)
-    , hasPluralsAlone(tag == english())
-{
-    loadCatalogues();
-    // By its bytes: by a name, Qt would look for it in a dozen places.
-    const QResource file(u":/quillmark/translations/quillmark_%1.qm"_s.arg(tag));
-    [[maybe_unused]] const bool isThere = texts.load(file.data(), static_cast<int>(file.size()));
-    Q_ASSERT_X(isThere, "Catalogue", qPrintable(tag));
-    if (QCoreApplication::instance() && tag != english()) {
-        // Not all systems install it.
-        std::ignore =
-            ofQt.load(QLocale(tag), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    }
-}
 
 LanguageManager::LanguageManager(const QStringList &preferred, QObject *parent)
     : QObject(parent)
@@ -158,13 +135,15 @@ void LanguageManager::install()
     setCatalogue(m_catalogue);
     if (!QCoreApplication::instance())
         return;
-    QLocale::setDefault(QLocale(language()));
-    if (before) {
-        QCoreApplication::removeTranslator(&before->ofQt);
-        QCoreApplication::removeTranslator(&before->texts);
-    }
-    QCoreApplication::installTranslator(&m_catalogue->ofQt);
-    QCoreApplication::installTranslator(&m_catalogue->texts);
+    const QLocale locale(language());
+    QLocale::setDefault(locale);
+    if (before)
+        QCoreApplication::removeTranslator(before.get());
+    // Qt's own texts, for its dialogs and buttons. Not all systems install them.
+    m_textsOfQt = std::make_unique<QTranslator>();
+    if (m_textsOfQt->load(locale, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(m_textsOfQt.get());
+    QCoreApplication::installTranslator(m_catalogue.get());
 }
 
 QStringList systemLanguages()

@@ -11,9 +11,11 @@
 
 #include <memory>
 
+class QTranslator;
+
 namespace quillmark::language {
 
-struct Catalogue;
+class Catalogue;
 
 /// The tag of the language that the user has chosen; empty: as the system.
 inline const settings::Key<QString> languageKey{.name = QLatin1StringView("language")};
@@ -69,6 +71,7 @@ private:
     QString m_systemLanguage;
     Formats m_formats;
     std::shared_ptr<Catalogue> m_catalogue;
+    std::unique_ptr<QTranslator> m_textsOfQt; ///< where there is an application object
 };
 
 /// The languages of the system's own settings, best first; where it has none, those of the environment.

@@ -11,12 +11,14 @@
 
 namespace quillmark::language {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Current
 {
     std::shared_mutex mutex;
-    std::shared_ptr<const Catalogue> catalogue = std::make_shared<Catalogue>(QStringLiteral("en"));
+    std::shared_ptr<const Catalogue> catalogue = std::make_shared<Catalogue>(u"en"_s);
 };
 
 Current &current()
@@ -36,20 +38,19 @@ void setCatalogue(std::shared_ptr<const Catalogue> catalogue)
 Formats currentFormats()
 {
     const std::shared_lock lock(current().mutex);
-    return Formats(current().catalogue->language);
+    return current().catalogue->formats();
 }
 
 QString translated(const char *context, const char *source, const char *comment, int count)
 {
     const std::shared_lock lock(current().mutex);
     const auto &catalogue = *current().catalogue;
-    QString text;
-    if (count >= 0 || !catalogue.hasPluralsAlone)
-        text = catalogue.texts.translate(context, source, comment, count);
-    if (text.isNull())
+    auto text = catalogue.translate(context, source, comment, count);
+    if (text.isNull()) {
         text = QString::fromUtf8(source);
-    if (count >= 0)
-        text.replace(QLatin1StringView("%n"), Formats(catalogue.language).count(count));
+        if (count >= 0)
+            text.replace("%n"_L1, catalogue.formats().count(count));
+    }
     return text;
 }
 

@@ -5,6 +5,7 @@
 #include "language/LanguageManager.h"
 #include "language/Paper.h"
 #include "language/folding.h"
+#include "language/texts.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -58,6 +59,8 @@ private Q_SLOTS:
     void matches();
     void manager();
     void choice();
+    void texts_data();
+    void texts();
     void names();
 };
 
@@ -368,6 +371,35 @@ void LanguageTest::choice()
     settings.remove(languageKey);
     QCOMPARE(manager.language(), u"de"_s);
     QCOMPARE(changes.size(), 4);
+}
+
+/// Texts of this program's layers, of its widgets and of Qt itself, with their plurals and figures.
+void LanguageTest::texts_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("one");
+    QTest::addColumn<QString>("many");
+    QTest::addColumn<QString>("cancel");
+    QTest::newRow("English") << u"en"_s << u"1 saved scan"_s << u"1,234 saved scans"_s << u"Cancel"_s;
+    QTest::newRow("German") << u"de"_s << u"1 gesicherte Untersuchung"_s
+                            << u"1.234 gesicherte Untersuchungen"_s << u"Abbrechen"_s;
+    QTest::newRow("Chinese") << u"zh-Hans"_s << u"1 次已存储的扫描"_s << u"1,234 次已存储的扫描"_s << u"取消"_s;
+    QTest::newRow("Arabic") << u"ar"_s << u"فحص محفوظ واحد"_s << u"١٬٢٣٤ فحصًا محفوظًا"_s << u"ألغِ"_s;
+}
+
+void LanguageTest::texts()
+{
+    QFETCH(const QString, language);
+    const LanguageManager manager({language});
+    for (const auto &[count, text] : {std::pair(1, "one"), std::pair(1234, "many")}) {
+        QTEST(translated("Terminal", "%n saved scans", nullptr, count), text);
+        QTEST(QCoreApplication::translate("Terminal", "%n saved scans", nullptr, count), text);
+    }
+    QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "cancel");
+    QCOMPARE(translated("Terminal", "%n texts of none", nullptr, 2),
+             currentFormats().count(2) + u" texts of none"_s);
+    QCOMPARE(currentFormats().language(), language);
+    QCOMPARE(QLocale().language(), QLocale(language).language());
 }
 
 void LanguageTest::names()

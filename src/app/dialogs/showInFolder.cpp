@@ -3,7 +3,8 @@
 
 #include "app/dialogs/showInFolder.h"
 
-#include <QCoreApplication>
+#include "language/texts.h"
+
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -17,7 +18,7 @@ namespace {
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Folder)
+    QUILLMARK_TEXTS(Folder)
 };
 
 } // namespace

@@ -6,8 +6,7 @@
 #include "battery/batteryTexts.h"
 #include "inspection/batteryItems.h"
 #include "inspection/values.h"
-
-#include <QCoreApplication>
+#include "language/texts.h"
 
 #include <algorithm>
 
@@ -26,7 +25,7 @@ constexpr double hottestOnScale = 50;
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(BatteryFacts)
+    QUILLMARK_TEXTS(BatteryFacts)
 };
 
 BatteryFigure notReported()

@@ -3,9 +3,8 @@
 
 #include "app/models/ExportFormat.h"
 
+#include "language/texts.h"
 #include "reports/pdf/PdfReport.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -17,7 +16,7 @@ namespace {
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(ExportFormat)
+    QUILLMARK_TEXTS(ExportFormat)
 };
 
 } // namespace

@@ -3,7 +3,8 @@
 
 #include "app/widgets/question.h"
 
-#include <QCoreApplication>
+#include "language/texts.h"
+
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -13,7 +14,7 @@ namespace {
 
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Question)
+    QUILLMARK_TEXTS(Question)
 };
 
 /// A box that can only be cancelled so far.
