@@ -8,11 +8,7 @@
 #include "app/widgets/TextLabel.h"
 #include "reports/Report.h"
 
-#include <QDialogButtonBox>
-#include <QEvent>
-#include <QFile>
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -25,19 +21,6 @@ namespace {
 
 constexpr int aboutWidth = 400;
 constexpr int iconSize = 112;
-constexpr QSize licencesSize(640, 520);
-
-QString licenceTexts()
-{
-    QString texts;
-    for (const auto &name : {u"LICENSE"_s, u"third-party.txt"_s}) {
-        QFile file(u":/quillmark/licences/"_s + name);
-        if (file.open(QIODevice::ReadOnly))
-            texts += QString::fromUtf8(file.readAll()) + u'\n';
-    }
-    return texts.trimmed();
-}
-
 } // namespace
 
 AboutDialog::AboutDialog(const AppContext &context, QWidget *parent)
@@ -99,39 +82,6 @@ void AboutDialog::retranslate()
                  "this computer."));
     m_licences->setText(tr("Licences"));
     m_updates->setText(tr("Check for updates"));
-}
-
-LicencesDialog::LicencesDialog(QWidget *parent)
-    : QDialog(parent)
-{
-    auto *text = new QPlainTextEdit(licenceTexts(), this);
-    text->setReadOnly(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->setLayoutDirection(Qt::LeftToRight); // it is in English
-    text->setTabChangesFocus(true);
-    m_text = text;
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 20, 20, 16);
-    column->setSpacing(14);
-    column->addWidget(text, 1);
-    column->addWidget(buttons);
-    resize(licencesSize * Appearance::current().scale());
-    retranslate();
-}
-
-void LicencesDialog::changeEvent(QEvent *event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-}
-
-void LicencesDialog::retranslate()
-{
-    setWindowTitle(tr("Licences"));
-    m_text->setAccessibleName(tr("Licences"));
 }
 
 } // namespace quillmark::app

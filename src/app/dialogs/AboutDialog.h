@@ -35,21 +35,4 @@ private:
     QPushButton *m_updates;
 };
 
-/// The licences of the program and of what it is built with, to be read.
-class LicencesDialog : public QDialog
-{
-    Q_OBJECT
-
-public:
-    explicit LicencesDialog(QWidget *parent);
-
-protected:
-    void changeEvent(QEvent *event) override;
-
-private:
-    void retranslate();
-
-    QWidget *m_text;
-};
-
 } // namespace quillmark::app

@@ -7,6 +7,7 @@
 #include "app/dialogs/FirstRunDialog.h"
 #include "app/dialogs/ReportExport.h"
 #include "app/dialogs/SettingsDialog.h"
+#include "app/dialogs/TextDialog.h"
 #include "app/dialogs/UpdateNotices.h"
 #include "app/dialogs/showInFolder.h"
 #include "app/settingKeys.h"
@@ -29,6 +30,8 @@ Dialogs::Dialogs(ContentView &window, const AppContext &context, update::UpdateC
     , m_export(new ReportExport(context, window.notices(), &window))
 {
     connect(&window, &ContentView::aboutAsked, this, &Dialogs::showAbout);
+    connect(window.actions().help, &QAction::triggered, this, &Dialogs::showHelp);
+    connect(window.actions().whatsNew, &QAction::triggered, this, &Dialogs::showWhatsNew);
     connect(&window, &ContentView::settingsAsked, this, &Dialogs::showSettings);
     connect(&window, &ContentView::exportAsked, m_export, &ReportExport::begin);
     connect(&window, &ContentView::updateCheckAsked, this, &Dialogs::checkForUpdates);
@@ -85,7 +88,17 @@ void Dialogs::showAbout()
 
 void Dialogs::showLicences()
 {
-    open(m_licences, [this] { return new LicencesDialog(&m_window); });
+    open(m_licences, [this] { return new TextDialog(licences, &m_window); });
+}
+
+void Dialogs::showHelp()
+{
+    open(m_help, [this] { return new TextDialog([this] { return help(m_window.actions()); }, &m_window); });
+}
+
+void Dialogs::showWhatsNew()
+{
+    open(m_whatsNew, [this] { return new TextDialog(whatsNew, &m_window); });
 }
 
 SettingsDialog *Dialogs::showSettings()

@@ -34,6 +34,8 @@ public:
 
     void showAbout();
     void showLicences();
+    void showHelp();
+    void showWhatsNew();
     SettingsDialog *showSettings();
     void checkForUpdates();
 
@@ -54,6 +56,8 @@ private:
     ReportExport *m_export;
     QPointer<QDialog> m_about;
     QPointer<QDialog> m_licences;
+    QPointer<QDialog> m_help;
+    QPointer<QDialog> m_whatsNew;
     QPointer<SettingsDialog> m_settings;
 };
 
