@@ -3029,7 +3029,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation>لا شيء مقيّم</translation>
+        <translation>لا شيء مقيَّم</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
@@ -3208,11 +3208,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>تم تحديد فحصين</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 و%2</translation>
     </message>
     <message>
@@ -3405,7 +3405,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation>تُحدَّث كل ثانية · آخر دقيقتين</translation>
+        <translation>يُحدَّث كل ثانية · آخر دقيقتين</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
@@ -3549,7 +3549,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>No differences</source>
-        <translation>لا اختلافات</translation>
+        <translation>لا فروق</translation>
     </message>
     <message>
         <source>Compare scans</source>

@@ -3108,11 +3108,11 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>2 Untersuchungen ausgewählt</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 und %2</translation>
     </message>
     <message>
@@ -3399,7 +3399,7 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation>Spätere Untersuchungen werden mit ihr verglichen</translation>
+        <translation>Spätere werden mit ihr verglichen</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>

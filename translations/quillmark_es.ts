@@ -1528,7 +1528,7 @@
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation>Recibido %1, enviado %2</translation>
+        <translation>Entrada %1, salida %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2628,11 +2628,11 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation>2&#xa0;min</translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation>1&#xa0;min</translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>Now</source>
@@ -2924,7 +2924,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation>Puntuación</translation>
+        <translation>Puntuación de capacidades</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -2945,15 +2945,15 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation>Parte de las capacidades evaluadas que ofrece este Mac</translation>
+        <translation>Parte de las capacidades valoradas que este Mac admite</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation>Parte de las capacidades evaluadas que ofrece este ordenador</translation>
+        <translation>Parte de las capacidades valoradas que este ordenador admite</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation>No hay nada evaluado</translation>
+        <translation>Nada valorado</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
@@ -3108,11 +3108,11 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>2 análisis seleccionados</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 y %2</translation>
     </message>
     <message>
@@ -3301,7 +3301,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation>Se actualiza cada segundo · últimos 2 minutos</translation>
+        <translation>Actualizado cada segundo · últimos 2 minutos</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
@@ -3365,11 +3365,11 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation>Recibido</translation>
+        <translation>Entrada</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation>Enviado</translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Power adapter connected</source>
@@ -3570,14 +3570,14 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation>En esta sección no hay nada evaluado</translation>
+        <translation>En esta sección no hay nada valorado</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>%1 de %n capacidad evaluada compatible</numerusform>
-            <numerusform>%1 de %n capacidades evaluadas compatibles</numerusform>
+            <numerusform>%1 de %n capacidad valorada compatible</numerusform>
+            <numerusform>%1 de %n capacidades valoradas compatibles</numerusform>
         </translation>
     </message>
 </context>

@@ -3108,11 +3108,11 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>2 analyses sélectionnées</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 et %2</translation>
     </message>
     <message>

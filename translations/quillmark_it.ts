@@ -149,12 +149,12 @@
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>Stato della batteria non indicato</translation>
+        <translation>Salute della batteria non indicato</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation>Stato della batteria %1 per cento, %2</translation>
+        <translation>Salute della batteria %1 per cento, %2</translation>
     </message>
 </context>
 <context>
@@ -1528,7 +1528,7 @@
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation>Ricevuti %1, inviati %2</translation>
+        <translation>In entrata %1, in uscita %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2479,7 +2479,7 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation>Stato batteria</translation>
+        <translation>Salute della batteria</translation>
     </message>
     <message>
         <source>Live Monitor</source>
@@ -2569,7 +2569,7 @@ Tutto ciò che legge resta su questo computer.</translation>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation>Stato della batteria</translation>
+        <translation>Salute della batteria</translation>
     </message>
     <message>
         <source>Health</source>
@@ -2628,11 +2628,11 @@ Tutto ciò che legge resta su questo computer.</translation>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation>2&#xa0;min</translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation>1&#xa0;min</translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>Now</source>
@@ -2945,15 +2945,15 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation>Quota di capacità valutate che questo Mac supporta</translation>
+        <translation>Parte delle capacità valutate che questo Mac supporta</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation>Quota di capacità valutate che questo computer supporta</translation>
+        <translation>Parte delle capacità valutate che questo computer supporta</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation>Nulla è valutato</translation>
+        <translation>Nulla di valutato</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
@@ -3108,11 +3108,11 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>2 scansioni selezionate</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 e %2</translation>
     </message>
     <message>
@@ -3365,11 +3365,11 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation>Ricevuti</translation>
+        <translation>In entrata</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation>Inviati</translation>
+        <translation>In uscita</translation>
     </message>
     <message>
         <source>Power adapter connected</source>
@@ -3650,7 +3650,7 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation>Stato della batteria</translation>
+        <translation>Salute della batteria</translation>
     </message>
     <message>
         <source>Live monitor</source>

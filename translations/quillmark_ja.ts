@@ -97,11 +97,11 @@
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation>バッテリーの状態はノート型のMacで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
+        <translation>バッテリーの健康度はノート型のMacで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation>バッテリーの状態はノート型のコンピュータで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
+        <translation>バッテリーの健康度はノート型のコンピュータで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
     </message>
 </context>
 <context>
@@ -149,12 +149,12 @@
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>バッテリーの状態は報告されていません</translation>
+        <translation>バッテリーの健康度は報告されていません</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation>バッテリーの状態%1パーセント、%2</translation>
+        <translation>バッテリーの健康度%1パーセント、%2</translation>
     </message>
 </context>
 <context>
@@ -1542,7 +1542,7 @@
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation>%1 / %2</translation>
+        <translation>%1／%2</translation>
     </message>
     <message>
         <source>Pressure</source>
@@ -2465,7 +2465,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation>バッテリーの状態</translation>
+        <translation>バッテリーの健康度</translation>
     </message>
     <message>
         <source>Live Monitor</source>
@@ -2555,7 +2555,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation>バッテリーの状態</translation>
+        <translation>バッテリーの健康度</translation>
     </message>
     <message>
         <source>Health</source>
@@ -2926,15 +2926,15 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation>評価対象の機能のうちこのMacが対応する割合</translation>
+        <translation>評価対象の機能のうち、このMacが対応する割合</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation>評価対象の機能のうちこのコンピュータが対応する割合</translation>
+        <translation>評価対象の機能のうち、このコンピュータが対応する割合</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation>評価対象がありません</translation>
+        <translation>評価対象なし</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
@@ -3083,11 +3083,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>2件のスキャンを選択中</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1と%2</translation>
     </message>
     <message>
@@ -3275,7 +3275,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation>毎秒更新 · 過去2分間</translation>
+        <translation>1秒ごとに更新・直近2分間</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
@@ -3399,7 +3399,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>No differences</source>
-        <translation>相違点なし</translation>
+        <translation>差はありません</translation>
     </message>
     <message>
         <source>Compare scans</source>
@@ -3611,7 +3611,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Battery health</source>
-        <translation>バッテリーの状態</translation>
+        <translation>バッテリーの健康度</translation>
     </message>
     <message>
         <source>Live monitor</source>

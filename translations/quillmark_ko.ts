@@ -149,12 +149,12 @@
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>배터리 상태가 보고되지 않음</translation>
+        <translation>배터리 성능가 보고되지 않음</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation>배터리 상태 %1퍼센트, %2</translation>
+        <translation>배터리 성능 %1퍼센트, %2</translation>
     </message>
 </context>
 <context>
@@ -1542,7 +1542,7 @@
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation>%2 중 %1</translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>Pressure</source>
@@ -2465,7 +2465,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation>배터리 상태</translation>
+        <translation>배터리 성능</translation>
     </message>
     <message>
         <source>Live Monitor</source>
@@ -2555,7 +2555,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation>배터리 상태</translation>
+        <translation>배터리 성능</translation>
     </message>
     <message>
         <source>Health</source>
@@ -2926,15 +2926,15 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation>평가된 기능 중 이 Mac이 지원하는 비율</translation>
+        <translation>평가 대상 기능 중 이 Mac이 지원하는 비율</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation>평가된 기능 중 이 컴퓨터가 지원하는 비율</translation>
+        <translation>평가 대상 기능 중 이 컴퓨터가 지원하는 비율</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation>평가된 항목 없음</translation>
+        <translation>평가 대상 없음</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
@@ -3083,11 +3083,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>검사 2개 선택됨</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 및 %2</translation>
     </message>
     <message>
@@ -3163,7 +3163,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
-        <translation>표본 수집 중…</translation>
+        <translation>샘플 수집 중…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
@@ -3201,7 +3201,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation>표본 수집 중…</translation>
+        <translation>샘플 수집 중…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
@@ -3275,11 +3275,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation>매초 업데이트됨 · 지난 2분</translation>
+        <translation>매초 업데이트 · 최근 2분</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation>표본 수집 중…</translation>
+        <translation>샘플 수집 중…</translation>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
@@ -3399,7 +3399,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>No differences</source>
-        <translation>차이점 없음</translation>
+        <translation>차이 없음</translation>
     </message>
     <message>
         <source>Compare scans</source>
@@ -3539,7 +3539,7 @@ Everything it reads stays on this computer.</source>
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>평가된 기능 %n개 중 %1개 지원됨</numerusform>
+            <numerusform>평가 대상 기능 %n개 중 %1개 지원됨</numerusform>
         </translation>
     </message>
 </context>
@@ -3611,7 +3611,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Battery health</source>
-        <translation>배터리 상태</translation>
+        <translation>배터리 성능</translation>
     </message>
     <message>
         <source>Live monitor</source>

@@ -2628,11 +2628,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation>2&#xa0;min</translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation>1&#xa0;min</translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>Now</source>
@@ -3108,11 +3108,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>2 scans geselecteerd</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 en %2</translation>
     </message>
     <message>
@@ -3357,7 +3357,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation>In gebruik</translation>
+        <translation>Gebruikt</translation>
     </message>
     <message>
         <source>Pressure</source>

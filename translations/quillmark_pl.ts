@@ -2642,11 +2642,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation>2&#xa0;min</translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation>1&#xa0;min</translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>Now</source>
@@ -2972,7 +2972,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation>Nic nie jest oceniane</translation>
+        <translation>Niczego nie oceniono</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
@@ -3133,11 +3133,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>Zaznaczono 2 sprawdzenia</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 i %2</translation>
     </message>
     <message>
@@ -3215,7 +3215,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
-        <translation>Zbieranie pomiarów…</translation>
+        <translation>Zbieranie próbek…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
@@ -3253,7 +3253,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation>Zbieranie pomiarów…</translation>
+        <translation>Zbieranie próbek…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
@@ -3327,11 +3327,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation>Aktualizacja co sekundę · ostatnie 2 minuty</translation>
+        <translation>Uaktualniane co sekundę · ostatnie 2 minuty</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation>Zbieranie pomiarów…</translation>
+        <translation>Zbieranie próbek…</translation>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
@@ -3384,7 +3384,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation>Używane</translation>
+        <translation>W użyciu</translation>
     </message>
     <message>
         <source>Pressure</source>
@@ -3459,7 +3459,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation>Bez różnic</translation>
+        <translation>Brak różnic</translation>
     </message>
     <message>
         <source>Compare scans</source>

@@ -2628,11 +2628,11 @@ Tudo o que ele lê permanece neste computador.</translation>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation>2&#xa0;min</translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation>1&#xa0;min</translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>Now</source>
@@ -3108,11 +3108,11 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>2 análises selecionadas</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1 e %2</translation>
     </message>
     <message>
@@ -3429,7 +3429,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation>Sem diferenças</translation>
+        <translation>Nenhuma diferença</translation>
     </message>
     <message>
         <source>Compare scans</source>

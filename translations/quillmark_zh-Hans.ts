@@ -1542,7 +1542,7 @@
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation>%1（共 %2）</translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>Pressure</source>
@@ -2926,15 +2926,15 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation>这台 Mac 支持的已评定能力所占比例</translation>
+        <translation>这台 Mac 所支持的评定能力的比例</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation>这台电脑支持的已评定能力所占比例</translation>
+        <translation>这台电脑所支持的评定能力的比例</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation>没有已评定的项目</translation>
+        <translation>没有评定项</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
@@ -3083,11 +3083,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>已选择 2 次扫描</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>%1和%2</translation>
     </message>
     <message>
@@ -3291,7 +3291,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Per core</source>
-        <translation>每个核心</translation>
+        <translation>各核心</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -3330,7 +3330,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Used</source>
-        <translation>已用</translation>
+        <translation>已使用</translation>
     </message>
     <message>
         <source>Pressure</source>
