@@ -3,52 +3,26 @@
 
 #include "app/MenuBar.h"
 #include "app/models/Place.h"
+#include "app/monitorTexts.h"
 #include "app/settingKeys.h"
 #include "app/views/ContentView.h"
 #include "app/views/MenuBarMonitorView.h"
+#include "app/views/MonitorCard.h"
 #include "app/views/MonitorView.h"
-#include "app/widgets/ChartTrace.h"
 #include "app/widgets/ChartView.h"
-#include "app/widgets/CoreBars.h"
-#include "app/widgets/FigureLine.h"
 #include "app/widgets/MonitorRowView.h"
 #include "support/AppStage.h"
 
 #include <QLabel>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <cmath>
 #include <memory>
 
 using namespace quillmark;
 using namespace quillmark::support;
 using namespace Qt::StringLiterals;
-using app::ChartTrace;
-using monitor::ChartPoint;
-
-namespace {
-
-/// The history of a sine with samples at these moments, newest last, of which the last 120 are known.
-std::vector<ChartPoint> historyAt(const std::vector<double> &moments, double phase)
-{
-    const auto first = moments.size() - std::min(moments.size(), monitor::maximumSamples);
-    std::vector<ChartPoint> points;
-    for (auto i = first; i < moments.size(); ++i) {
-        const double step = i > 0 ? moments[i] - moments[i - 1] : 0;
-        points.push_back({.age = moments.back() - moments[i],
-                          .value = 0.5 + 0.3 * std::sin(moments[i] / 7 + phase),
-                          .joinsPrevious = i > first && !monitor::isGap(step)});
-    }
-    return points;
-}
-
-std::vector<ChartTrace::Line> linesAt(const std::vector<double> &moments)
-{
-    return {{historyAt(moments, 0), Qt::blue, true}, {historyAt(moments, 2), Qt::red, false}};
-}
-
-} // namespace
 
 class MonitorTest : public QObject
 {
@@ -80,51 +54,6 @@ private Q_SLOTS:
         QCOMPARE(stage.monitor.clients(), 1);
         window.reset();
         QCOMPARE(stage.monitor.clients(), 0);
-    }
-
-    void movesOnAsIfItWereDrawnAnew_data()
-    {
-        QTest::addColumn<QSize>("plot");
-        QTest::addColumn<double>("ratio");
-        QTest::addColumn<double>("step");
-        // A little more than a second, so that no end of a line stands at the left edge.
-        QTest::newRow("whole columns") << QSize(476, 140) << 1.0 << 1.25;
-        QTest::newRow("parts of columns") << QSize(431, 150) << 1.0 << 1.02;
-        QTest::newRow("a screen of twice the pixels") << QSize(733, 280) << 2.0 << 1.03;
-        QTest::newRow("narrow") << QSize(119, 60) << 1.5 << 1.1;
-    }
-
-    void movesOnAsIfItWereDrawnAnew()
-    {
-        QFETCH(QSize, plot);
-        QFETCH(double, ratio);
-        QFETCH(double, step);
-        ChartTrace trace;
-        std::vector<double> moments;
-        for (int sample = 0; sample < 260; ++sample) {
-            const double gap = sample == 40 || sample == 41 || sample == 200 ? 4 : step;
-            moments.push_back(moments.empty() ? 0 : moments.back() + gap);
-            trace.update(linesAt(moments), {plot, ratio});
-            auto anew = trace;
-            anew.invalidate();
-            anew.update(linesAt(moments), {plot, ratio});
-            if (trace.picture() != anew.picture())
-                QFAIL(qPrintable(u"differs at sample %1"_s.arg(sample)));
-        }
-        QVERIFY(!trace.picture().allGray()); // there is something to compare
-    }
-
-    void startsAnewWithAnotherHistory()
-    {
-        const ChartTrace::Shape shape{QSize(300, 100), 1};
-        ChartTrace trace;
-        trace.update(linesAt({0, 1, 2, 3}), shape);
-        trace.update(linesAt({50, 51}), shape);
-        ChartTrace other;
-        other.update(linesAt({50, 51}), shape);
-        QCOMPARE(trace.picture(), other.picture());
-        trace.update(linesAt({}), shape);
-        QVERIFY(trace.picture().allGray());
     }
 
     void showsWhatItKnows_data()
@@ -159,6 +88,71 @@ private Q_SLOTS:
             QVERIFY(!chart->accessibleName().isEmpty());
             QVERIFY(!chart->accessibleDescription().isEmpty());
         }
+    }
+
+    void isNarrowInOneColumn()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        app::MonitorView view(stage.context);
+        view.resize(900, 700);
+        view.show();
+        QTRY_VERIFY(stage.monitor.latest());
+        const auto columns = [&view] {
+            QSet<int> edges;
+            for (const auto *card : view.findChildren<app::MonitorCard *>())
+                edges += card->x();
+            return edges.size();
+        };
+        QTRY_COMPARE(columns(), 2);
+        view.resize(600, 700);
+        QTRY_COMPARE(columns(), 1);
+        view.resize(900, 700);
+        QTRY_COMPARE(columns(), 2);
+    }
+
+    void rowsSayWhatTheyShow_data()
+    {
+        QTest::addColumn<monitor::MonitorSample>("sample");
+        QTest::addColumn<QStringList>("lines");
+        constexpr std::int64_t gigabyte = std::int64_t{1} << 30;
+        monitor::MonitorSample calm{.cpuUsage = 0.234,
+                                    .memoryUsed = 4 * gigabyte,
+                                    .memoryTotal = 16 * gigabyte,
+                                    .memoryPressure = 0.1,
+                                    .networkInPerSecond = 1.24e6,
+                                    .networkOutPerSecond = 0};
+        QTest::newRow("no battery") << calm
+                                    << QStringList{
+                                           u"Processor: 23%"_s,         u"Memory: 25% (4 GB of 16 GB)"_s,
+                                           u"Pressure: 10% (Normal)"_s, u"Swap: None"_s,
+                                           u"Thermal state: Normal"_s,  u"Network: ↓ 1.24 MB/s  ↑ 0 KB/s"_s};
+        auto strained = calm;
+        strained.memoryPressure = 0.9;
+        strained.swapUsed = 2 * gigabyte;
+        strained.thermalState = monitor::ThermalState::Serious;
+        strained.batteryLevel = 0.5;
+        strained.isCharging = true;
+        QTest::newRow("strained") << strained
+                                  << QStringList{u"Processor: 23%"_s,
+                                                 u"Memory: 25% (4 GB of 16 GB)"_s,
+                                                 u"Pressure: 90% (Critical)"_s,
+                                                 u"Swap: 2 GB"_s,
+                                                 u"Battery · charging: 50%"_s,
+                                                 u"Thermal state: Hot"_s,
+                                                 u"Network: ↓ 1.24 MB/s  ↑ 0 KB/s"_s};
+    }
+
+    void rowsSayWhatTheyShow()
+    {
+        QFETCH(monitor::MonitorSample, sample);
+        QFETCH(QStringList, lines);
+        const monitor::MonitorModel model({&sample, 1}, sample);
+        QStringList said;
+        for (const auto &row : app::monitorRows(model, language::Formats(u"en"_s))) {
+            auto line = row.line();
+            said += line.remove(QChar(0x2068)).remove(QChar(0x2069)).replace(QChar::Nbsp, u' ');
+        }
+        QCOMPARE(said, lines);
     }
 
     void popUpWatchesWhileItIsOpen()
@@ -215,36 +209,6 @@ private Q_SLOTS:
         stage.settings.setValue(app::keys::showsMenuBarMonitor, true);
         QVERIFY(!menuBar.isShown());
         QCOMPARE(stage.monitor.clients(), 0);
-    }
-
-    void figuresAreNumbersWithTheirUnits_data()
-    {
-        QTest::addColumn<QString>("figure");
-        QTest::addColumn<QStringList>("leftToRight");
-        QTest::addColumn<QStringList>("rightToLeft");
-        QTest::newRow("share") << u"23%"_s << QStringList{u"23"_s, u"%"_s} << QStringList{u"%"_s, u"23"_s};
-        QTest::newRow("unit") << u"18,96\u00a0GB"_s << QStringList{u"18,96"_s, u"GB"_s}
-                              << QStringList{u"GB"_s, u"18,96"_s};
-        QTest::newRow("sign before") << u"%7"_s << QStringList{u"%"_s, u"7"_s} << QStringList{u"7"_s, u"%"_s};
-        const QStringList arabic = {u"١٨٫٩"_s, u"غيغابايت"_s};
-        QTest::newRow("from right to left") << u"١٨٫٩ غيغابايت"_s << arabic << arabic;
-        QTest::newRow("word") << u"None"_s << QStringList{u"None"_s} << QStringList{u"None"_s};
-        QTest::newRow("nothing") << QString() << QStringList{QString()} << QStringList{QString()};
-    }
-
-    void figuresAreNumbersWithTheirUnits()
-    {
-        QFETCH(QString, figure);
-        QFETCH(QStringList, leftToRight);
-        QFETCH(QStringList, rightToLeft);
-        const auto texts = [&figure](Qt::LayoutDirection direction) {
-            QStringList result;
-            for (const auto &part : app::figureParts(figure, direction))
-                result += part.text;
-            return result;
-        };
-        QCOMPARE(texts(Qt::LeftToRight), leftToRight);
-        QCOMPARE(texts(Qt::RightToLeft), rightToLeft);
     }
 };
 

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void columns();
     void networkAxis();
     void rates();
+    void axisLabels();
     void words();
 };
 
@@ -129,6 +130,19 @@ void ChartTest::rates()
         {9.996e6, u"10.0 MB/s"_s}, {12.34e9, u"12.3 GB/s"_s}, {5e16, u"50,000 TB/s"_s}};
     for (const auto &[rate, text] : rates)
         QCOMPARE(rateText(rate, quillmark::language::Formats(u"en"_s)).replace(QChar::Nbsp, u' '), text);
+}
+
+void ChartTest::axisLabels()
+{
+    const auto label = [](double rate) {
+        return axisText(rate, quillmark::language::Formats(u"en"_s)).replace(QChar::Nbsp, u' ');
+    };
+    QCOMPARE(label(50e3), u"50 KB/s"_s);
+    QCOMPARE(label(1e6), u"1 MB/s"_s);
+    QCOMPARE(label(2.5e6), u"2.5 MB/s"_s);
+    QCOMPARE(label(500e6), u"500 MB/s"_s);
+    QCOMPARE(label(1e9), u"1 GB/s"_s);
+    QCOMPARE(label(5e15), u"5,000 TB/s"_s);
 }
 
 void ChartTest::words()
