@@ -105,6 +105,59 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>Wordt opgeladen, vol over %1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Wordt opgeladen</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Vol</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>Op batterij, nog %1</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>Op batterij</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>Aangesloten, laadt niet op</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>Gemaakt voor %1 cycli</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>Normaal: 10 tot 45&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>Gemeld door het systeem</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>Batterijconditie niet opgegeven</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>Batterijconditie %1 procent, %2</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -157,7 +210,7 @@
     </message>
     <message>
         <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Beide scans tonen dezelfde mogelijkheden. Waarden die steeds veranderen, zoals de tijd ingeschakeld, worden niet vergeleken.</translation>
+        <translation>Beide scans tonen dezelfde mogelijkheden. Waarden die steeds veranderen, zoals de tijd sinds opstarten, worden niet vergeleken.</translation>
     </message>
     <message>
         <source>The two scans are in different languages, so only changes of status are shown.</source>
@@ -169,7 +222,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -1158,7 +1211,7 @@
     </message>
     <message>
         <source>Uptime</source>
-        <translation>Tijd ingeschakeld</translation>
+        <translation>Tijd sinds opstarten</translation>
     </message>
     <message>
         <source>Thermal state</source>
@@ -1217,6 +1270,14 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (zwak)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;Wh</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1231,49 +1292,49 @@
     <message>
         <source>%1, %2</source>
         <extracomment>%1: a day, %2: a time: &quot;12 November, 19:20&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Today, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vandaag, %1</translation>
     </message>
     <message>
         <source>Yesterday, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gisteren, %1</translation>
     </message>
     <message>
         <source>today, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>vandaag, %1</translation>
     </message>
     <message>
         <source>yesterday, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and yesterday, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>gisteren, %1</translation>
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vandaag onderzocht om %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gisteren onderzocht om %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Onderzocht op %1</translation>
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laatst gezocht: vandaag om %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laatst gezocht: gisteren om %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laatst gezocht: %1</translation>
     </message>
 </context>
 <context>
@@ -1350,98 +1411,98 @@
         <source>Normal</source>
         <comment>pressure</comment>
         <extracomment>of the memory pressure</extracomment>
-        <translation type="unfinished">Normaal</translation>
+        <translation>Normaal</translation>
     </message>
     <message>
         <source>Elevated</source>
         <comment>pressure</comment>
-        <translation type="unfinished"></translation>
+        <translation>Verhoogd</translation>
     </message>
     <message>
         <source>Critical</source>
         <comment>pressure</comment>
-        <translation type="unfinished">Kritiek</translation>
+        <translation>Kritiek</translation>
     </message>
     <message>
         <source>No limits on performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen beperking van de prestaties</translation>
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Iets warm, geen beperking</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestaties zijn verminderd</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestaties zijn sterk verminderd</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 procent, tussen %2 en %3 procent in de laatste 2 minuten</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n kern, voor %1 procent belast</numerusform>
+            <numerusform>%n kernen, de zwaarst belaste op %1 procent</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 van %2 gebruikt, %3 procent. Druk %4 procent, %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1, uit %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row of the menu: what it is, and its figure</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 (%3)</source>
         <extracomment>A row of the menu: what it is, its figure and a remark on it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">Processor</translation>
+        <translation>Processor</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">Geheugen</translation>
+        <translation>Geheugen</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">%1 van %2</translation>
+        <translation>%1 van %2</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">Druk</translation>
+        <translation>Druk</translation>
     </message>
     <message>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">Thermische toestand</translation>
+        <translation>Thermische toestand</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Netwerk</translation>
+        <translation>Netwerk</translation>
     </message>
 </context>
 <context>
     <name>Question</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleer</translation>
     </message>
 </context>
 <context>
@@ -1648,259 +1709,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, grafische kaart, videokaart, 3d, gaming, spellen</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ai, ki, ml, machine learning, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>scherm, display, monitor</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>video, codec</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>stroom, accu, batterij</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>internet, online</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>veiligheid, bescherming</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>computernaam, hostnaam, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>model</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, systeemversie, macos, linux, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>actief sinds, uptime, herstart, opnieuw opstarten</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>temperatuur, hitte, warmte, throttling, ventilator</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, hypervisor</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, chip, soc</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu-kernen, cores</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu-kernen, cores, threads, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>kloksnelheid, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, werkgeheugen, intern geheugen</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, videogeheugen</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, schrijfhulp, taalmodel</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ai, ki</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, verversingssnelheid</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, helderheid</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, gamut, kleurruimte</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>pixels, hertz, hz, 4k, 5k, verversingssnelheid</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, video decoderen, videodecodering</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, video coderen, videocodering</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, video decoderen, videodecodering</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, video coderen, videocodering</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, foto’s, fotos, afbeeldingen</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>speakers, boxen, geluid, audio</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>mic, geluid, audio</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>mic, toestemming, privacy</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>webcam, toestemming, privacy</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, luidsprekers, speakers, koptelefoon</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, microfoon</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>audio, geluid</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>bemonsteringsfrequentie, samplefrequentie, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>schijfruimte, schijfgrootte</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>vrije ruimte, schijfruimte, vol</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, station, harde schijf, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>partitie, station</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>stekker, stopcontact, lichtnet</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>oplader, lader, voeding, watt</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>maximale capaciteit, slijtage, veroudering</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>batterijduur, accuduur, gebruiksduur</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>energiebesparing, spaarstand</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, draadloos</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, draadloos, ontvangst, bereik</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, draadloos, snelheid</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>ip-adres</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, versleuteld</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>versleuteling, versleuteld, schijfversleuteling, encryptie</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>vingerafdruk, biometrie</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, beveiligingschip</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, opstartbeveiliging, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>virus, malware, antivirus</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>malware, notarisatie, app-ondertekening</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown</translation>
     </message>
 </context>
 <context>
@@ -1998,40 +2059,40 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Download: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Download: %1</translation>
     </message>
     <message>
         <source>Release notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versienotities: %1</translation>
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark heeft geen verzoek verzonden.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished">Status</translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Fout</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Adres</translation>
+        <translation>Adres</translation>
     </message>
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [j/N]</translation>
     </message>
 </context>
 <context>
@@ -2153,268 +2214,329 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 kon niet worden bereikt: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kon niet bewijzen dat het %1 is: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 heeft niet op tijd geantwoord.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het antwoord van %1 is langer dan een feed mag zijn.</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 verwijst naar een ander adres, dat niet is gevolgd: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 heeft geantwoord met status %2 in plaats van een feed.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het antwoord van %1 is geen feed: het declareert een documenttype.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het antwoord van %1 is geen feed: het is een ander soort XML.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het antwoord van %1 is geen feed: er staat meer in dan in welke feed ook.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mag Quillmark bij %1 naar nieuwere versies vragen: nu, en hoogstens één keer per dag wanneer het venster wordt geopend?</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het verzoek bevat de versie van Quillmark en niets over jou of deze computer. Er wordt niets geïnstalleerd.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 is beschikbaar, een versie die je wilde overslaan. Je hebt versie %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 is beschikbaar, een belangrijke update. Je hebt versie %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 is beschikbaar. Je hebt versie %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 is up-to-date.</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark kon niet nagaan of er een nieuwere versie is.</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er is niets aan %1 gevraagd, omdat je daar geen toestemming voor hebt gegeven.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Het adres van de updatefeed is geen https-adres: %1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er is niets aan %1 gevraagd, omdat het logboek van verzoeken niet kan worden geschreven.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het antwoord van %1 is geen feed: het is geen XML, of maar een deel ervan.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::AboutDialog</name>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Over Quillmark</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versie %1</translation>
     </message>
     <message>
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vertelt je wat je Mac echt kan.
+Alles wat wordt gelezen, blijft op deze Mac.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertelt je wat je computer echt kan.
+Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenties</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoek naar updates</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Actions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archief</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Wijzig</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Weergave</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Venster</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Over Quillmark</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoek naar updates…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop</translation>
     </message>
     <message>
         <source>Inspect Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Onderzoek opnieuw</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporteer…</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluit venster</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieer</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieer als tekst</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecteer alles</translation>
     </message>
     <message>
         <source>Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoek…</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwijder</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Overzicht</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation type="unfinished"></translation>
+        <translation>Scangeschiedenis</translation>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterijconditie</translation>
     </message>
     <message>
         <source>Live Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Live monitor</translation>
     </message>
     <message>
         <source>Previous Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige sectie</translation>
     </message>
     <message>
         <source>Next Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Volgende sectie</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Terug</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Verberg navigatiekolom</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Schermvullende weergave</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimaliseer</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles op voorgrond</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark Help</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished"></translation>
+        <translation>Wat is er nieuw</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>van de ontwerpcapaciteit</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>Huidige capaciteit</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>Ontwerpcapaciteit</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>Lading</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Aantal cycli</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Staat</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">Batterijconditie</translation>
+        <translation>Batterijconditie</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Conditie</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>Huidige capaciteit als deel van de ontwerpcapaciteit. 80% of meer is goed.</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Aantal cycli</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>Eén cyclus is één volledige ontlading, ook als die over meerdere dagen is verspreid.</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>Warmte veroudert een batterij sneller dan gebruik. Houd haar uit de zon.</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>Vandaag gelezen om %1. De cijfers komen van de regelaar in de batterij zelf en kunnen per meting iets verschillen.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieer</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieer waarde</translation>
     </message>
 </context>
 <context>
@@ -2422,27 +2544,27 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation type="unfinished">2 min</translation>
+        <translation>2 min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished">1 min</translation>
+        <translation>1 min</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished">Nu</translation>
+        <translation>Nu</translation>
     </message>
 </context>
 <context>
@@ -2450,214 +2572,210 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gewijzigd: %1, van %2 naar %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Toegevoegd: %1, %2</translation>
     </message>
     <message>
         <source>Removed: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwijderd: %1, %2</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
         <extracomment>A line of text: label, value before, value now</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 → %3</translation>
     </message>
     <message>
         <source>%1: added, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: toegevoegd, %2</translation>
     </message>
     <message>
         <source>%1: removed, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: verwijderd, %2</translation>
     </message>
     <message>
         <source>%1: %2 · %3 · %4 · %5</source>
         <extracomment>The head of a comparison: &quot;Older: 12 November 2025, 19:20 · Nora’s Mac · macOS 26.1 · 82%&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 · %3 · %4 · %5</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschillen</translation>
     </message>
     <message>
         <source>score</source>
         <extracomment>Below a figure: the capability score</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>score</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n regel</numerusform>
+            <numerusform>%1, %n regels</numerusform>
         </translation>
     </message>
     <message>
         <source>All changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle wijzigingen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>Scangeschiedenis wissen?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n bewaarde scan wordt verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
+            <numerusform>Alle %n bewaarde scans worden verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>Wis geschiedenis</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Gereed</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze Mac wordt onderzocht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze computer wordt onderzocht…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontdek wat deze Mac echt kan</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontdek wat deze computer echt kan</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elke mogelijkheid van je hardware en systeem, met een duidelijke status.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>Elf secties, één score</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>Van processor en graphics tot codecs, beeldschermen en beveiliging.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Elke wijziging wordt bewaard</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergelijk twee willekeurige scans en zie wat een update heeft veranderd.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>Je gegevens blijven hier</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er wordt niets over deze Mac verzonden. Quillmark gaat alleen online om naar eigen updates te zoeken.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er wordt niets over deze computer verzonden. Quillmark gaat alleen online om naar eigen updates te zoeken.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoek automatisch naar updates</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vraagt hoogstens één keer per dag bij %1 na en meldt daarbij alleen de versie van Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon de live monitor in de menubalk</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon de live monitor in het systeemvak</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>Aan de slag</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bij openen van Quillmark:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scangeschiedenis:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Privacy:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon het overzicht</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon het laatst gebruikte scherm</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon in Finder</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon in bestandsbeheer</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wis geschiedenis…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wat Quillmark leest, blijft op deze Mac.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wat Quillmark leest, blijft op deze computer.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>De enige verbinding die wordt gemaakt, is het zoeken naar updates.</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scan bewaard, hoogstens %1</numerusform>
+            <numerusform>%n scans bewaard, hoogstens %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2665,168 +2783,168 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::Header</name>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Gekopieerd</translation>
     </message>
     <message>
         <source>Search capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoek mogelijkheden</translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>Wis zoekopdracht</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Terug</translation>
     </message>
     <message>
         <source>Inspect again</source>
-        <translation type="unfinished"></translation>
+        <translation>Onderzoek opnieuw</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieer als tekst</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporteer…</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Menu (F10)</source>
         <extracomment>Tool tip of the button that opens the menus, with its key</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Menu (F10)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">Capaciteitsscore</translation>
+        <translation>Capaciteitsscore</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capaciteitsscore %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">%1 geheugen</translation>
+        <translation>%1 geheugen</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">%1 opslag</translation>
+        <translation>%1 opslag</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">Deel van de beoordeelde mogelijkheden dat deze Mac ondersteunt</translation>
+        <translation>Deel van de beoordeelde mogelijkheden dat deze Mac ondersteunt</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">Deel van de beoordeelde mogelijkheden dat deze computer ondersteunt</translation>
+        <translation>Deel van de beoordeelde mogelijkheden dat deze computer ondersteunt</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">Niets is beoordeeld</translation>
+        <translation>Niets is beoordeeld</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 van %n mogelijkheid</numerusform>
+            <numerusform>%1 van %n mogelijkheden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 procent, %2 van %n mogelijkheid ondersteund</numerusform>
+            <numerusform>%1 procent, %2 van %n mogelijkheden ondersteund</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze Mac wordt onderzocht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze computer wordt onderzocht…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit duurt langer dan gewoonlijk</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardware en systeeminstellingen worden gelezen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryDelegate</name>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwijder</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryModel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Vandaag</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Gisteren</translation>
     </message>
     <message>
         <source>This month</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze maand</translation>
     </message>
     <message>
         <source>Other Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Mac</translation>
     </message>
     <message>
         <source>Other computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere computer</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
         <extracomment>A saved scan for screen readers: date, system, counts of three statuses, what it changed</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3, %4, %5, %6</translation>
     </message>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ondersteund</numerusform>
+            <numerusform>%n ondersteund</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n niet ondersteund</numerusform>
+            <numerusform>%n niet ondersteund</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n waarschuwing</numerusform>
+            <numerusform>%n waarschuwingen</numerusform>
         </translation>
     </message>
 </context>
@@ -2834,102 +2952,102 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::HistoryView</name>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergelijk scans</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>Scangeschiedenis</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er wordt een scan bewaard zodra er iets is gewijzigd. De nieuwste 200 blijven op deze Mac.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er wordt een scan bewaard zodra er iets is gewijzigd. De nieuwste 200 blijven op deze computer.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark bewaart een scan telkens wanneer een onderzoek iets nieuws vindt. Onderzoek deze Mac om de eerste te bewaren.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark bewaart een scan telkens wanneer een onderzoek iets nieuws vindt. Onderzoek deze computer om de eerste te bewaren.</translation>
     </message>
     <message>
         <source>Inspect now</source>
-        <translation type="unfinished"></translation>
+        <translation>Onderzoek nu</translation>
     </message>
     <message>
         <source>Saved scans</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewaarde scans</translation>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Hef selectie op</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergelijk</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wis geschiedenis…</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scan bewaard</numerusform>
+            <numerusform>%n scans bewaard</numerusform>
         </translation>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation type="unfinished"></translation>
+        <translation>1 scan geselecteerd · kies er nog een</translation>
     </message>
     <message>
         <source>2 scans selected</source>
-        <translation type="unfinished"></translation>
+        <translation>2 scans geselecteerd</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>Delete this scan?</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze scan verwijderen?</translation>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>De scan van %1 wordt uit de geschiedenis verwijderd.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwijder</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>Scangeschiedenis wissen?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n bewaarde scan wordt verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
+            <numerusform>Alle %n bewaarde scans worden verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>Wis geschiedenis</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>De scangeschiedenis kon niet worden bewaard.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Een andere kopie van Quillmark gebruikt de geschiedenis. Scans die hier worden gemaakt, worden vastgehouden tot die kopie stopt.</translation>
     </message>
 </context>
 <context>
@@ -2937,268 +3055,268 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1 (%2)</source>
         <extracomment>Tool tip of a button: its name and its shortcut, &quot;Inspect again (Ctrl+R)&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taal van de interface:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorbeeld:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>Taal van de interface</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>De nieuwe taal wordt meteen gebruikt. Scans die in een andere taal zijn bewaard, kunnen nog steeds worden vergeleken.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LicencesDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenties</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">Metingen verzamelen…</translation>
+        <translation>Metingen verzamelen…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Quillmark</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarLabel</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Live monitor van Quillmark</translation>
     </message>
     <message>
         <source>Memory used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruikt geheugen: %1</translation>
     </message>
     <message>
         <source>Processor load: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Processorbelasting: %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarMonitorView</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Live monitor van Quillmark</translation>
     </message>
     <message>
         <source>Every second</source>
-        <translation type="unfinished"></translation>
+        <translation>Elke seconde</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">Metingen verzamelen…</translation>
+        <translation>Metingen verzamelen…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Quillmark</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen…</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>Menubalk:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon naast het symbool:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>Venster:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon de live monitor in de menubalk</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark blijft in de menubalk tot je het stopt</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Systeemvak:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon de live monitor in het systeemvak</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark blijft in het systeemvak tot je het stopt</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze desktopomgeving heeft geen systeemvak.</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>Processorbelasting</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruikt geheugen</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>Alleen symbool</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Blijf actief wanneer het hoofdvenster is gesloten</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MonitorView</name>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">Live monitor</translation>
+        <translation>Live monitor</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished">Elke seconde bijgewerkt · laatste 2 minuten</translation>
+        <translation>Elke seconde bijgewerkt · laatste 2 minuten</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">Metingen verzamelen…</translation>
+        <translation>Metingen verzamelen…</translation>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>De eerste meting komt over ongeveer een seconde.</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">Processor</translation>
+        <translation>Processor</translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished">Per kern</translation>
+        <translation>Per kern</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">Geheugen</translation>
+        <translation>Geheugen</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Netwerk</translation>
+        <translation>Netwerk</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">Thermische toestand</translation>
+        <translation>Thermische toestand</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished">Swap in gebruik</translation>
+        <translation>Swap in gebruik</translation>
     </message>
     <message>
         <source>All interfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle interfaces</translation>
     </message>
     <message>
         <source>On the start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Op het opstartvolume</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n kern</numerusform>
+            <numerusform>%n kernen</numerusform>
         </translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">van %1</translation>
+        <translation>van %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished">Gebruikt</translation>
+        <translation>Gebruikt</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">Druk</translation>
+        <translation>Druk</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished">In</translation>
+        <translation>In</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished">Uit</translation>
+        <translation>Uit</translation>
     </message>
     <message>
         <source>Power adapter connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtnetadapter aangesloten</translation>
     </message>
     <message>
         <source>Not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Laadt niet op</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::NoticeBar</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluit</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::OverviewPage</name>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Overzicht</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Eerste scan bewaard</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Latere scans worden ermee vergeleken</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n gewijzigd</numerusform>
             <numerusform>%n gewijzigd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n toegevoegd</numerusform>
             <numerusform>%n toegevoegd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n verwijderd</numerusform>
             <numerusform>%n verwijderd</numerusform>
         </translation>
@@ -3206,144 +3324,144 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sinds %1</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">Geen verschillen</translation>
+        <translation>Geen verschillen</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergelijk scans</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultaten voor ‘%1’</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sectie</numerusform>
+            <numerusform>%n secties</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n regel in %1</numerusform>
+            <numerusform>%n regels in %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gefilterd op: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen regels gevonden</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Niets bevat ‘%1’. Controleer de spelling of probeer een korter woord.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen enkele regel met ‘%1’ heeft de status ‘%2’.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n regel met een andere status komt overeen.</numerusform>
+            <numerusform>%n regels met een andere status komen overeen.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>Wis zoekopdracht</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen regels gevonden</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Geen enkele regel hier heeft de status ‘%1’.</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Mogelijkheden</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>Toon alle statussen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ondersteund</numerusform>
+            <numerusform>%n ondersteund</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n niet ondersteund</numerusform>
+            <numerusform>%n niet ondersteund</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n waarschuwing</numerusform>
+            <numerusform>%n waarschuwingen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n info</numerusform>
+            <numerusform>%n info</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze Mac wordt onderzocht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deze computer wordt onderzocht…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>In deze sectie is niets beoordeeld</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 van %n beoordeelde mogelijkheid ondersteund</numerusform>
+            <numerusform>%1 van %n beoordeelde mogelijkheden ondersteund</numerusform>
         </translation>
     </message>
 </context>
@@ -3351,76 +3469,76 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Algemeen</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Taal</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Menubalk</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>Systeemvak</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Instellingen</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Sidebar</name>
     <message>
         <source>Inspecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Onderzoeken…</translation>
     </message>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Navigatiekolom</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafieken in realtime: CPU, geheugen, temperatuur, batterij en netwerk</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n waarschuwing</numerusform>
+            <numerusform>%1, %n waarschuwingen</numerusform>
         </translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Overzicht</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Mogelijkheden</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Hulpmiddelen</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>Scangeschiedenis</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">Batterijconditie</translation>
+        <translation>Batterijconditie</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">Live monitor</translation>
+        <translation>Live monitor</translation>
     </message>
 </context>
 <context>
@@ -3428,93 +3546,93 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n regel</numerusform>
+            <numerusform>%1, %n regels</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
+        <translation>Mag Quillmark bij %1 vragen of er een nieuwere versie is?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraag één keer per dag</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraag alleen deze keer</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kon niet naar updates zoeken.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 is beschikbaar, een belangrijke update.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 is beschikbaar.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Je hebt versie %1.</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>Wat is er nieuw</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>Sla deze versie over</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>Download…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wat is er nieuw in Quillmark %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoek automatisch naar updates</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraagt één keer per dag bij %1 na wanneer Quillmark start</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoeken…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoek nu</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Nog nooit gezocht</translation>
     </message>
 </context>
 </TS>
