@@ -105,6 +105,59 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>قيد الشحن، تكتمل خلال %1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>قيد الشحن</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>مكتملة</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>على البطارية، متبقٍ %1</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>على البطارية</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>متصلة، لا تُشحن</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>مصممة لعدد دورات يبلغ %1</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>العادي: من 10 إلى 45&#xa0;°م</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>حسب ما يُبلغ عنه النظام</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>صحة البطارية غير مُبلَّغ عنها</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>صحة البطارية %1 بالمئة، %2</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -181,7 +234,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -250,7 +303,7 @@
     </message>
     <message>
         <source>%1&#xa0;kHz</source>
-        <translation>%1 كيلوهرتز</translation>
+        <translation>%1&#xa0;كيلوهرتز</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n channels</source>
@@ -895,7 +948,7 @@
     </message>
     <message>
         <source>%1&#xa0;Mbit/s</source>
-        <translation>%1 ميغابت/ث</translation>
+        <translation>%1&#xa0;ميغابت/ث</translation>
     </message>
     <message>
         <source>%1, full duplex</source>
@@ -1198,7 +1251,7 @@
     </message>
     <message>
         <source>%1&#xa0;GHz</source>
-        <translation>%1 غيغاهرتز</translation>
+        <translation>%1&#xa0;غيغاهرتز</translation>
     </message>
     <message>
         <source>Wi-Fi signal</source>
@@ -1237,6 +1290,14 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (ضعيفة)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;واط ساعة</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;ملي أمبير ساعة</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1251,49 +1312,49 @@
     <message>
         <source>%1, %2</source>
         <extracomment>%1: a day, %2: a time: &quot;12 November, 19:20&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1، %2</translation>
     </message>
     <message>
         <source>Today, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>اليوم، %1</translation>
     </message>
     <message>
         <source>Yesterday, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>أمس، %1</translation>
     </message>
     <message>
         <source>today, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>اليوم، %1</translation>
     </message>
     <message>
         <source>yesterday, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and yesterday, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أمس، %1</translation>
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فُحص اليوم الساعة %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فُحص أمس الساعة %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فُحص في %1</translation>
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>آخر تحقق اليوم الساعة %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>آخر تحقق أمس الساعة %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>آخر تحقق في %1</translation>
     </message>
 </context>
 <context>
@@ -1370,102 +1431,102 @@
         <source>Normal</source>
         <comment>pressure</comment>
         <extracomment>of the memory pressure</extracomment>
-        <translation type="unfinished">عادية</translation>
+        <translation>عادي</translation>
     </message>
     <message>
         <source>Elevated</source>
         <comment>pressure</comment>
-        <translation type="unfinished"></translation>
+        <translation>مرتفع</translation>
     </message>
     <message>
         <source>Critical</source>
         <comment>pressure</comment>
-        <translation type="unfinished">حرجة</translation>
+        <translation>حرج</translation>
     </message>
     <message>
         <source>No limits on performance</source>
-        <translation type="unfinished"></translation>
+        <translation>لا قيود على الأداء</translation>
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation type="unfinished"></translation>
+        <translation>دفء طفيف، بلا قيود</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>الأداء منخفض</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>الأداء منخفض بشدة</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 بالمئة، بين %2 و%3 بالمئة في آخر دقيقتين</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n نواة، أعلاها انشغالًا عند %1 بالمئة</numerusform>
+            <numerusform>نواة واحدة، منشغلة بنسبة %1 بالمئة</numerusform>
+            <numerusform>نواتان، أكثرهما انشغالًا عند %1 بالمئة</numerusform>
+            <numerusform>%n أنوية، أكثرها انشغالًا عند %1 بالمئة</numerusform>
+            <numerusform>%n نواة، أكثرها انشغالًا عند %1 بالمئة</numerusform>
+            <numerusform>%n نواة، أكثرها انشغالًا عند %1 بالمئة</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من %2 مستخدمة، %3 بالمئة. الضغط %4 بالمئة، %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation type="unfinished"></translation>
+        <translation>وارد %1، صادر %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row of the menu: what it is, and its figure</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 (%3)</source>
         <extracomment>A row of the menu: what it is, its figure and a remark on it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">المعالج</translation>
+        <translation>المعالج</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">الذاكرة</translation>
+        <translation>الذاكرة</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">%1 من %2</translation>
+        <translation>%1 من %2</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">الضغط</translation>
+        <translation>الضغط</translation>
     </message>
     <message>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>المبادلة</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">الحالة الحرارية</translation>
+        <translation>الحالة الحرارية</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">الشبكة</translation>
+        <translation>الشبكة</translation>
     </message>
 </context>
 <context>
     <name>Question</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
 </context>
 <context>
@@ -1680,259 +1741,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, بطاقة رسومات, كرت الشاشة, بطاقة فيديو, 3d, ثلاثي الأبعاد, ألعاب</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ai, ذكاء اصطناعي, ml, تعلم آلي, تعلم الآلة, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>شاشة, عرض, مونيتور</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو, مرماز, codec</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>طاقة, كهرباء, بطارية</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>إنترنت, انترنت, متصل</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>سلامة, حماية, أمن</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الكمبيوتر, اسم الجهاز, اسم المضيف, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>طراز, موديل</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, إصدار النظام, macos, linux, لينكس, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64 بت, 64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>يعمل منذ, إعادة التشغيل</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة الحرارة, حرارة, سخونة, خنق, مروحة</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, آلة افتراضية, hypervisor, مراقب افتراضي</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, شريحة, رقاقة, soc, معالج</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>أنوية cpu, أنوية المعالج, cores</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>أنوية cpu, أنوية المعالج, خيوط, threads, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>سرعة الساعة, سرعة المعالج, ghz, mhz, غيغاهرتز</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, رام, الذاكرة الرئيسية, ذاكرة الوصول العشوائي</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, ذاكرة الفيديو, ذاكرة الرسومات</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, سيري, أدوات الكتابة, نموذج لغوي</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ai, ذكاء اصطناعي</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, معدل التحديث</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, السطوع, الإضاءة</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, gamut, نطاق الألوان</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>بكسل, هرتز, hz, 4k, 5k, معدل التحديث</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, فك ترميز الفيديو, تشغيل الفيديو</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, ترميز الفيديو, تسجيل الفيديو</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, فك ترميز الفيديو, تشغيل الفيديو</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, ترميز الفيديو, تسجيل الفيديو</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, صور</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>كاميرا ويب, webcam, فيس تايم, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>سماعات, مكبر صوت, صوت</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>ميكروفون, مايك, mic, صوت</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>ميكروفون, مايك, mic, إذن, خصوصية</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>كاميرا ويب, webcam, إذن, خصوصية</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>صوت, مكبرات صوت, سماعات, سماعات رأس</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>صوت, ميكروفون, مايك</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>صوت</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل العينات, معدل أخذ العينات, hi-res, دقة عالية</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>مساحة القرص, حجم القرص</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>مساحة خالية, مساحة حرة, مساحة القرص, ممتلئ</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, محرك أقراص, قرص صلب, هارد, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>قسم, تقسيم, محرك أقراص</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>موصول بالكهرباء, كهرباء</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>شاحن, مزود طاقة, واط</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>السعة القصوى, تآكل, اهتراء, تقادم</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>عمر البطارية, مدة التشغيل</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>توفير الطاقة, موفر الطاقة</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, لاسلكي, واي فاي, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, لاسلكي, واي فاي, wifi, استقبال, إشارة</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, لاسلكي, واي فاي, wifi, سرعة</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, واي فاي, ethernet, إيثرنت, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>عنوان ip, ip</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, مشفر</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>تشفير, مشفر, تشفير القرص</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>بصمة الإصبع, بصمة, قياسات حيوية</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, شريحة أمان</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, أمان بدء التشغيل, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>فيروس, برامج ضارة, malware, مكافحة الفيروسات</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>برامج ضارة, malware, توثيق, توقيع التطبيقات</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown</translation>
     </message>
 </context>
 <context>
@@ -2038,40 +2099,40 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Download: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>التنزيل: %1</translation>
     </message>
     <message>
         <source>Release notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ملاحظات الإصدار: %1</translation>
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُرسل Quillmark أي طلب.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished">الحالة</translation>
+        <translation>الحالة</translation>
     </message>
     <message>
         <source>Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>الخطأ</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">العنوان</translation>
+        <translation>العنوان</translation>
     </message>
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [ن/ل]</translation>
     </message>
 </context>
 <context>
@@ -2197,268 +2258,329 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الوصول إلى %1: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يتمكن %1 من إثبات أنه %1: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُجب %1 في الوقت المناسب.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>رد %1 أطول مما يُسمح به لموجز التحديثات.</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يحيل %1 إلى عنوان آخر لم يُتبع: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>أجاب %1 بالحالة %2 بدلًا من موجز التحديثات.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation type="unfinished"></translation>
+        <translation>رد %1 ليس موجز تحديثات: فهو يصرّح بنوع مستند.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation type="unfinished"></translation>
+        <translation>رد %1 ليس موجز تحديثات: فهو نوع آخر من XML.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation type="unfinished"></translation>
+        <translation>رد %1 ليس موجز تحديثات: فيه أكثر مما في أي موجز.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل يُسمح لـ Quillmark بسؤال %1 عن إصدارات أحدث: الآن، ومرة واحدة في اليوم على الأكثر عند فتح نافذته؟</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحمل الطلب إصدار Quillmark ولا يحمل شيئًا عنك أو عن هذا الكمبيوتر. لا يُثبَّت أي شيء.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر Quillmark %1، وهو إصدار اخترت تخطيه. لديك الإصدار %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر Quillmark %1، وهو تحديث مهم. لديك الإصدار %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر Quillmark %1. لديك الإصدار %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>لديك أحدث إصدار: Quillmark %1.</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يتمكن Quillmark من معرفة ما إذا كان هناك إصدار أحدث.</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُسأل %1، لأنك لم توافق على ذلك.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>عنوان موجز التحديثات ليس عنوان https: %1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُسأل %1، لأنه لا يمكن كتابة سجل الطلبات.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>رد %1 ليس موجز تحديثات: فهو ليس XML، أو هو جزء منه فقط.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::AboutDialog</name>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>حول Quillmark</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار %1</translation>
     </message>
     <message>
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يُخبرك بما يمكن لهذا الـ Mac فعله حقًا.
+كل ما يقرؤه يبقى على هذا الـ Mac.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُخبرك بما يمكن لهذا الكمبيوتر فعله حقًا.
+كل ما يقرؤه يبقى على هذا الكمبيوتر.</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>التراخيص</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من وجود تحديثات</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Actions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>مساعدة</translation>
     </message>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>حول Quillmark</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من وجود تحديثات…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>إنهاء</translation>
     </message>
     <message>
         <source>Inspect Again</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة الفحص</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير…</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق النافذة</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ كنص</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد الكل</translation>
     </message>
     <message>
         <source>Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>بحث…</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>نظرة عامة</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل الفحوصات</translation>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation type="unfinished"></translation>
+        <translation>صحة البطارية</translation>
     </message>
     <message>
         <source>Live Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>المراقبة المباشرة</translation>
     </message>
     <message>
         <source>Previous Section</source>
-        <translation type="unfinished"></translation>
+        <translation>القسم السابق</translation>
     </message>
     <message>
         <source>Next Section</source>
-        <translation type="unfinished"></translation>
+        <translation>القسم التالي</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>التصفية</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>الكل</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>رجوع</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>إخفاء الشريط الجانبي</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>ملء الشاشة</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>تصغير</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>تكبير/تصغير</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>إحضار الكل إلى المقدمة</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished"></translation>
+        <translation>مساعدة Quillmark</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished"></translation>
+        <translation>ما الجديد</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>من السعة التصميمية</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>السعة الحالية</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>السعة التصميمية</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>الشحن</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>عدد الدورات</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>درجة الحرارة</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>الحالة</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">صحة البطارية</translation>
+        <translation>صحة البطارية</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>الصحة</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>السعة الحالية كنسبة من السعة التصميمية. 80% أو أكثر نسبة جيدة.</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>عدد الدورات</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>الدورة الواحدة تفريغ كامل واحد، حتى إن توزّع على عدة أيام.</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>درجة الحرارة</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>تُسرّع الحرارة تقادم البطارية أكثر من الاستخدام. أبعدها عن الشمس.</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>قُرئت اليوم الساعة %1. تأتي الأرقام من وحدة التحكم في البطارية نفسها، وقد تختلف قليلًا بين قراءة وأخرى.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ القيمة</translation>
     </message>
 </context>
 <context>
@@ -2466,27 +2588,27 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2، %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation type="unfinished">دقيقتان</translation>
+        <translation>دقيقتان</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished">دقيقة</translation>
+        <translation>دقيقة</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished">الآن</translation>
+        <translation>الآن</translation>
     </message>
 </context>
 <context>
@@ -2494,226 +2616,222 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1، %2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>تغيّر: %1، من %2 إلى %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>أُضيف: %1، %2</translation>
     </message>
     <message>
         <source>Removed: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيل: %1، %2</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
         <extracomment>A line of text: label, value before, value now</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 ← %3</translation>
     </message>
     <message>
         <source>%1: added, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: أُضيف، %2</translation>
     </message>
     <message>
         <source>%1: removed, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: أُزيل، %2</translation>
     </message>
     <message>
         <source>%1: %2 · %3 · %4 · %5</source>
         <extracomment>The head of a comparison: &quot;Older: 12 November 2025, 19:20 · Nora’s Mac · macOS 26.1 · 82%&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 · %3 · %4 · %5</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>الفروق</translation>
     </message>
     <message>
         <source>score</source>
         <extracomment>Below a figure: the capability score</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الدرجة</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1، لا صفوف</numerusform>
+            <numerusform>%1، صف واحد</numerusform>
+            <numerusform>%1، صفان</numerusform>
+            <numerusform>%1، %n صفوف</numerusform>
+            <numerusform>%1، %n صفًا</numerusform>
+            <numerusform>%1، %n صف</numerusform>
         </translation>
     </message>
     <message>
         <source>All changes</source>
-        <translation type="unfinished"></translation>
+        <translation>كل التغييرات</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد مسح سجل الفحوصات؟</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لن يُزال أي فحص.</numerusform>
+            <numerusform>سيُزال فحص محفوظ واحد. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح السجل</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>جاهز</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فحص هذا الـ Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فحص هذا الكمبيوتر…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتشف ما يمكن لهذا الـ Mac فعله حقًا</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتشف ما يمكن لهذا الكمبيوتر فعله حقًا</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>كل قدرة من قدرات العتاد والنظام، بحالة واضحة.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>أحد عشر قسمًا، ودرجة واحدة</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>من المعالج والرسومات إلى برامج الترميز والشاشات والأمان.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>كل تغيير يُحفظ</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>قارن بين أي فحصين لترى ما غيّره تحديث ما.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>بياناتك تبقى هنا</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُرسل أي شيء عن هذا الـ Mac إلى أي مكان. لا يتصل Quillmark بالإنترنت إلا للبحث عن تحديثاته.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُرسل أي شيء عن هذا الكمبيوتر إلى أي مكان. لا يتصل Quillmark بالإنترنت إلا للبحث عن تحديثاته.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من وجود تحديثات تلقائيًا</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>يسأل %1 مرة واحدة في اليوم على الأكثر، ولا يُخبره إلا بإصدار Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار المراقبة المباشرة في شريط القائمة</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار المراقبة المباشرة في منطقة الحالة</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>البدء</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>عند فتح Quillmark:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل الفحوصات:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>الخصوصية:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار النظرة العامة</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار آخر شاشة استخدمتها</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار في فايندر</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار في مدير الملفات</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح السجل…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>كل ما يقرؤه Quillmark يبقى على هذا الـ Mac.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>كل ما يقرؤه Quillmark يبقى على هذا الكمبيوتر.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال الوحيد الذي يجريه هو التحقق من وجود تحديثات.</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا فحوصات محفوظة، %1 على الأكثر</numerusform>
+            <numerusform>فحص محفوظ واحد، %1 على الأكثر</numerusform>
+            <numerusform>فحصان محفوظان، %1 على الأكثر</numerusform>
+            <numerusform>%n فحوصات محفوظة، %1 على الأكثر</numerusform>
+            <numerusform>%n فحصًا محفوظًا، %1 على الأكثر</numerusform>
+            <numerusform>%n فحص محفوظ، %1 على الأكثر</numerusform>
         </translation>
     </message>
 </context>
@@ -2721,188 +2839,188 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::Header</name>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>تم النسخ</translation>
     </message>
     <message>
         <source>Search capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث في القدرات</translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح البحث</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>رجوع</translation>
     </message>
     <message>
         <source>Inspect again</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة الفحص</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ كنص</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير…</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>القائمة</translation>
     </message>
     <message>
         <source>Menu (F10)</source>
         <extracomment>Tool tip of the button that opens the menus, with its key</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>القائمة (F10)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">درجة القدرات</translation>
+        <translation>درجة القدرات</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>درجة القدرات %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">%1 ذاكرة</translation>
+        <translation>%1 ذاكرة</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">%1 تخزين</translation>
+        <translation>%1 تخزين</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">نسبة القدرات المقيّمة التي يدعمها هذا الـ Mac</translation>
+        <translation>نسبة القدرات المقيّمة التي يدعمها هذا الـ Mac</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">نسبة القدرات المقيّمة التي يدعمها هذا الكمبيوتر</translation>
+        <translation>نسبة القدرات المقيّمة التي يدعمها هذا الكمبيوتر</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">لا شيء مقيَّم</translation>
+        <translation>لا شيء مقيَّم</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 من %n قدرة</numerusform>
+            <numerusform>%1 من قدرة واحدة</numerusform>
+            <numerusform>%1 من قدرتين</numerusform>
+            <numerusform>%1 من %n قدرات</numerusform>
+            <numerusform>%1 من %n قدرة</numerusform>
+            <numerusform>%1 من %n قدرة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 بالمئة، %2 من %n قدرة مدعومة</numerusform>
+            <numerusform>%1 بالمئة، %2 من قدرة واحدة مدعومة</numerusform>
+            <numerusform>%1 بالمئة، %2 من قدرتين مدعومة</numerusform>
+            <numerusform>%1 بالمئة، %2 من %n قدرات مدعومة</numerusform>
+            <numerusform>%1 بالمئة، %2 من %n قدرة مدعومة</numerusform>
+            <numerusform>%1 بالمئة، %2 من %n قدرة مدعومة</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فحص هذا الـ Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فحص هذا الكمبيوتر…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>يستغرق هذا وقتًا أطول من المعتاد</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ قراءة العتاد وإعدادات النظام</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryDelegate</name>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryModel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>اليوم</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>أمس</translation>
     </message>
     <message>
         <source>This month</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا الشهر</translation>
     </message>
     <message>
         <source>Other Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>جهاز Mac آخر</translation>
     </message>
     <message>
         <source>Other computer</source>
-        <translation type="unfinished"></translation>
+        <translation>كمبيوتر آخر</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1، %2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
         <extracomment>A saved scan for screen readers: date, system, counts of three statuses, what it changed</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2، %3، %4، %5، %6</translation>
     </message>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>واحدة مدعومة</numerusform>
+            <numerusform>اثنتان مدعومتان</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>واحدة غير مدعومة</numerusform>
+            <numerusform>اثنتان غير مدعومتين</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا تحذيرات</numerusform>
+            <numerusform>تحذير واحد</numerusform>
+            <numerusform>تحذيران</numerusform>
+            <numerusform>%n تحذيرات</numerusform>
+            <numerusform>%n تحذيرًا</numerusform>
+            <numerusform>%n تحذير</numerusform>
         </translation>
     </message>
 </context>
@@ -2910,110 +3028,110 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::HistoryView</name>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>مقارنة الفحوصات</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل الفحوصات</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث 200 فحص على هذا الـ Mac.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث 200 فحص على هذا الكمبيوتر.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحفظ Quillmark الفحص كلما وجد شيئًا جديدًا. افحص هذا الـ Mac لحفظ أول فحص.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحفظ Quillmark الفحص كلما وجد شيئًا جديدًا. افحص هذا الكمبيوتر لحفظ أول فحص.</translation>
     </message>
     <message>
         <source>Inspect now</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحص الآن</translation>
     </message>
     <message>
         <source>Saved scans</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحوصات المحفوظة</translation>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء التحديد</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>مقارنة</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح السجل…</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا فحوصات محفوظة</numerusform>
+            <numerusform>فحص محفوظ واحد</numerusform>
+            <numerusform>فحصان محفوظان</numerusform>
+            <numerusform>%n فحوصات محفوظة</numerusform>
+            <numerusform>%n فحصًا محفوظًا</numerusform>
+            <numerusform>%n فحص محفوظ</numerusform>
         </translation>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation type="unfinished"></translation>
+        <translation>حُدد فحص واحد · اختر فحصًا آخر</translation>
     </message>
     <message>
         <source>2 scans selected</source>
-        <translation type="unfinished"></translation>
+        <translation>حُدد فحصان</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 و%2</translation>
     </message>
     <message>
         <source>Delete this scan?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد حذف هذا الفحص؟</translation>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>سيُزال فحص %1 من السجل.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد مسح سجل الفحوصات؟</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لن يُزال أي فحص.</numerusform>
+            <numerusform>سيُزال فحص محفوظ واحد. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح السجل</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر حفظ سجل الفحوصات.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>تستخدمه نسخة أخرى من Quillmark. تُحفظ الفحوصات التي تُجرى هنا مؤقتًا إلى أن تنتهي تلك النسخة.</translation>
     </message>
 </context>
 <context>
@@ -3021,258 +3139,258 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1 (%2)</source>
         <extracomment>Tool tip of a button: its name and its shortcut, &quot;Inspect again (Ctrl+R)&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>لغة الواجهة:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>لغة الواجهة</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>تُستخدم اللغة الجديدة على الفور. لا يزال من الممكن مقارنة الفحوصات المحفوظة بلغة أخرى.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LicencesDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>التراخيص</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">جارٍ جمع العينات…</translation>
+        <translation>جارٍ جمع العينات…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح Quillmark</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>إنهاء</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarLabel</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>المراقبة المباشرة في Quillmark</translation>
     </message>
     <message>
         <source>Memory used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة المستخدمة: %1</translation>
     </message>
     <message>
         <source>Processor load: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حِمل المعالج: %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarMonitorView</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>المراقبة المباشرة في Quillmark</translation>
     </message>
     <message>
         <source>Every second</source>
-        <translation type="unfinished"></translation>
+        <translation>كل ثانية</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">جارٍ جمع العينات…</translation>
+        <translation>جارٍ جمع العينات…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح Quillmark</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات…</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>شريط القائمة:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>الإظهار بجانب الأيقونة:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>النافذة:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار المراقبة المباشرة في شريط القائمة</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>يبقى Quillmark في شريط القائمة إلى أن تقوم بإنهائه</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>منطقة الحالة:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار المراقبة المباشرة في منطقة الحالة</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>يبقى Quillmark في منطقة الحالة إلى أن تقوم بإنهائه</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد منطقة حالة في بيئة سطح المكتب هذه.</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>حِمل المعالج</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة المستخدمة</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>الأيقونة فقط</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>مواصلة التشغيل عند إغلاق النافذة الرئيسية</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MonitorView</name>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">المراقبة المباشرة</translation>
+        <translation>المراقبة المباشرة</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished">يُحدَّث كل ثانية · آخر دقيقتين</translation>
+        <translation>يُحدَّث كل ثانية · آخر دقيقتين</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">جارٍ جمع العينات…</translation>
+        <translation>جارٍ جمع العينات…</translation>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>تصل أول قراءة خلال ثانية تقريبًا.</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">المعالج</translation>
+        <translation>المعالج</translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished">لكل نواة</translation>
+        <translation>لكل نواة</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">الذاكرة</translation>
+        <translation>الذاكرة</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">الشبكة</translation>
+        <translation>الشبكة</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">الحالة الحرارية</translation>
+        <translation>الحالة الحرارية</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished">المبادلة المستخدمة</translation>
+        <translation>المبادلة المستخدمة</translation>
     </message>
     <message>
         <source>All interfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>جميع الواجهات</translation>
     </message>
     <message>
         <source>On the start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>على وحدة تخزين بدء التشغيل</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا أنوية</numerusform>
+            <numerusform>نواة واحدة</numerusform>
+            <numerusform>نواتان</numerusform>
+            <numerusform>%n أنوية</numerusform>
+            <numerusform>%n نواة</numerusform>
+            <numerusform>%n نواة</numerusform>
         </translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">من %1</translation>
+        <translation>من %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished">المستخدم</translation>
+        <translation>المستخدم</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">الضغط</translation>
+        <translation>الضغط</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished">وارد</translation>
+        <translation>وارد</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished">صادر</translation>
+        <translation>صادر</translation>
     </message>
     <message>
         <source>Power adapter connected</source>
-        <translation type="unfinished"></translation>
+        <translation>محول الطاقة متصل</translation>
     </message>
     <message>
         <source>Not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تُشحن</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::NoticeBar</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::OverviewPage</name>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>نظرة عامة</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ أول فحص</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>تُقارن به الفحوصات اللاحقة</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>لم يتغير شيء</numerusform>
             <numerusform>تغيّر واحد</numerusform>
             <numerusform>تغيّر اثنان</numerusform>
@@ -3283,7 +3401,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>لم يُضف شيء</numerusform>
             <numerusform>أُضيف واحد</numerusform>
             <numerusform>أُضيف اثنان</numerusform>
@@ -3294,7 +3412,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>لم يُزل شيء</numerusform>
             <numerusform>أُزيل واحد</numerusform>
             <numerusform>أُزيل اثنان</numerusform>
@@ -3306,176 +3424,176 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>منذ %1</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">لا فروق</translation>
+        <translation>لا فروق</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>مقارنة الفحوصات</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>نتائج البحث عن “%1”</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n قسم</numerusform>
+            <numerusform>قسم واحد</numerusform>
+            <numerusform>قسمين</numerusform>
+            <numerusform>%n أقسام</numerusform>
+            <numerusform>%n قسمًا</numerusform>
+            <numerusform>%n قسم</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا صفوف في %1</numerusform>
+            <numerusform>صف واحد في %1</numerusform>
+            <numerusform>صفان في %1</numerusform>
+            <numerusform>%n صفوف في %1</numerusform>
+            <numerusform>%n صفًا في %1</numerusform>
+            <numerusform>%n صف في %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>التصفية حسب: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صفوف مطابقة</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء يحتوي على “%1”. تحقق من الإملاء أو جرّب كلمة أقصر.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد صف يحتوي على “%1” حالته “%2”.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا صفوف مطابقة بحالات أخرى.</numerusform>
+            <numerusform>صف واحد مطابق بحالة أخرى.</numerusform>
+            <numerusform>صفان مطابقان بحالات أخرى.</numerusform>
+            <numerusform>%n صفوف مطابقة بحالات أخرى.</numerusform>
+            <numerusform>%n صفًا مطابقًا بحالات أخرى.</numerusform>
+            <numerusform>%n صف مطابق بحالات أخرى.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح البحث</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صفوف مطابقة</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد هنا صف حالته “%1”.</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>القدرات</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار جميع الحالات</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>واحدة مدعومة</numerusform>
+            <numerusform>اثنتان مدعومتان</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>واحدة غير مدعومة</numerusform>
+            <numerusform>اثنتان غير مدعومتين</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا تحذيرات</numerusform>
+            <numerusform>تحذير واحد</numerusform>
+            <numerusform>تحذيران</numerusform>
+            <numerusform>%n تحذيرات</numerusform>
+            <numerusform>%n تحذيرًا</numerusform>
+            <numerusform>%n تحذير</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا معلومات</numerusform>
+            <numerusform>معلومة واحدة</numerusform>
+            <numerusform>معلومتان</numerusform>
+            <numerusform>%n معلومات</numerusform>
+            <numerusform>%n معلومة</numerusform>
+            <numerusform>%n معلومة</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فحص هذا الـ Mac…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فحص هذا الكمبيوتر…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء مقيَّم في هذا القسم</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 من %n قدرة مقيّمة مدعومة</numerusform>
+            <numerusform>%1 من قدرة مقيّمة واحدة مدعومة</numerusform>
+            <numerusform>%1 من قدرتين مقيّمتين مدعومة</numerusform>
+            <numerusform>%1 من %n قدرات مقيّمة مدعومة</numerusform>
+            <numerusform>%1 من %n قدرة مقيّمة مدعومة</numerusform>
+            <numerusform>%1 من %n قدرة مقيّمة مدعومة</numerusform>
         </translation>
     </message>
 </context>
@@ -3483,80 +3601,80 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>عام</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>اللغة</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديثات</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>شريط القائمة</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>منطقة الحالة</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Sidebar</name>
     <message>
         <source>Inspecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الفحص…</translation>
     </message>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>الشريط الجانبي</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation type="unfinished"></translation>
+        <translation>مخططات في الوقت الفعلي للمعالج والذاكرة والحرارة والبطارية والشبكة</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1، لا تحذيرات</numerusform>
+            <numerusform>%1، تحذير واحد</numerusform>
+            <numerusform>%1، تحذيران</numerusform>
+            <numerusform>%1، %n تحذيرات</numerusform>
+            <numerusform>%1، %n تحذيرًا</numerusform>
+            <numerusform>%1، %n تحذير</numerusform>
         </translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>نظرة عامة</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>القدرات</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>الأدوات</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل الفحوصات</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">صحة البطارية</translation>
+        <translation>صحة البطارية</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">المراقبة المباشرة</translation>
+        <translation>المراقبة المباشرة</translation>
     </message>
 </context>
 <context>
@@ -3564,97 +3682,97 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1، لا صفوف</numerusform>
+            <numerusform>%1، صف واحد</numerusform>
+            <numerusform>%1، صفان</numerusform>
+            <numerusform>%1، %n صفوف</numerusform>
+            <numerusform>%1، %n صفًا</numerusform>
+            <numerusform>%1، %n صف</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>الكل</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
+        <translation>هل يُسمح لـ Quillmark بسؤال %1 عمّا إذا كان هناك إصدار أحدث؟</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>السؤال مرة في اليوم</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>السؤال هذه المرة فقط</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر التحقق من وجود تحديثات.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر Quillmark %1، وهو تحديث مهم.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر Quillmark %1.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>لديك الإصدار %1.</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>ما الجديد</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>تخطي هذا الإصدار</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>تنزيل…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ما الجديد في Quillmark %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديثات:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من وجود تحديثات تلقائيًا</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>يسأل %1 مرة في اليوم عند بدء تشغيل Quillmark</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق الآن</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يجرِ أي تحقق بعد</translation>
     </message>
 </context>
 </TS>
