@@ -158,6 +158,52 @@
     </message>
 </context>
 <context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>تقرير PDF</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>نص عادي</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>صفحات مصممة، جاهزة للطباعة أو الإرسال</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>كل القيم، للبرامج النصية والأدوات</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>جداول للملاحظات ومواقع الويكي والمشكلات</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>النص نفسه كما في “نسخ كنص”</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>إظهار في فايندر</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>إظهار في مدير الملفات</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1355,6 +1401,39 @@
     <message>
         <source>Last checked on %1</source>
         <translation>آخر تحقق في %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>لا أقسام، كما فُحصت اليوم الساعة %1.</numerusform>
+            <numerusform>القسم الوحيد، كما فُحص اليوم الساعة %1.</numerusform>
+            <numerusform>القسمان، كما فُحصا اليوم الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت اليوم الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت اليوم الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت اليوم الساعة %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>لا أقسام، كما فُحصت أمس الساعة %1.</numerusform>
+            <numerusform>القسم الوحيد، كما فُحص أمس الساعة %1.</numerusform>
+            <numerusform>القسمان، كما فُحصا أمس الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت أمس الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت أمس الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت أمس الساعة %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>لا أقسام، كما فُحصت في %1.</numerusform>
+            <numerusform>القسم الوحيد، كما فُحص في %1.</numerusform>
+            <numerusform>القسمان، كما فُحصا في %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت في %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت في %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت في %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2684,8 +2763,12 @@ Everything it reads stays on this computer.</source>
         <source>Clear the scan history?</source>
         <translation>هل تريد مسح سجل الفحوصات؟</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>مسح السجل</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>لن يُزال أي فحص.</numerusform>
             <numerusform>سيُزال فحص محفوظ واحد. لا يمكن التراجع عن ذلك.</numerusform>
@@ -2695,9 +2778,50 @@ Everything it reads stays on this computer.</source>
             <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>لا صفحات، US Letter</numerusform>
+            <numerusform>صفحة واحدة، US Letter</numerusform>
+            <numerusform>صفحتان، US Letter</numerusform>
+            <numerusform>%n صفحات، US Letter</numerusform>
+            <numerusform>%n صفحة، US Letter</numerusform>
+            <numerusform>%n صفحة، US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>لا صفحات، A4</numerusform>
+            <numerusform>صفحة واحدة، A4</numerusform>
+            <numerusform>صفحتان، A4</numerusform>
+            <numerusform>%n صفحات، A4</numerusform>
+            <numerusform>%n صفحة، A4</numerusform>
+            <numerusform>%n صفحة، A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>مسح السجل</translation>
+        <source>Export inspection</source>
+        <translation>تصدير الفحص</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>استبعاد الأسماء والعناوين</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>معاينة</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>تصدير…</translation>
     </message>
 </context>
 <context>
@@ -2799,14 +2923,6 @@ Everything it reads stays on this computer.</source>
         <translation>إظهار آخر شاشة استخدمتها</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>إظهار في فايندر</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>إظهار في مدير الملفات</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>مسح السجل…</translation>
     </message>
@@ -2823,7 +2939,7 @@ Everything it reads stays on this computer.</source>
         <translation>الاتصال الوحيد الذي يجريه هو التحقق من وجود تحديثات.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>لا فحوصات محفوظة، %1 على الأكثر</numerusform>
@@ -3433,6 +3549,21 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Compare scans</source>
         <translation>مقارنة الفحوصات</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>تصدير الفحص</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>حُفظ التقرير.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>اختيار مكان آخر…</translation>
     </message>
 </context>
 <context>

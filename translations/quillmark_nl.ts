@@ -158,6 +158,52 @@
     </message>
 </context>
 <context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>PDF-rapport</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Platte tekst</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>Vormgegeven pagina’s, klaar om af te drukken of te versturen</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>Elke waarde, voor scripts en hulpmiddelen</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>Tabellen voor notities, wiki’s en issues</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>Dezelfde tekst als bij ‘Kopieer als tekst’</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Toon in Finder</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>Toon in bestandsbeheer</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1335,6 +1381,27 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Laatst gezocht: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n sectie, zoals vandaag onderzocht om %1.</numerusform>
+            <numerusform>Alle %n secties, zoals vandaag onderzocht om %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n sectie, zoals gisteren onderzocht om %1.</numerusform>
+            <numerusform>Alle %n secties, zoals gisteren onderzocht om %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n sectie, zoals onderzocht op %1.</numerusform>
+            <numerusform>Alle %n secties, zoals onderzocht op %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2636,16 +2703,53 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
         <source>Clear the scan history?</source>
         <translation>Scangeschiedenis wissen?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Wis geschiedenis</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>%n bewaarde scan wordt verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
             <numerusform>Alle %n bewaarde scans worden verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n pagina, US Letter</numerusform>
+            <numerusform>%n pagina’s, US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n pagina, A4</numerusform>
+            <numerusform>%n pagina’s, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Wis geschiedenis</translation>
+        <source>Export inspection</source>
+        <translation>Exporteer onderzoek</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>Laat namen en adressen weg</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Voorvertoning</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleer</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteer…</translation>
     </message>
 </context>
 <context>
@@ -2747,14 +2851,6 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
         <translation>Toon het laatst gebruikte scherm</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Toon in Finder</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>Toon in bestandsbeheer</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Wis geschiedenis…</translation>
     </message>
@@ -2771,7 +2867,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
         <translation>De enige verbinding die wordt gemaakt, is het zoeken naar updates.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n scan bewaard, hoogstens %1</numerusform>
@@ -3333,6 +3429,21 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <message>
         <source>Compare scans</source>
         <translation>Vergelijk scans</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>Exporteer onderzoek</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>Rapport bewaard.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>Kies een andere plaats…</translation>
     </message>
 </context>
 <context>

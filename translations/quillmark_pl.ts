@@ -158,6 +158,52 @@
     </message>
 </context>
 <context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>Raport PDF</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Zwykły tekst</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>Zaprojektowane strony, gotowe do druku lub wysłania</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>Każda wartość, dla skryptów i narzędzi</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>Tabele do notatek, wiki i zgłoszeń</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>Ten sam tekst co „Kopiuj jako tekst”</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Pokaż w Finderze</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>Pokaż w menedżerze plików</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1340,6 +1386,30 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Ostatnio szukano %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n sekcja, sprawdzona dzisiaj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone dzisiaj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone dzisiaj o %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n sekcja, sprawdzona wczoraj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone wczoraj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone wczoraj o %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n sekcja, sprawdzona %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2648,17 +2718,56 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
         <source>Clear the scan history?</source>
         <translation>Wymazać historię sprawdzeń?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Wymaż historię</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>%n zachowane sprawdzenie zostanie usunięte. Nie można tego cofnąć.</numerusform>
             <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
             <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n strona, US Letter</numerusform>
+            <numerusform>%n strony, US Letter</numerusform>
+            <numerusform>%n stron, US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n strona, A4</numerusform>
+            <numerusform>%n strony, A4</numerusform>
+            <numerusform>%n stron, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Wymaż historię</translation>
+        <source>Export inspection</source>
+        <translation>Eksport sprawdzenia</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>Pomiń nazwy i adresy</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Eksportuj…</translation>
     </message>
 </context>
 <context>
@@ -2760,14 +2869,6 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
         <translation>Pokaż ostatnio używany ekran</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Pokaż w Finderze</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>Pokaż w menedżerze plików</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Wymaż historię…</translation>
     </message>
@@ -2784,7 +2885,7 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
         <translation>Jedyne nawiązywane połączenie to szukanie uaktualnień.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>Zachowano %n sprawdzenie, najwyżej %1</numerusform>
@@ -2805,7 +2906,7 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation>Wymaż wyszukiwanie</translation>
+        <translation>Wyczyść wyszukiwanie</translation>
     </message>
     <message>
         <source>Back</source>
@@ -3361,6 +3462,21 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>Eksport sprawdzenia</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>Zachowano raport.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>Wybierz inne miejsce…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3411,7 +3527,7 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation>Wymaż wyszukiwanie</translation>
+        <translation>Wyczyść wyszukiwanie</translation>
     </message>
 </context>
 <context>
@@ -3604,7 +3720,7 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation>Zapytaj tylko teraz</translation>
+        <translation>Zapytaj tylko tym razem</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
