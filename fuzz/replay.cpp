@@ -27,7 +27,7 @@ public:
     std::string next()
     {
         auto text = m_inputs[below(m_inputs.size())];
-        for (auto count = 1 + below(6); count > 0; --count)
+        for (auto count = 1 + below(3); count > 0; --count)
             change(text);
         return text;
     }
@@ -43,11 +43,12 @@ private:
 
     void change(std::string &text)
     {
-        static const std::vector<std::string> oddities = {
-            "",   "0",    "-1",  "18446744073709551616", "1e999", "nan", "null", "[]", "{}", "\"", "\\u0000",
-            "\n", "\xff", "\xc3"};
+        static const std::vector<std::string> oddities = {"",      "0",    "-1",   "18446744073709551616",
+                                                          "1e999", "nan",  "null", "\"\"",
+                                                          "[]",    "{}",   "\"",   "\\u0000",
+                                                          "\n",    "\xff", "\xc3"};
         const auto place = below(text.size());
-        switch (below(5)) {
+        switch (below(12)) {
         case 0:
             if (!text.empty())
                 text[place] = static_cast<char>(below(256));
@@ -58,14 +59,16 @@ private:
         case 2:
             text.insert(place, piece(m_inputs[below(m_inputs.size())]));
             break;
-        case 3: { // a number or a word becomes another
-            const auto end = std::min(text.find_first_of(" \n,:}]", place), text.size());
-            text.replace(place, end - place, oddities[below(oddities.size())]);
-            break;
-        }
-        case 4:
+        case 3:
             text.resize(place);
             break;
+        default: { // a number or a word becomes another: most texts are still well-formed after that
+            const char *ends = " \n,:[]{}<>=";
+            const auto begin = text.find_last_of(ends, place) + 1;
+            const auto end = std::min(text.find_first_of(ends, begin), text.size());
+            text.replace(begin, end - begin, oddities[below(oddities.size())]);
+            break;
+        }
         }
     }
 

@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation>العادي: من 10 إلى 45&#xa0;°م</translation>
+        <translation>العادي: من ١٠ إلى ٤٥&#xa0;°م</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1%</translation>
+        <translation>%1٪</translation>
     </message>
 </context>
 <context>
@@ -1285,7 +1285,7 @@
     </message>
     <message>
         <source>%1&#xa0;%</source>
-        <translation>%1&#xa0;%</translation>
+        <translation>%1٪</translation>
     </message>
     <message>
         <source>Wi-Fi standard in use</source>
@@ -1343,6 +1343,11 @@
     <message>
         <source>%1&#xa0;mAh</source>
         <translation>%1&#xa0;ملي أمبير ساعة</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>حالة الشحن</translation>
     </message>
 </context>
 <context>
@@ -1456,7 +1461,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1%</translation>
+        <translation>%1٪</translation>
     </message>
     <message>
         <source>None</source>
@@ -1624,7 +1629,7 @@
     </message>
     <message>
         <source>Capability score: %1% (%2 of %3 rated capabilities supported)</source>
-        <translation>درجة القدرات: %1% (%2 من %3 من القدرات المقيّمة مدعومة)</translation>
+        <translation>درجة القدرات: %1٪ (%2 من %3 من القدرات المقيّمة مدعومة)</translation>
     </message>
     <message>
         <source>%1 memory</source>
@@ -1820,7 +1825,7 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, بطاقة رسومات, كرت الشاشة, بطاقة فيديو, 3d, ثلاثي الأبعاد, ألعاب</translation>
+        <translation>gpu, بطاقة رسومات, كرت الشاشة, بطاقة فيديو, 3d, ثلاثي الأبعاد, ألعاب, بطاقة الرسومات</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
@@ -1828,11 +1833,11 @@
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>شاشة, عرض, مونيتور</translation>
+        <translation>شاشة, عرض, مونيتور, مراقب</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation>فيديو, مرماز, codec</translation>
+        <translation>فيديو, مرماز, codec, ترميز</translation>
     </message>
     <message>
         <source>energy, battery</source>
@@ -1844,7 +1849,7 @@
     </message>
     <message>
         <source>safety, protection</source>
-        <translation>سلامة, حماية, أمن</translation>
+        <translation>سلامة, حماية, أمن, أمان</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
@@ -1852,7 +1857,7 @@
     </message>
     <message>
         <source>model</source>
-        <translation>طراز, موديل</translation>
+        <translation>طراز, موديل, الطراز</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
@@ -1864,7 +1869,7 @@
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>يعمل منذ, إعادة التشغيل</translation>
+        <translation>يعمل منذ, إعادة التشغيل, uptime</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
@@ -1872,7 +1877,7 @@
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation>vm, آلة افتراضية, hypervisor, مراقب افتراضي</translation>
+        <translation>vm, آلة افتراضية, hypervisor, مراقب افتراضي, جهاز ظاهري</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
@@ -1928,7 +1933,7 @@
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation>avc, h264, فك ترميز الفيديو, تشغيل الفيديو</translation>
+        <translation>avc, h264, فك ترميز الفيديو, تشغيل الفيديو, تشغيل</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
@@ -1936,7 +1941,7 @@
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation>h.265, h265, فك ترميز الفيديو, تشغيل الفيديو</translation>
+        <translation>h.265, h265, فك ترميز الفيديو, تشغيل الفيديو, تشغيل</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
@@ -1992,11 +1997,11 @@
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation>ssd, nvme, محرك أقراص, قرص صلب, هارد, hdd</translation>
+        <translation>ssd, nvme, محرك أقراص, قرص صلب, هارد, hdd, محرك</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation>قسم, تقسيم, محرك أقراص</translation>
+        <translation>قسم, تقسيم, محرك أقراص, محرك</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
@@ -2004,7 +2009,7 @@
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation>شاحن, مزود طاقة, واط</translation>
+        <translation>شاحن, مزود طاقة, واط, مصدر طاقة</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
@@ -2048,7 +2053,7 @@
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation>بصمة الإصبع, بصمة, قياسات حيوية</translation>
+        <translation>بصمة الإصبع, بصمة, قياسات حيوية, مقاييس حيوية</translation>
     </message>
     <message>
         <source>sip, rootless</source>
@@ -2064,11 +2069,11 @@
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation>فيروس, برامج ضارة, malware, مكافحة الفيروسات</translation>
+        <translation>فيروس, برامج ضارة, malware, مكافحة الفيروسات, برمجيات خبيثة, مضاد فيروسات</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation>برامج ضارة, malware, توثيق, توقيع التطبيقات</translation>
+        <translation>برامج ضارة, malware, توثيق, توقيع التطبيقات, برمجيات خبيثة</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
@@ -2178,7 +2183,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1%</translation>
+        <translation>%1٪</translation>
     </message>
     <message>
         <source>Download: %1</source>
@@ -2628,7 +2633,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation>السعة الحالية كنسبة من السعة التصميمية. 80% أو أكثر نسبة جيدة.</translation>
+        <translation>السعة الحالية كنسبة من السعة التصميمية. ٨٠٪ أو أكثر نسبة جيدة.</translation>
     </message>
     <message>
         <source>Cycle count</source>
@@ -3152,11 +3157,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث 200 فحص على هذا الـ Mac.</translation>
+        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث ٢٠٠ فحص على هذا الـ Mac.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث 200 فحص على هذا الكمبيوتر.</translation>
+        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث ٢٠٠ فحص على هذا الكمبيوتر.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
@@ -3576,7 +3581,7 @@ Everything it reads stays on this computer.</source>
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
         <translation>
-            <numerusform>%n قسم</numerusform>
+            <numerusform>لا أقسام</numerusform>
             <numerusform>قسم واحد</numerusform>
             <numerusform>قسمين</numerusform>
             <numerusform>%n أقسام</numerusform>

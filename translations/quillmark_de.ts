@@ -105,6 +105,105 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>Wird geladen, voll in %1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Wird geladen</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>Batteriebetrieb, noch %1</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>Batteriebetrieb</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>Angeschlossen, lädt nicht</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>Ausgelegt für %1 Zyklen</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>Normal: 10 bis 45&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>Vom System gemeldet</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>Batteriezustand nicht gemeldet</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>Batteriezustand %1 Prozent, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>PDF-Bericht</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Reiner Text</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>Gestaltete Seiten, bereit zum Drucken oder Senden</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>Alle Werte, für Skripte und Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>Tabellen für Notizen, Wikis und Tickets</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>Derselbe Text wie bei „Als Text kopieren“</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Im Finder zeigen</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>In der Dateiverwaltung zeigen</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1217,6 +1316,19 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (schwach)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;Wh</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Ladevorgang</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1274,6 +1386,27 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Zuletzt am %1 gesucht</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n Abschnitt, heute um %1 untersucht.</numerusform>
+            <numerusform>Alle %n Abschnitte, heute um %1 untersucht.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n Abschnitt, gestern um %1 untersucht.</numerusform>
+            <numerusform>Alle %n Abschnitte, gestern um %1 untersucht.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n Abschnitt, am %1 untersucht.</numerusform>
+            <numerusform>Alle %n Abschnitte, am %1 untersucht.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2402,10 +2535,69 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>der Nennkapazität</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>Aktuelle Kapazität</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>Nennkapazität</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>Ladestand</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Ladezyklen</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Status</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
         <translation>Batteriezustand</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>Aktuelle Kapazität als Anteil der Nennkapazität. 80&#xa0;% oder mehr sind gut.</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Ladezyklen</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>Ein Zyklus ist eine volle Entladung, auch wenn sie sich über mehrere Tage verteilt.</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>Hitze lässt eine Batterie schneller altern als Benutzung. Halten Sie sie von der Sonne fern.</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>Heute um %1 gelesen. Die Werte stammen vom Controller der Batterie selbst und können von Mal zu Mal leicht abweichen.</translation>
     </message>
 </context>
 <context>
@@ -2513,23 +2705,56 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation>Der Verlauf konnte nicht gesichert werden.</translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
         <translation>Verlauf löschen?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Verlauf löschen</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>%n gesicherte Untersuchung wird entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
             <numerusform>Alle %n gesicherten Untersuchungen werden entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n Seite, US Letter</numerusform>
+            <numerusform>%n Seiten, US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n Seite, A4</numerusform>
+            <numerusform>%n Seiten, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Verlauf löschen</translation>
+        <source>Export inspection</source>
+        <translation>Untersuchung exportieren</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>Namen und Adressen auslassen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
     </message>
 </context>
 <context>
@@ -2631,14 +2856,6 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
         <translation>Zuletzt benutzte Ansicht anzeigen</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Im Finder zeigen</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>In der Dateiverwaltung zeigen</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Verlauf löschen…</translation>
     </message>
@@ -2655,7 +2872,7 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
         <translation>Die einzige Verbindung ist die Suche nach Updates.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n Untersuchung gesichert, höchstens %1</numerusform>
@@ -3220,6 +3437,21 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>Untersuchung exportieren</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>Bericht gesichert.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>Anderen Ort wählen…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3444,7 +3676,7 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
         <translation>Darf Quillmark bei %1 fragen, ob es eine neuere Version gibt?</translation>
     </message>
     <message>

@@ -43,6 +43,30 @@
     </message>
 </context>
 <context>
+    <name>Moment</name>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n section, as inspected today at %1.</numerusform>
+            <numerusform>All %n sections, as inspected today at %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n section, as inspected yesterday at %1.</numerusform>
+            <numerusform>All %n sections, as inspected yesterday at %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n section, as inspected on %1.</numerusform>
+            <numerusform>All %n sections, as inspected on %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MonitorWords</name>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
@@ -110,7 +134,7 @@
 <context>
     <name>quillmark::app::Dialogs</name>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>%n saved scan will be removed. This can’t be undone.</numerusform>
             <numerusform>All %n saved scans will be removed. This can’t be undone.</numerusform>
@@ -118,9 +142,26 @@
     </message>
 </context>
 <context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n page, US Letter</numerusform>
+            <numerusform>%n pages, US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n page, A4</numerusform>
+            <numerusform>%n pages, A4</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::GeneralPane</name>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n scan saved, %1 at most</numerusform>

@@ -105,6 +105,105 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>Cargando, completa en %1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Cargando</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Completa</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>Con batería, quedan %1</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>Con batería</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>Conectada, sin cargar</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>Prevista para %1 ciclos</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>Normal: de 10 a 45&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>Indicado por el sistema</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>Salud de la batería no indicada</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>Salud de la batería %1 por ciento, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>Informe PDF</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Texto sin formato</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>Páginas diseñadas, listas para imprimir o enviar</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>Todos los valores, para scripts y herramientas</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>Tablas para notas, wikis e incidencias</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>El mismo texto que Copiar como texto</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Mostrar en el Finder</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>Mostrar en el gestor de archivos</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1217,6 +1316,19 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (débil)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;Wh</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Estado de carga</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1274,6 +1386,27 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Última búsqueda: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n sección, inspeccionada hoy a las %1.</numerusform>
+            <numerusform>Las %n secciones, inspeccionadas hoy a las %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n sección, inspeccionada ayer a las %1.</numerusform>
+            <numerusform>Las %n secciones, inspeccionadas ayer a las %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n sección, inspeccionada el %1.</numerusform>
+            <numerusform>Las %n secciones, inspeccionadas el %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2402,10 +2535,69 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>de la capacidad de diseño</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>Capacidad actual</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>Capacidad de diseño</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>Carga</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Número de ciclos</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Estado</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
         <translation>Salud de la batería</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salud</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>Capacidad actual como parte de la capacidad de diseño. Un 80&#xa0;% o más es bueno.</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Número de ciclos</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>Un ciclo es una descarga completa, aunque se reparta en varios días.</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>El calor envejece una batería más rápido que el uso. Mantenla lejos del sol.</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>Leído hoy a las %1. Las cifras proceden del controlador de la propia batería y pueden variar ligeramente entre lecturas.</translation>
     </message>
 </context>
 <context>
@@ -2513,23 +2705,56 @@ Todo lo que lee se queda en este ordenador.</translation>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation>No se ha podido guardar el historial.</translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
         <translation>¿Borrar el historial?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Borrar historial</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>Se eliminará %n análisis guardado. Esta acción no se puede deshacer.</numerusform>
             <numerusform>Se eliminarán los %n análisis guardados. Esta acción no se puede deshacer.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n página, carta de EE. UU.</numerusform>
+            <numerusform>%n páginas, carta de EE. UU.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n página, A4</numerusform>
+            <numerusform>%n páginas, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Borrar historial</translation>
+        <source>Export inspection</source>
+        <translation>Exportar la inspección</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>Omitir nombres y direcciones</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
     </message>
 </context>
 <context>
@@ -2631,14 +2856,6 @@ Todo lo que lee se queda en este ordenador.</translation>
         <translation>Mostrar la última pantalla utilizada</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Mostrar en el Finder</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>Mostrar en el gestor de archivos</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Borrar historial…</translation>
     </message>
@@ -2655,7 +2872,7 @@ Todo lo que lee se queda en este ordenador.</translation>
         <translation>La única conexión que hace es la búsqueda de actualizaciones.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n análisis guardado, %1 como máximo</numerusform>
@@ -3220,6 +3437,21 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>Exportar la inspección</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>Informe guardado.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>Elegir otra ubicación…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3444,7 +3676,7 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
         <translation>¿Puede Quillmark preguntar a %1 si hay una versión más reciente?</translation>
     </message>
     <message>

@@ -105,6 +105,105 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>En charge, pleine dans %1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>En charge</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Pleine</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>Sur batterie, %1 restantes</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>Sur batterie</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>Branchée, ne se charge pas</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>Prévue pour %1 cycles</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>Normal&#xa0;: 10 à 45&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>Indiqué par le système</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>État de la batterie non communiqué</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>État de la batterie %1 pour cent, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>Rapport PDF</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Texte brut</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>Pages mises en forme, prêtes à imprimer ou à envoyer</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>Toutes les valeurs, pour scripts et outils</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>Tableaux pour notes, wikis et tickets</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>Le même texte que Copier comme texte</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Afficher dans le Finder</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1217,6 +1316,19 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (faible)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;Wh</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>État de charge</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1274,6 +1386,27 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Dernière recherche le %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n section, inspectée aujourd’hui à %1.</numerusform>
+            <numerusform>Les %n sections, inspectées aujourd’hui à %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n section, inspectée hier à %1.</numerusform>
+            <numerusform>Les %n sections, inspectées hier à %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n section, inspectée le %1.</numerusform>
+            <numerusform>Les %n sections, inspectées le %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2402,10 +2535,69 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>de la capacité d’origine</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>Capacité actuelle</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>Capacité d’origine</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>Charge</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Nombre de cycles</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Condition</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
         <translation>État de la batterie</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>Capacité actuelle par rapport à la capacité d’origine. 80&#xa0;% ou plus est une bonne valeur.</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Nombre de cycles</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>Un cycle est une décharge complète, même répartie sur plusieurs jours.</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>La chaleur vieillit une batterie plus vite que l’usage. Gardez-la à l’abri du soleil.</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>Lu aujourd’hui à %1. Les chiffres viennent du contrôleur de la batterie et peuvent varier légèrement d’une lecture à l’autre.</translation>
     </message>
 </context>
 <context>
@@ -2513,23 +2705,56 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation>L’historique n’a pas pu être enregistré.</translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
         <translation>Effacer l’historique&#xa0;?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Effacer l’historique</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>%n analyse enregistrée sera supprimée. Cette action est irréversible.</numerusform>
             <numerusform>Les %n analyses enregistrées seront supprimées. Cette action est irréversible.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n page, US Letter</numerusform>
+            <numerusform>%n pages, US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n page, A4</numerusform>
+            <numerusform>%n pages, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Effacer l’historique</translation>
+        <source>Export inspection</source>
+        <translation>Exporter l’inspection</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>Omettre les noms et les adresses</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
     </message>
 </context>
 <context>
@@ -2631,14 +2856,6 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
         <translation>Afficher le dernier écran utilisé</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Afficher dans le Finder</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>Afficher dans le gestionnaire de fichiers</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Effacer l’historique…</translation>
     </message>
@@ -2655,7 +2872,7 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
         <translation>La seule connexion établie est la recherche de mises à jour.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n analyse enregistrée, %1 au plus</numerusform>
@@ -3220,6 +3437,21 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>Exporter l’inspection</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>Rapport enregistré.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>Choisir un autre emplacement…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3444,7 +3676,7 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
         <translation>Quillmark peut-il demander à %1 s’il existe une version plus récente&#xa0;?</translation>
     </message>
     <message>

@@ -105,6 +105,105 @@
     </message>
 </context>
 <context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>In carica, piena tra %1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>In carica</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Carica</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>A batteria, restano %1</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>A batteria</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>Collegata, non in carica</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>Prevista per %1 cicli</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>Normale: da 10 a 45&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>Indicato dal sistema</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>Stato della batteria non indicato</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>Stato della batteria %1 per cento, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>Report PDF</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Testo semplice</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>Pagine impaginate, pronte da stampare o inviare</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>Tutti i valori, per script e strumenti</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>Tabelle per note, wiki e segnalazioni</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>Lo stesso testo di Copia come testo</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Mostra nel Finder</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>Mostra nel gestore di file</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1217,6 +1316,19 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm (debole)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;Wh</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Stato di carica</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1274,6 +1386,27 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Ultima ricerca il %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n sezione, analizzata oggi alle %1.</numerusform>
+            <numerusform>Tutte le %n sezioni, analizzate oggi alle %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n sezione, analizzata ieri alle %1.</numerusform>
+            <numerusform>Tutte le %n sezioni, analizzate ieri alle %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n sezione, analizzata il %1.</numerusform>
+            <numerusform>Tutte le %n sezioni, analizzate il %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2402,10 +2535,69 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>della capacità di progetto</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>Capacità attuale</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>Capacità di progetto</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>Carica</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Numero di cicli</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Condizione</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
         <translation>Stato della batteria</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>Capacità attuale come quota di quella di progetto. 80% o più è un buon valore.</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>Numero di cicli</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>Un ciclo è una scarica completa, anche se distribuita su più giorni.</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>Il calore invecchia una batteria più in fretta dell’uso. Tienila lontana dal sole.</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>Letto oggi alle %1. I valori vengono dal controller della batteria e possono variare leggermente tra una lettura e l’altra.</translation>
     </message>
 </context>
 <context>
@@ -2513,23 +2705,56 @@ Tutto ciò che legge resta su questo computer.</translation>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation>Impossibile salvare la cronologia.</translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
         <translation>Cancellare la cronologia?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Cancella cronologia</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>%n scansione salvata sarà rimossa. L’operazione non può essere annullata.</numerusform>
             <numerusform>Tutte le %n scansioni salvate saranno rimosse. L’operazione non può essere annullata.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n pagina, US Letter</numerusform>
+            <numerusform>%n pagine, US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n pagina, A4</numerusform>
+            <numerusform>%n pagine, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Cancella cronologia</translation>
+        <source>Export inspection</source>
+        <translation>Esporta analisi</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>Ometti nomi e indirizzi</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Esporta…</translation>
     </message>
 </context>
 <context>
@@ -2631,14 +2856,6 @@ Tutto ciò che legge resta su questo computer.</translation>
         <translation>Mostra l’ultima schermata usata</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Mostra nel Finder</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>Mostra nel gestore di file</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Cancella cronologia…</translation>
     </message>
@@ -2655,7 +2872,7 @@ Tutto ciò che legge resta su questo computer.</translation>
         <translation>L’unica connessione è la verifica degli aggiornamenti.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n scansione salvata, al massimo %1</numerusform>
@@ -3220,6 +3437,21 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
 </context>
 <context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>Esporta analisi</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>Report salvato.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>Scegli un’altra posizione…</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
@@ -3444,7 +3676,7 @@ Tutto ciò che legge resta su questo computer.</translation>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
         <translation>Quillmark può chiedere a %1 se esiste una versione più recente?</translation>
     </message>
     <message>

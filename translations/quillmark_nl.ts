@@ -1324,6 +1324,11 @@
         <source>%1&#xa0;mAh</source>
         <translation>%1&#xa0;mAh</translation>
     </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Laadstatus</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1776,7 +1781,7 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, grafische kaart, videokaart, 3d, gaming, spellen</translation>
+        <translation>gpu, grafische kaart, videokaart, 3d, gaming, spellen, games</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
@@ -1792,7 +1797,7 @@
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>stroom, accu, batterij</translation>
+        <translation>stroom, accu, batterij, energie</translation>
     </message>
     <message>
         <source>internet, online</source>
@@ -1816,11 +1821,11 @@
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64 bit, arm, x86, rosetta</translation>
+        <translation>64 bit, arm, x86, rosetta, 64 bits</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>actief sinds, uptime, herstart, opnieuw opstarten</translation>
+        <translation>actief sinds, uptime, herstart, opnieuw opstarten, aan sinds</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
@@ -1872,7 +1877,7 @@
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation>p3, gamut, kleurruimte</translation>
+        <translation>p3, gamut, kleurruimte, kleurbereik</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
@@ -1884,7 +1889,7 @@
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation>avc, h264, video decoderen, videodecodering</translation>
+        <translation>avc, h264, video decoderen, videodecodering, afspelen</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
@@ -1892,7 +1897,7 @@
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation>h.265, h265, video decoderen, videodecodering</translation>
+        <translation>h.265, h265, video decoderen, videodecodering, afspelen</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
@@ -1956,7 +1961,7 @@
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation>stekker, stopcontact, lichtnet</translation>
+        <translation>stekker, stopcontact, lichtnet, ingeplugd, netstroom</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
@@ -1964,7 +1969,7 @@
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation>maximale capaciteit, slijtage, veroudering</translation>
+        <translation>maximale capaciteit, slijtage, veroudering, maximumcapaciteit</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
@@ -1972,23 +1977,23 @@
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation>energiebesparing, spaarstand</translation>
+        <translation>energiebesparing, spaarstand, stroombesparing</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation>wifi, wlan, draadloos</translation>
+        <translation>wifi, wlan, draadloos, wi-fi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation>wifi, wlan, draadloos, ontvangst, bereik</translation>
+        <translation>wifi, wlan, draadloos, ontvangst, bereik, wi-fi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation>wifi, wlan, draadloos, snelheid</translation>
+        <translation>wifi, wlan, draadloos, snelheid, wi-fi</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation>wifi, wlan, ethernet, lan</translation>
+        <translation>wifi, wlan, ethernet, lan, wi-fi</translation>
     </message>
     <message>
         <source>ip address</source>
@@ -2592,7 +2597,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>Vandaag gelezen om %1. De cijfers komen van de regelaar in de batterij zelf en kunnen per meting iets verschillen.</translation>
+        <translation>Vandaag gelezen om %1. De cijfers komen van de controller van de batterij zelf en kunnen per meting iets verschillen.</translation>
     </message>
 </context>
 <context>
@@ -2623,11 +2628,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation>2 min</translation>
+        <translation>2&#xa0;min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation>1 min</translation>
+        <translation>1&#xa0;min</translation>
     </message>
     <message>
         <source>Now</source>
@@ -3080,7 +3085,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation>Hef selectie op</translation>
+        <translation>Wis selectie</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -3281,7 +3286,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation>Alleen symbool</translation>
+        <translation>Alleen het symbool</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>

@@ -1329,6 +1329,11 @@
         <source>%1&#xa0;mAh</source>
         <translation>%1&#xa0;mAh</translation>
     </message>
+    <message>
+        <source>Charging</source>
+        <comment>heading</comment>
+        <translation>Stan ładowania</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1787,11 +1792,11 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, karta graficzna, karta wideo, 3d, gry</translation>
+        <translation>gpu, karta graficzna, karta wideo, 3d, gry, grafika</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ai, si, ml, uczenie maszynowe, npu, llm</translation>
+        <translation>ai, si, ml, uczenie maszynowe, npu, llm, sztuczna inteligencja</translation>
     </message>
     <message>
         <source>screen, monitor</source>
@@ -1827,11 +1832,11 @@
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64 bit, 64-bit, arm, x86, rosetta</translation>
+        <translation>64 bit, 64-bit, arm, x86, rosetta, 64 bity</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>działa od, uruchomienie, restart, uptime</translation>
+        <translation>działa od, uruchomienie, restart, uptime, włączony od, ponowne uruchomienie</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
@@ -1883,11 +1888,11 @@
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation>p3, gamut, przestrzeń barw</translation>
+        <translation>p3, gamut, przestrzeń barw, gama barw</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation>piksele, herce, hz, 4k, 5k, odświeżanie, częstotliwość odświeżania</translation>
+        <translation>piksele, herce, hz, 4k, 5k, odświeżanie, częstotliwość odświeżania, herc</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
@@ -1895,7 +1900,7 @@
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation>avc, h264, dekodowanie wideo</translation>
+        <translation>avc, h264, dekodowanie wideo, odtwarzanie</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
@@ -1903,7 +1908,7 @@
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation>h.265, h265, dekodowanie wideo</translation>
+        <translation>h.265, h265, dekodowanie wideo, odtwarzanie</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
@@ -1915,7 +1920,7 @@
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation>kamerka, kamera internetowa, facetime</translation>
+        <translation>kamerka, kamera internetowa, facetime, webcam</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
@@ -1931,7 +1936,7 @@
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation>kamerka, uprawnienia, prywatność</translation>
+        <translation>kamerka, uprawnienia, prywatność, kamera internetowa, webcam</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
@@ -1979,7 +1984,7 @@
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation>czas pracy baterii, czas działania</translation>
+        <translation>czas pracy baterii, czas działania, czas pracy na baterii</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
@@ -1995,7 +2000,7 @@
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation>wlan, bezprzewodowa, wifi, prędkość</translation>
+        <translation>wlan, bezprzewodowa, wifi, prędkość, szybkość</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
@@ -2023,11 +2028,11 @@
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation>t2, układ zabezpieczający</translation>
+        <translation>t2, układ zabezpieczający, układ bezpieczeństwa</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation>uefi, bezpieczeństwo uruchamiania, secure boot</translation>
+        <translation>uefi, bezpieczeństwo uruchamiania, secure boot, bezpieczeństwo startu</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
@@ -2295,7 +2300,7 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation>Nie można było połączyć się z %1: %2</translation>
+        <translation>Nie można połączyć się z %1: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
@@ -2637,11 +2642,11 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation>2 min</translation>
+        <translation>2&#xa0;min</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation>1 min</translation>
+        <translation>1&#xa0;min</translation>
     </message>
     <message>
         <source>Now</source>
@@ -3124,11 +3129,11 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation>Wybrano 1 sprawdzenie · wybierz jeszcze jedno</translation>
+        <translation>Zaznaczono 1 sprawdzenie · wybierz jeszcze jedno</translation>
     </message>
     <message>
         <source>2 scans selected</source>
-        <translation>Wybrano 2 sprawdzenia</translation>
+        <translation>Zaznaczono 2 sprawdzenia</translation>
     </message>
     <message>
         <source>%1 and %2</source>

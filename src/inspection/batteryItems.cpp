@@ -144,7 +144,7 @@ QList<CapabilityItem> batteryItems(const BatteryReading &reading, bool onMac,
         //: How full the battery is.
         fact(u"charge"_s, Text::tr("Charge"), percent ? percentText(*percent, formats) : notReadable()));
     // "Is Charging", "Is Charged", "Power Source State"; STATUS
-    items += passing(fact(u"charging"_s, Text::tr("Charging"),
+    items += passing(fact(u"charging"_s, Text::tr("Charging", "heading"),
                           reading.chargeState ? chargeStateText(*reading.chargeState) : notReadable()));
     // "Time to Empty", "Time to Full Charge"; ENERGY_NOW by POWER_NOW, CHARGE_NOW by CURRENT_NOW
     if (reading.timeRemaining)

@@ -75,6 +75,8 @@ struct Window
         model = static_cast<HistoryModel *>(list->model());
         view.activateWindow();
         list->setFocus(Qt::TabFocusReason);
+        if (!QTest::qWaitForWindowActive(&view))
+            qFatal("the window cannot be active here");
     }
 
     void tick(int scanNumber)

@@ -217,6 +217,7 @@ private Q_SLOTS:
         QCOMPARE(headline->accessibleName(), u"Inspecting this Mac…"_s);
         QCOMPARE(grid->cards().size(), 11);
         QVERIFY(!grid->stop()); // nothing can be opened yet
+        QVERIFY(!page->findChild<app::StatusChips *>()->isEnabled());
 
         stage.inspect();
         stage.history.record(*stage.inspection.summary(), stage.inspection.sections());

@@ -220,22 +220,31 @@ private Q_SLOTS:
     void figuresAreNumbersWithTheirUnits_data()
     {
         QTest::addColumn<QString>("figure");
-        QTest::addColumn<QStringList>("parts");
-        QTest::newRow("share") << u"23%"_s << QStringList{u"23"_s, u"%"_s};
-        QTest::newRow("unit") << u"18,96\u00a0GB"_s << QStringList{u"18,96"_s, u"GB"_s};
-        QTest::newRow("unit before") << u"%7"_s << QStringList{u"%"_s, u"7"_s};
-        QTest::newRow("other digits") << u"١٨٫٩ غيغابايت"_s << QStringList{u"١٨٫٩"_s, u"غيغابايت"_s};
-        QTest::newRow("word") << u"None"_s << QStringList{u"None"_s};
+        QTest::addColumn<QStringList>("leftToRight");
+        QTest::addColumn<QStringList>("rightToLeft");
+        QTest::newRow("share") << u"23%"_s << QStringList{u"23"_s, u"%"_s} << QStringList{u"%"_s, u"23"_s};
+        QTest::newRow("unit") << u"18,96\u00a0GB"_s << QStringList{u"18,96"_s, u"GB"_s}
+                              << QStringList{u"GB"_s, u"18,96"_s};
+        QTest::newRow("sign before") << u"%7"_s << QStringList{u"%"_s, u"7"_s} << QStringList{u"7"_s, u"%"_s};
+        const QStringList arabic = {u"١٨٫٩"_s, u"غيغابايت"_s};
+        QTest::newRow("from right to left") << u"١٨٫٩ غيغابايت"_s << arabic << arabic;
+        QTest::newRow("word") << u"None"_s << QStringList{u"None"_s} << QStringList{u"None"_s};
+        QTest::newRow("nothing") << QString() << QStringList{QString()} << QStringList{QString()};
     }
 
     void figuresAreNumbersWithTheirUnits()
     {
         QFETCH(QString, figure);
-        QFETCH(QStringList, parts);
-        QStringList texts;
-        for (const auto &part : app::figureParts(figure))
-            texts += part.text;
-        QCOMPARE(texts, parts);
+        QFETCH(QStringList, leftToRight);
+        QFETCH(QStringList, rightToLeft);
+        const auto texts = [&figure](Qt::LayoutDirection direction) {
+            QStringList result;
+            for (const auto &part : app::figureParts(figure, direction))
+                result += part.text;
+            return result;
+        };
+        QCOMPARE(texts(Qt::LeftToRight), leftToRight);
+        QCOMPARE(texts(Qt::RightToLeft), rightToLeft);
     }
 };
 

@@ -16,41 +16,31 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text in the sources with letters of its own, and what it is in the language.
-struct Translated
-{
-    QString source;
-    QRegularExpression asSource;
-    QRegularExpression asTranslation;
-};
-
-QRegularExpression pattern(const QString &text)
-{
-    auto escaped = QRegularExpression::escape(text);
-    static const QRegularExpression place(u"\\\\%(?:n|\\d)"_s);
-    return QRegularExpression(QRegularExpression::anchoredPattern(escaped.replace(place, u".+"_s)));
-}
-
-/// Those of the catalogue that are others than in English.
-QList<Translated> translatedTexts(const QString &language)
+/// What matches the English texts of the catalogue that are others in the language, with values in their
+/// places.
+QRegularExpression englishTexts(const QString &language)
 {
     QXmlStreamReader xml(
         support::contents(support::sourcePath(u"translations/quillmark_%1.ts"_s.arg(language))));
-    static const QRegularExpression word(u"[A-Za-z]{3}"_s);
-    QList<Translated> texts;
+    QSet<QString> english;
+    QSet<QString> same; // "Normal" can be the word in the language too
     QString source;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         if (xml.name() == u"source") {
             source = xml.readElementText();
-        } else if (xml.name() == u"translation" && !xml.attributes().hasAttribute("type"_L1)) {
-            const auto text = xml.readElementText(QXmlStreamReader::SkipChildElements);
-            if (!text.isEmpty() && text != source && source.contains(word))
-                texts += {source, pattern(source), pattern(text)};
+        } else if (xml.name() == u"translation") {
+            const auto text = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+            if (!text.isEmpty())
+                (text == source ? same : english) += source;
         }
     }
-    return texts;
+    static const QRegularExpression place(u"\\\\%\\d"_s);
+    QStringList patterns;
+    for (const auto &text : english - same)
+        patterns += QRegularExpression::escape(text).replace(place, u"[\\d.,]+(?:.[A-Za-z]{2})?"_s);
+    return QRegularExpression(QRegularExpression::anchoredPattern(u"(?:%1)"_s.arg(patterns.join(u'|'))));
 }
 
 /// The texts of a report that the program made, or may have made.
@@ -65,7 +55,7 @@ QStringList textsOf(const QJsonObject &report)
     return texts;
 }
 
-/// The columns in which the statuses stand behind the rows.
+/// The columns in which the words of the statuses stand: behind the rows, and as values.
 QSet<int> placesOfStatuses(const QString &page)
 {
     QSet<int> places;
@@ -102,7 +92,7 @@ void LanguagesTest::inspections_data()
 void LanguagesTest::inspections()
 {
     QFETCH(const QString, language);
-    const auto translated = translatedTexts(language);
+    const auto english = englishTexts(language);
     for (const auto &name : support::recordingNames()) {
         const auto command = u"inspect --language %1 --machine %2"_s.arg(
             language, support::sourcePath(u"machines/%1.json"_s.arg(name)));
@@ -111,14 +101,13 @@ void LanguagesTest::inspections()
         const auto report = QJsonDocument::fromJson(run.out.toUtf8()).object();
         QCOMPARE(report["language"_L1].toString(), language);
         for (const auto &text : textsOf(report)) {
-            for (const auto &[source, asSource, asTranslation] : translated)
-                QVERIFY2(!asSource.match(text).hasMatch() || asTranslation.match(text).hasMatch(),
-                         qPrintable(u"%1: “%2” is left in English"_s.arg(name, text)));
+            const bool isEnglish = language != u"en" && english.match(text).hasMatch();
+            QVERIFY2(!isEnglish, qPrintable(u"%1: “%2” is left in English"_s.arg(name, text)));
         }
 
         const auto page = support::runWith(command, {.columns = 110}).out;
         const auto places = placesOfStatuses(page);
-        QVERIFY2(places.size() == 1, qPrintable(page));
+        QVERIFY2(!places.isEmpty() && places.size() <= 2, qPrintable(page));
     }
 }
 

@@ -52,6 +52,8 @@ private Q_SLOTS:
     void papers();
     void folds_data();
     void folds();
+    void findsFolded_data();
+    void findsFolded();
     void matches_data();
     void matches();
     void manager();
@@ -272,6 +274,31 @@ void LanguageTest::folds()
     QFETCH(const QString, one);
     QFETCH(const QString, other);
     QTEST(folded(one) == folded(other), "same");
+}
+
+void LanguageTest::findsFolded_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QStringList>("found");
+    QTest::newRow("several") << u"Metal and METAL"_s << u"metal"_s << QStringList{u"Metal"_s, u"METAL"_s};
+    QTest::newRow("no overlap") << u"aaa"_s << u"aa"_s << QStringList{u"aa"_s};
+    QTest::newRow("composed") << u"Café 2"_s << u"cafe"_s << QStringList{u"Café"_s};
+    QTest::newRow("with marks") << u"Cafe\u0301 2"_s << u"cafe"_s << QStringList{u"Cafe\u0301"_s};
+    QTest::newRow("a letter that folds to two") << u"Straße 1"_s << u"STRASSE"_s << QStringList{u"Straße"_s};
+    QTest::newRow("half of such a letter") << u"Maß"_s << u"mas"_s << QStringList{u"Maß"_s};
+    QTest::newRow("after two units") << u"😀 Wi-Fi"_s << u"wi"_s << QStringList{u"Wi"_s};
+    QTest::newRow("only a mark") << u"\u0301"_s << u"a"_s << QStringList();
+}
+
+void LanguageTest::findsFolded()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, search);
+    QStringList found;
+    for (const auto &range : foldedMatches(text, folded(search)))
+        found += text.sliced(range.start, range.length);
+    QTEST(found, "found");
 }
 
 void LanguageTest::matches_data()

@@ -4,6 +4,7 @@
 #include "app/views/BatteryView.h"
 
 #include "app/Appearance.h"
+#include "app/BatteryWatch.h"
 #include "app/models/BatteryFacts.h"
 #include "app/momentTexts.h"
 #include "app/views/BatteryPanel.h"
@@ -83,7 +84,7 @@ private:
 BatteryView::BatteryView(const AppContext &context, QWidget *parent)
     : Page(parent)
     , m_context(context)
-    , m_watch(context.machine)
+    , m_watch(new BatteryWatch(context.machine, this))
     , m_explanations(new Explanations(this))
     , m_note(new TextLabel(TextRole::Small, Role::Text3, this))
     , m_none(new EmptyState(u"powerplug"_s, this))
@@ -96,10 +97,10 @@ BatteryView::BatteryView(const AppContext &context, QWidget *parent)
     for (auto *part : {static_cast<QWidget *>(m_explanations), static_cast<QWidget *>(m_note),
                        static_cast<QWidget *>(m_none)})
         part->hide();
-    connect(&m_watch, &BatteryWatch::changed, this, &BatteryView::update);
-    connect(&m_context.inspection, &inspection::Quillmark::refreshed, &m_watch, [this] {
-        if (m_watch.isShown())
-            m_watch.read();
+    connect(m_watch, &BatteryWatch::changed, this, &BatteryView::update);
+    connect(&m_context.inspection, &inspection::Quillmark::refreshed, m_watch, [this] {
+        if (m_watch->isShown())
+            m_watch->read();
     });
     setUp();
 }
@@ -146,7 +147,7 @@ void BatteryView::showEvent(QShowEvent *event)
 void BatteryView::hideEvent(QHideEvent *event)
 {
     Page::hideEvent(event);
-    m_watch.setShown(false);
+    m_watch->setShown(false);
 }
 
 bool BatteryView::eventFilter(QObject *object, QEvent *event)
@@ -158,12 +159,12 @@ bool BatteryView::eventFilter(QObject *object, QEvent *event)
 
 void BatteryView::followWindow()
 {
-    m_watch.setShown(isVisible() && !window()->isMinimized());
+    m_watch->setShown(isVisible() && !window()->isMinimized());
 }
 
 void BatteryView::update()
 {
-    const auto &batteries = m_watch.batteries();
+    const auto &batteries = m_watch->batteries();
     if (!batteries)
         return;
     while (m_panels.size() > batteries->size()) {
@@ -185,7 +186,7 @@ void BatteryView::update()
     }
     auto note = tr("Read today at %1. Figures come from the battery’s own controller and can differ slightly "
                    "between readings.")
-                    .arg(timeText(m_watch.moment(), formats));
+                    .arg(timeText(m_watch->moment(), formats));
     if (isReported)
         note += u'\n' + battery::reportedNote();
     m_note->setText(note);

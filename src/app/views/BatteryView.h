@@ -4,7 +4,6 @@
 #pragma once
 
 #include "app/AppContext.h"
-#include "app/BatteryWatch.h"
 #include "app/views/Page.h"
 
 #include <QPointer>
@@ -14,6 +13,7 @@
 namespace quillmark::app {
 
 class BatteryPanel;
+class BatteryWatch;
 class Card;
 class EmptyState;
 class TextLabel;
@@ -43,7 +43,7 @@ private:
     void followWindow();
 
     const AppContext &m_context;
-    BatteryWatch m_watch;
+    BatteryWatch *m_watch;
     std::vector<BatteryPanel *> m_panels; ///< one for each battery
     Explanations *m_explanations;
     TextLabel *m_note;

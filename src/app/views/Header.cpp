@@ -54,7 +54,7 @@ class Header::Note final : public QWidget
 public:
     explicit Note(QWidget *parent)
         : QWidget(parent)
-        , m_text(new TextLabel(TextRole::Small, Role::Text2, this))
+        , m_text(new ElidedLabel(TextRole::Small, Role::Text2, this))
     {
         auto *row = new QHBoxLayout(this);
         row->setContentsMargins({});
@@ -83,7 +83,7 @@ protected:
 
 private:
     QString m_symbol;
-    TextLabel *m_text;
+    ElidedLabel *m_text;
 };
 
 Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
@@ -102,6 +102,7 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
 {
     m_machine->setWeight(QFont::Medium);
     m_machine->hide();
+    m_title->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred); // the note gives way to it
     m_searchIcon = m_search->addAction(QIcon(), QLineEdit::LeadingPosition);
     m_clear = m_search->addAction(QIcon(), QLineEdit::TrailingPosition);
     m_clear->setVisible(false);
@@ -110,9 +111,7 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
             [this](const QString &text) { m_clear->setVisible(!text.isEmpty()); });
 
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins({});
     row->setSpacing(8);
-    row->addSpacing(20); // not a margin, which would not be mirrored; the gap comes on top
     row->addWidget(m_back);
     row->addWidget(m_machine, 1);
     row->addWidget(m_title, 1);
@@ -130,7 +129,6 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
         m_menu->setMenu(menu);
         row->addWidget(m_menu);
     }
-    row->addSpacing(12);
     m_note->hide();
     m_back->hide();
     m_pageButton->hide();
@@ -147,6 +145,7 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
     });
     connect(&Appearance::current(), &Appearance::changed, this, &Header::applyAppearance);
     applyAppearance();
+    applyMargins();
     retranslate();
 }
 
@@ -172,7 +171,7 @@ void Header::setCanGoBack(bool canGoBack)
 {
     m_back->setVisible(canGoBack);
     // The button's own margin makes up for what the bar's lacks.
-    layout()->setContentsMargins(canGoBack ? 16 : 28, 0, 20, 0);
+    applyMargins();
 }
 
 void Header::setPageAction(QAction *action)
@@ -207,6 +206,19 @@ void Header::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        applyMargins();
+}
+
+/// A layout mirrors what is in it, but not its margins.
+void Header::applyMargins()
+{
+    const int leading = m_back->isHidden() ? 28 : 16;
+    constexpr int trailing = 20;
+    if (layoutDirection() == Qt::LeftToRight)
+        layout()->setContentsMargins(leading, 0, trailing, 0);
+    else
+        layout()->setContentsMargins(trailing, 0, leading, 0);
 }
 
 void Header::paintEvent(QPaintEvent *)

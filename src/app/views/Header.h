@@ -55,6 +55,7 @@ private:
     class Note;
     void retranslate();
     void applyAppearance();
+    void applyMargins();
 
     const Actions &m_actions;
     ElidedLabel *m_machine;

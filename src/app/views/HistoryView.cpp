@@ -53,10 +53,11 @@ public:
         , compare(new Button(Button::Kind::Primary, u"arrow.left.arrow.right"_s, this))
     {
         count->setWeight(QFont::DemiBold);
+        count->setWordWrap(true);
         row = new QHBoxLayout(this);
         row->setSpacing(10);
-        row->addWidget(count);
-        row->addWidget(moments, 1);
+        row->addWidget(count, 1);
+        row->addWidget(moments, 2);
         row->addWidget(clear);
         row->addWidget(compare);
     }

@@ -14,7 +14,9 @@
 #include "monitor/LiveMonitor.h"
 #include "monitor/texts.h"
 
+#include <QFocusEvent>
 #include <QGridLayout>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -71,6 +73,7 @@ MonitorView::MonitorView(const AppContext &context, QWidget *parent)
     column()->addWidget(m_collecting);
     column()->addWidget(m_live);
     m_live->hide();
+    setFocusPolicy(Qt::TabFocus); // there is nothing in it to go to, but keys scroll it
     new Watching(context.monitor, *this);
     connect(&context.monitor, &monitor::LiveMonitor::samplesChanged, this, [this] {
         if (isVisible())
@@ -162,6 +165,26 @@ void MonitorView::retranslate()
     showModel();
 }
 
+void MonitorView::focusInEvent(QFocusEvent *event)
+{
+    Page::focusInEvent(event);
+    viewport()->update();
+}
+
+void MonitorView::focusOutEvent(QFocusEvent *event)
+{
+    Page::focusOutEvent(event);
+    viewport()->update();
+}
+
+void MonitorView::paintEvent(QPaintEvent *)
+{
+    if (!hasKeyboardFocus(*this))
+        return;
+    QPainter painter(viewport());
+    paintFocusRing(painter, viewport()->rect(), buttonRadius);
+}
+
 void MonitorView::resizeEvent(QResizeEvent *event)
 {
     Page::resizeEvent(event);
@@ -200,14 +223,14 @@ void MonitorView::showModel()
     const auto &newest = m_model.points.back();
 
     m_processorChart->setPoints(m_model.points);
-    m_processorCard->setFigures(figureParts(monitor::percentText(newest.cpu)));
+    m_processorCard->setFigures(figureParts(monitor::percentText(newest.cpu), layoutDirection()));
     const auto cores = static_cast<int>(m_model.perCore.size());
     m_cores->setLoads(m_model.perCore);
     m_coresCard->setFigures({caption(tr("%n core(s)", nullptr, cores))});
     m_coresCard->setVisible(cores > 0);
 
     m_memoryChart->setPoints(m_model.points);
-    auto memory = figureParts(monitor::memoryText(m_model.memoryUsed, formats));
+    auto memory = figureParts(monitor::memoryText(m_model.memoryUsed, formats), layoutDirection());
     //: after the memory in use: "29.4 GB of 48 GB"
     auto total = caption(tr("of %1").arg(isolated(monitor::memoryText(m_model.memoryTotal, formats))));
     total.gap = valueGap;

@@ -39,7 +39,10 @@ OverviewPage::OverviewPage(const AppContext &context, QWidget *parent)
     column()->addWidget(m_grid);
     connect(m_since, &QAbstractButton::clicked, this, &OverviewPage::comparisonAsked);
     connect(m_grid, &CardGrid::shown, this, [this](QWidget *card) { ensureWidgetVisible(card, 0, 24); });
-    connect(&context.inspection, &inspection::Quillmark::refreshed, this, &OverviewPage::fillCards);
+    connect(&context.inspection, &inspection::Quillmark::refreshed, this, [this] {
+        compareScans(); // the day may be another
+        fillCards();
+    });
     connect(&context.history, &history::ScanHistory::snapshotsChanged, this, [this] {
         compareScans();
         placeCards();

@@ -104,8 +104,11 @@ void RowsPage::inspected()
 void RowsPage::update()
 {
     const bool hasRows = m_rows.shownRows() > 0;
+    m_chips->setEnabled(isInspected());
     m_chips->setCounts(isInspected() ? std::optional(m_rows.counts()) : std::nullopt);
     m_list->setVisible(hasRows && showsList());
+    if (!m_list->isHidden())
+        m_list->doItemsLayout(); // before it is seen, not after
     m_empty->setVisible(!hasRows && showsList() && isInspected());
     setFilled(!m_empty->isHidden());
     if (!m_empty->isHidden())

@@ -21,6 +21,7 @@ CardGrid::CardGrid(QWidget *parent)
     : QWidget(parent)
     , m_grid(new QGridLayout(this))
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_grid->setContentsMargins({});
     m_grid->setSpacing(gap);
 }

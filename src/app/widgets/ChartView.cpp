@@ -43,7 +43,10 @@ ChartView::ChartView(std::vector<Series> series, QWidget *parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    connect(&Appearance::current(), &Appearance::changed, this, &ChartView::renew);
+    connect(&Appearance::current(), &Appearance::changed, this, [this] {
+        updateGeometry();
+        renew();
+    });
 }
 
 void ChartView::setAxis(double top, const QStringList &labels)
@@ -199,7 +202,6 @@ void ChartView::renew()
 {
     m_ground = {};
     m_trace.invalidate();
-    updateGeometry();
     update();
 }
 

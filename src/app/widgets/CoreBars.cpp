@@ -23,6 +23,7 @@ namespace {
 constexpr int gap = 8;
 constexpr int narrowGap = 3;
 constexpr int numberHeight = 22;
+constexpr int widestBar = 64;
 constexpr qreal barRadius = 4;
 constexpr int leastBarHeight = 24;
 
@@ -74,7 +75,8 @@ QRect CoreBars::track(int core) const
     const int rows = static_cast<int>(m_loads.size()) > inRow ? 2 : 1;
     const int place = core % inRow;
     const int between = static_cast<int>(m_loads.size()) > mostWideBars ? narrowGap : gap;
-    const qreal step = (width() + between) / qreal(inRow);
+    const qreal widest = Appearance::current().scaled(widestBar) + between;
+    const qreal step = std::min((width() + between) / qreal(inRow), widest);
     const int left = qRound(place * step);
     const int right = qRound((place + 1) * step) - between;
     const int rowHeight = height() / rows;

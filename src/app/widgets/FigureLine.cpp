@@ -23,6 +23,7 @@ namespace {
 constexpr int symbolGap = 7;
 constexpr int swatchGap = 8;
 constexpr int swatchSize = 12;
+constexpr int unitGap = 3;
 
 QFont fontOf(const Part &part)
 {
@@ -172,24 +173,26 @@ void FigureLine::paintEvent(QPaintEvent *)
     }
 }
 
-std::vector<Part> figureParts(const QString &figure)
+std::vector<Part> figureParts(const QString &figure, Qt::LayoutDirection direction)
 {
     const auto isDigit = [](QChar character) { return character.isDigit(); };
     const auto first = std::ranges::find_if(figure, isDigit);
-    if (first == figure.end())
-        return {{.text = figure, .font = TextRole::Title1}};
     const auto last = std::find_if(figure.rbegin(), figure.rend(), isDigit).base();
-    const auto words = [](const QString &text, int gap) {
-        return Part{.text = text.trimmed(), .font = TextRole::Body, .weight = QFont::DemiBold, .gap = gap};
+    const auto number = first < last ? QString(first, last - first) : figure;
+    std::vector<Part> parts = {{.text = number, .font = TextRole::Title1}};
+    const auto addWords = [&parts](auto place, const QString &text) {
+        if (!text.isEmpty())
+            parts.insert(place, {.text = text, .font = TextRole::Body, .weight = QFont::DemiBold});
     };
-    constexpr int unitGap = 3;
-    std::vector<Part> parts;
-    if (first != figure.begin())
-        parts.push_back(words(QString(figure.begin(), first - figure.begin()), 0));
-    parts.push_back(
-        {.text = QString(first, last - first), .font = TextRole::Title1, .gap = parts.empty() ? 0 : unitGap});
-    if (last != figure.end())
-        parts.push_back(words(QString(last, figure.end() - last), unitGap));
+    if (first < last) {
+        addWords(parts.end(), QString(last, figure.end() - last).trimmed());
+        addWords(parts.begin(), QString(figure.begin(), first - figure.begin()).trimmed());
+    }
+    // "23%" reads the same in a layout from right to left.
+    if (direction == Qt::RightToLeft && !figure.isRightToLeft())
+        std::ranges::reverse(parts);
+    for (auto part = parts.begin() + 1; part < parts.end(); ++part)
+        part->gap = unitGap;
     return parts;
 }
 

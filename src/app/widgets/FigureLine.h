@@ -51,7 +51,7 @@ private:
     Qt::Alignment m_alignment;
 };
 
-/// "23%" or "18.96 GB": the number in the first style, what stands around it smaller.
-std::vector<FigureLine::Part> figureParts(const QString &figure);
+/// "23%" or "18.96 GB": the number large, what stands around it smaller. For a line in this direction.
+std::vector<FigureLine::Part> figureParts(const QString &figure, Qt::LayoutDirection direction);
 
 } // namespace quillmark::app

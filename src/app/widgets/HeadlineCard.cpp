@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <deque>
 
 namespace quillmark::app {
@@ -43,7 +44,7 @@ constexpr int compactNameSize = 19; ///< where Title1 is 22
 constexpr IconTile::Shape compactIllustration{68, 16, 56};
 constexpr int progressHeight = 4;
 constexpr qreal progressShare = 0.38;
-constexpr qreal restingProgress = 0.24; ///< where the bar stands when nothing may move
+constexpr qreal restingProgress = 0.45; ///< where the bar begins, and stands when nothing may move
 constexpr int skeletonHeight = 9;
 constexpr qreal skeletonRadius = 5;
 
@@ -292,8 +293,9 @@ void HeadlineCard::paintProgress(QPainter &painter) const
           appearance.font(TextRole::Heading, QFont::Normal), Role::Text2, 3}});
     const QRectF track(place.left(), height() / 2.0 + barBelow - progressHeight / 2.0, place.width(),
                        progressHeight);
-    const qreal step = m_progress.state() == QAbstractAnimation::Running ? m_progress.currentValue().toReal()
-                                                                         : restingProgress;
+    const qreal moved =
+        m_progress.state() == QAbstractAnimation::Running ? m_progress.currentValue().toReal() : 0;
+    const qreal step = std::fmod(restingProgress + moved, 1.0);
     const qreal length = track.width() * progressShare;
     const qreal begin = track.left() - length + (track.width() + length) * step;
     const QRectF bar = QRectF(begin, track.top(), length, progressHeight).intersected(track);
