@@ -108,7 +108,7 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation>يُشحن، يكتمل خلال %1</translation>
+        <translation>قيد الشحن، تكتمل خلال %1</translation>
     </message>
     <message>
         <source>Charging</source>
@@ -120,7 +120,7 @@
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation>على البطارية، يتبقى %1</translation>
+        <translation>على البطارية، متبقٍ %1</translation>
     </message>
     <message>
         <source>On battery</source>
@@ -132,11 +132,11 @@
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation>مصممة لعدد %1 من الدورات</translation>
+        <translation>مصممة لعدد دورات يبلغ %1</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation>الطبيعي: من ١٠ إلى ٤٥&#xa0;°م</translation>
+        <translation>العادي: من ١٠ إلى ٤٥&#xa0;°م</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -145,11 +145,11 @@
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation>وفق ما أبلغ به النظام</translation>
+        <translation>حسب ما يُبلغ عنه النظام</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>لم يُبلغ عن صحة البطارية</translation>
+        <translation>صحة البطارية غير مُبلَّغ عنها</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
@@ -185,18 +185,18 @@
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation>جداول للملاحظات ومواقع الويكي والتذاكر</translation>
+        <translation>جداول للملاحظات ومواقع الويكي والمشكلات</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation>النص نفسه كما في نسخ كنص</translation>
+        <translation>النص نفسه كما في “نسخ كنص”</translation>
     </message>
 </context>
 <context>
     <name>Folder</name>
     <message>
         <source>Show in Finder</source>
-        <translation>إظهار في Finder</translation>
+        <translation>إظهار في فايندر</translation>
     </message>
     <message>
         <source>Show in file manager</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>%1&#xa0;kHz</source>
-        <translation>%1 كيلوهرتز</translation>
+        <translation>%1&#xa0;كيلوهرتز</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n channels</source>
@@ -994,7 +994,7 @@
     </message>
     <message>
         <source>%1&#xa0;Mbit/s</source>
-        <translation>%1 ميغابت/ث</translation>
+        <translation>%1&#xa0;ميغابت/ث</translation>
     </message>
     <message>
         <source>%1, full duplex</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>%1&#xa0;GHz</source>
-        <translation>%1 غيغاهرتز</translation>
+        <translation>%1&#xa0;غيغاهرتز</translation>
     </message>
     <message>
         <source>Wi-Fi signal</source>
@@ -1385,11 +1385,11 @@
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation>فُحص اليوم في %1</translation>
+        <translation>فُحص اليوم الساعة %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation>فُحص أمس في %1</translation>
+        <translation>فُحص أمس الساعة %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
@@ -1397,11 +1397,11 @@
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation>آخر تحقق اليوم في %1</translation>
+        <translation>آخر تحقق اليوم الساعة %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation>آخر تحقق أمس في %1</translation>
+        <translation>آخر تحقق أمس الساعة %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
@@ -1410,34 +1410,34 @@
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
         <translation>
-            <numerusform>لا أقسام، فُحصت اليوم في %1.</numerusform>
-            <numerusform>قسم واحد، فُحص اليوم في %1.</numerusform>
-            <numerusform>قسمان، فُحصا اليوم في %1.</numerusform>
-            <numerusform>%n أقسام، فُحصت اليوم في %1.</numerusform>
-            <numerusform>%n قسمًا، فُحصت اليوم في %1.</numerusform>
-            <numerusform>%n قسم، فُحصت اليوم في %1.</numerusform>
+            <numerusform>لا أقسام، كما فُحصت اليوم الساعة %1.</numerusform>
+            <numerusform>القسم الوحيد، كما فُحص اليوم الساعة %1.</numerusform>
+            <numerusform>القسمان، كما فُحصا اليوم الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت اليوم الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت اليوم الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت اليوم الساعة %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
         <translation>
-            <numerusform>لا أقسام، فُحصت أمس في %1.</numerusform>
-            <numerusform>قسم واحد، فُحص أمس في %1.</numerusform>
-            <numerusform>قسمان، فُحصا أمس في %1.</numerusform>
-            <numerusform>%n أقسام، فُحصت أمس في %1.</numerusform>
-            <numerusform>%n قسمًا، فُحصت أمس في %1.</numerusform>
-            <numerusform>%n قسم، فُحصت أمس في %1.</numerusform>
+            <numerusform>لا أقسام، كما فُحصت أمس الساعة %1.</numerusform>
+            <numerusform>القسم الوحيد، كما فُحص أمس الساعة %1.</numerusform>
+            <numerusform>القسمان، كما فُحصا أمس الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت أمس الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت أمس الساعة %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت أمس الساعة %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
         <translation>
-            <numerusform>لا أقسام، فُحصت في %1.</numerusform>
-            <numerusform>قسم واحد، فُحص في %1.</numerusform>
-            <numerusform>قسمان، فُحصا في %1.</numerusform>
-            <numerusform>%n أقسام، فُحصت في %1.</numerusform>
-            <numerusform>%n قسمًا، فُحصت في %1.</numerusform>
-            <numerusform>%n قسم، فُحصت في %1.</numerusform>
+            <numerusform>لا أقسام، كما فُحصت في %1.</numerusform>
+            <numerusform>القسم الوحيد، كما فُحص في %1.</numerusform>
+            <numerusform>القسمان، كما فُحصا في %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت في %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت في %1.</numerusform>
+            <numerusform>جميع الأقسام، وعددها %n، كما فُحصت في %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -1533,7 +1533,7 @@
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation>دافئ قليلًا، بلا قيود</translation>
+        <translation>دفء طفيف، بلا قيود</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
@@ -1550,17 +1550,17 @@
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
         <translation>
-            <numerusform>%n نواة، أكثرها انشغالًا عند %1 بالمئة</numerusform>
-            <numerusform>نواة واحدة، عند %1 بالمئة</numerusform>
+            <numerusform>%n نواة، أعلاها انشغالًا عند %1 بالمئة</numerusform>
+            <numerusform>نواة واحدة، منشغلة بنسبة %1 بالمئة</numerusform>
             <numerusform>نواتان، أكثرهما انشغالًا عند %1 بالمئة</numerusform>
-            <numerusform>%n نوى، أكثرها انشغالًا عند %1 بالمئة</numerusform>
+            <numerusform>%n أنوية، أكثرها انشغالًا عند %1 بالمئة</numerusform>
             <numerusform>%n نواة، أكثرها انشغالًا عند %1 بالمئة</numerusform>
             <numerusform>%n نواة، أكثرها انشغالًا عند %1 بالمئة</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation>المستخدم %1 من %2، %3 بالمئة. الضغط %4 بالمئة، %5</translation>
+        <translation>%1 من %2 مستخدمة، %3 بالمئة. الضغط %4 بالمئة، %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
@@ -1825,47 +1825,47 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, بطاقة الرسومات, كرت الشاشة, 3d, ألعاب</translation>
+        <translation>gpu, بطاقة رسومات, كرت الشاشة, بطاقة فيديو, 3d, ثلاثي الأبعاد, ألعاب, بطاقة الرسومات</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ai, ml, ذكاء اصطناعي, تعلم آلي, npu, llm</translation>
+        <translation>ai, ذكاء اصطناعي, ml, تعلم آلي, تعلم الآلة, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>شاشة, مراقب</translation>
+        <translation>شاشة, عرض, مونيتور, مراقب</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation>فيديو, ترميز</translation>
+        <translation>فيديو, مرماز, codec, ترميز</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>طاقة, بطارية</translation>
+        <translation>طاقة, كهرباء, بطارية</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation>إنترنت, متصل</translation>
+        <translation>إنترنت, انترنت, متصل</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation>أمان, حماية</translation>
+        <translation>سلامة, حماية, أمن, أمان</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation>اسم الكمبيوتر, اسم المضيف, hostname</translation>
+        <translation>اسم الكمبيوتر, اسم الجهاز, اسم المضيف, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation>الطراز</translation>
+        <translation>طراز, موديل, الطراز</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation>os, إصدار النظام, macos, linux, build</translation>
+        <translation>os, إصدار النظام, macos, linux, لينكس, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64 بت, arm, x86, rosetta</translation>
+        <translation>64 بت, 64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
@@ -1873,43 +1873,43 @@
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation>درجة الحرارة, حرارة, خنق, مروحة</translation>
+        <translation>درجة الحرارة, حرارة, سخونة, خنق, مروحة</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation>vm, جهاز ظاهري</translation>
+        <translation>vm, آلة افتراضية, hypervisor, مراقب افتراضي, جهاز ظاهري</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation>cpu, شريحة, soc</translation>
+        <translation>cpu, شريحة, رقاقة, soc, معالج</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation>أنوية cpu</translation>
+        <translation>أنوية cpu, أنوية المعالج, cores</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation>أنوية cpu, خيوط, hyper-threading</translation>
+        <translation>أنوية cpu, أنوية المعالج, خيوط, threads, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation>سرعة الساعة, ghz, mhz</translation>
+        <translation>سرعة الساعة, سرعة المعالج, ghz, mhz, غيغاهرتز</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation>ram, الذاكرة الرئيسية</translation>
+        <translation>ram, رام, الذاكرة الرئيسية, ذاكرة الوصول العشوائي</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation>vram, ذاكرة الفيديو</translation>
+        <translation>vram, ذاكرة الفيديو, ذاكرة الرسومات</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation>siri, أدوات الكتابة, نموذج لغوي</translation>
+        <translation>siri, سيري, أدوات الكتابة, نموذج لغوي</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation>ane, npu, ai</translation>
+        <translation>ane, npu, ai, ذكاء اصطناعي</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation>hdr, edr, السطوع</translation>
+        <translation>hdr, edr, السطوع, الإضاءة</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation>p3, نطاق الألوان</translation>
+        <translation>p3, gamut, نطاق الألوان</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
@@ -1933,19 +1933,19 @@
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation>avc, h264, فك ترميز الفيديو, تشغيل</translation>
+        <translation>avc, h264, فك ترميز الفيديو, تشغيل الفيديو, تشغيل</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation>avc, h264, ترميز الفيديو</translation>
+        <translation>avc, h264, ترميز الفيديو, تسجيل الفيديو</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation>h.265, h265, فك ترميز الفيديو, تشغيل</translation>
+        <translation>h.265, h265, فك ترميز الفيديو, تشغيل الفيديو, تشغيل</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation>h.265, h265, ترميز الفيديو</translation>
+        <translation>h.265, h265, ترميز الفيديو, تسجيل الفيديو</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
@@ -1953,19 +1953,19 @@
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation>كاميرا ويب, webcam, facetime</translation>
+        <translation>كاميرا ويب, webcam, فيس تايم, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation>مكبر صوت, صوت</translation>
+        <translation>سماعات, مكبر صوت, صوت</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation>ميكروفون, صوت</translation>
+        <translation>ميكروفون, مايك, mic, صوت</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation>ميكروفون, إذن, خصوصية</translation>
+        <translation>ميكروفون, مايك, mic, إذن, خصوصية</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
@@ -1973,11 +1973,11 @@
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation>صوت, مكبرات صوت, سماعات رأس</translation>
+        <translation>صوت, مكبرات صوت, سماعات, سماعات رأس</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation>صوت, ميكروفون</translation>
+        <translation>صوت, ميكروفون, مايك</translation>
     </message>
     <message>
         <source>audio</source>
@@ -1985,7 +1985,7 @@
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation>معدل العينات, hi-res</translation>
+        <translation>معدل العينات, معدل أخذ العينات, hi-res, دقة عالية</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
@@ -1993,15 +1993,15 @@
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation>مساحة حرة, مساحة القرص, ممتلئ</translation>
+        <translation>مساحة خالية, مساحة حرة, مساحة القرص, ممتلئ</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation>ssd, nvme, محرك, قرص صلب, hdd</translation>
+        <translation>ssd, nvme, محرك أقراص, قرص صلب, هارد, hdd, محرك</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation>قسم, محرك</translation>
+        <translation>قسم, تقسيم, محرك أقراص, محرك</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
@@ -2009,11 +2009,11 @@
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation>شاحن, مصدر طاقة, واط</translation>
+        <translation>شاحن, مزود طاقة, واط, مصدر طاقة</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation>السعة القصوى, تآكل, تقادم</translation>
+        <translation>السعة القصوى, تآكل, اهتراء, تقادم</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
@@ -2021,27 +2021,27 @@
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation>توفير الطاقة</translation>
+        <translation>توفير الطاقة, موفر الطاقة</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation>wlan, لاسلكي, wifi, واي فاي</translation>
+        <translation>wlan, لاسلكي, واي فاي, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation>wlan, لاسلكي, wifi, واي فاي, استقبال</translation>
+        <translation>wlan, لاسلكي, واي فاي, wifi, استقبال, إشارة</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation>wlan, لاسلكي, wifi, واي فاي, سرعة</translation>
+        <translation>wlan, لاسلكي, واي فاي, wifi, سرعة</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation>wifi, wlan, ethernet, lan, واي فاي</translation>
+        <translation>wifi, wlan, واي فاي, ethernet, إيثرنت, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation>عنوان ip</translation>
+        <translation>عنوان ip, ip</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
@@ -2053,7 +2053,7 @@
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation>بصمة, مقاييس حيوية</translation>
+        <translation>بصمة الإصبع, بصمة, قياسات حيوية, مقاييس حيوية</translation>
     </message>
     <message>
         <source>sip, rootless</source>
@@ -2069,11 +2069,11 @@
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation>فيروس, برمجيات خبيثة, مضاد فيروسات</translation>
+        <translation>فيروس, برامج ضارة, malware, مكافحة الفيروسات, برمجيات خبيثة, مضاد فيروسات</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation>برمجيات خبيثة, توثيق, توقيع التطبيقات</translation>
+        <translation>برامج ضارة, malware, توثيق, توقيع التطبيقات, برمجيات خبيثة</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
@@ -2216,7 +2216,7 @@
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation>%1 [ن/N]</translation>
+        <translation>%1 [ن/ل]</translation>
     </message>
 </context>
 <context>
@@ -2342,7 +2342,7 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation>تعذر الوصول إلى %1: %2</translation>
+        <translation>تعذّر الوصول إلى %1: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
@@ -2350,45 +2350,45 @@
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation>لم يرد %1 في الوقت المحدد.</translation>
+        <translation>لم يُجب %1 في الوقت المناسب.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation>رد %1 أطول مما يمكن أن يكون عليه الموجز.</translation>
+        <translation>رد %1 أطول مما يُسمح به لموجز التحديثات.</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation>يؤدي %1 إلى عنوان آخر لم يُتبع: %2</translation>
+        <translation>يحيل %1 إلى عنوان آخر لم يُتبع: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation>رد %1 بالحالة %2 بدلًا من موجز.</translation>
+        <translation>أجاب %1 بالحالة %2 بدلًا من موجز التحديثات.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation>رد %1 ليس موجزًا: إنه يصرح بنوع مستند.</translation>
+        <translation>رد %1 ليس موجز تحديثات: فهو يصرّح بنوع مستند.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation>رد %1 ليس موجزًا: إنه نوع آخر من XML.</translation>
+        <translation>رد %1 ليس موجز تحديثات: فهو نوع آخر من XML.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation>رد %1 ليس موجزًا: فيه أكثر مما في أي موجز.</translation>
+        <translation>رد %1 ليس موجز تحديثات: فيه أكثر مما في أي موجز.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation>هل يُسمح لـ Quillmark بسؤال %1 عن إصدارات أحدث: الآن، ومرة واحدة يوميًا كحد أقصى عند فتح النافذة؟</translation>
+        <translation>هل يُسمح لـ Quillmark بسؤال %1 عن إصدارات أحدث: الآن، ومرة واحدة في اليوم على الأكثر عند فتح نافذته؟</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation>يحمل الطلب إصدار Quillmark ولا شيء عنك أو عن هذا الكمبيوتر. لا يُثبَّت أي شيء.</translation>
+        <translation>يحمل الطلب إصدار Quillmark ولا يحمل شيئًا عنك أو عن هذا الكمبيوتر. لا يُثبَّت أي شيء.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation>يتوفر Quillmark %1، وقد اخترت تخطيه. لديك الإصدار %2.</translation>
+        <translation>يتوفر Quillmark %1، وهو إصدار اخترت تخطيه. لديك الإصدار %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
@@ -2400,27 +2400,27 @@
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation>Quillmark %1 محدَّث.</translation>
+        <translation>لديك أحدث إصدار: Quillmark %1.</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation>تعذر على Quillmark معرفة ما إذا كان هناك إصدار أحدث.</translation>
+        <translation>لم يتمكن Quillmark من معرفة ما إذا كان هناك إصدار أحدث.</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation>لم يُسأل %1 لأنك لم توافق على ذلك.</translation>
+        <translation>لم يُسأل %1، لأنك لم توافق على ذلك.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation>عنوان موجز التحديثات ليس https: %1</translation>
+        <translation>عنوان موجز التحديثات ليس عنوان https: %1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation>لم يُسأل %1 لأن سجل الطلبات لا يمكن كتابته.</translation>
+        <translation>لم يُسأل %1، لأنه لا يمكن كتابة سجل الطلبات.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation>رد %1 ليس موجزًا: إنه ليس XML أو جزء منه فقط.</translation>
+        <translation>رد %1 ليس موجز تحديثات: فهو ليس XML، أو هو جزء منه فقط.</translation>
     </message>
 </context>
 <context>
@@ -2437,13 +2437,13 @@
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation>يخبرك بما يستطيع Mac فعله حقًا.
+        <translation>يُخبرك بما يمكن لهذا الـ Mac فعله حقًا.
 كل ما يقرؤه يبقى على هذا الـ Mac.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation>يخبرك بما يستطيع الكمبيوتر فعله حقًا.
+        <translation>يُخبرك بما يمكن لهذا الكمبيوتر فعله حقًا.
 كل ما يقرؤه يبقى على هذا الكمبيوتر.</translation>
     </message>
     <message>
@@ -2551,7 +2551,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Filter</source>
-        <translation>تصفية</translation>
+        <translation>التصفية</translation>
     </message>
     <message>
         <source>All</source>
@@ -2587,7 +2587,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>What’s New</source>
-        <translation>الجديد</translation>
+        <translation>ما الجديد</translation>
     </message>
 </context>
 <context>
@@ -2618,7 +2618,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Condition</source>
-        <translation>الوضع</translation>
+        <translation>الحالة</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation>السعة الحالية كنسبة من السعة التصميمية. ٨٠٪ أو أكثر جيد.</translation>
+        <translation>السعة الحالية كنسبة من السعة التصميمية. ٨٠٪ أو أكثر نسبة جيدة.</translation>
     </message>
     <message>
         <source>Cycle count</source>
@@ -2641,7 +2641,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation>الدورة الواحدة هي تفريغ كامل، حتى لو توزع على عدة أيام.</translation>
+        <translation>الدورة الواحدة تفريغ كامل واحد، حتى إن توزّع على عدة أيام.</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -2649,11 +2649,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation>الحرارة تُهرم البطارية أسرع من الاستخدام. أبعدها عن الشمس.</translation>
+        <translation>تُسرّع الحرارة تقادم البطارية أكثر من الاستخدام. أبعدها عن الشمس.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>قُرئت اليوم في %1. الأرقام من وحدة تحكم البطارية نفسها وقد تختلف قليلًا بين القراءات.</translation>
+        <translation>قُرئت اليوم الساعة %1. تأتي الأرقام من وحدة التحكم في البطارية نفسها، وقد تختلف قليلًا بين قراءة وأخرى.</translation>
     </message>
 </context>
 <context>
@@ -2738,7 +2738,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation>الاختلافات</translation>
+        <translation>الفروق</translation>
     </message>
     <message>
         <source>score</source>
@@ -2775,12 +2775,12 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>لا توجد فحوصات محفوظة لإزالتها.</numerusform>
-            <numerusform>سيُزال الفحص المحفوظ الوحيد. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>لن يُزال أي فحص.</numerusform>
+            <numerusform>سيُزال فحص محفوظ واحد. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
         </translation>
     </message>
 </context>
@@ -2814,7 +2814,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation>حذف الأسماء والعناوين</translation>
+        <translation>استبعاد الأسماء والعناوين</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -2845,19 +2845,19 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation>اكتشف ما يستطيع هذا الـ Mac فعله حقًا</translation>
+        <translation>اكتشف ما يمكن لهذا الـ Mac فعله حقًا</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation>اكتشف ما يستطيع هذا الكمبيوتر فعله حقًا</translation>
+        <translation>اكتشف ما يمكن لهذا الكمبيوتر فعله حقًا</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation>كل قدرة في أجهزتك ونظامك، مع حالة واضحة.</translation>
+        <translation>كل قدرة من قدرات العتاد والنظام، بحالة واضحة.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation>أحد عشر قسمًا، درجة واحدة</translation>
+        <translation>أحد عشر قسمًا، ودرجة واحدة</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
@@ -2869,7 +2869,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation>قارن بين أي فحصين واعرف ما غيّره التحديث.</translation>
+        <translation>قارن بين أي فحصين لترى ما غيّره تحديث ما.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
@@ -2890,7 +2890,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation>يسأل %1 مرة واحدة يوميًا كحد أقصى، ولا يخبره إلا بإصدار Quillmark.</translation>
+        <translation>يسأل %1 مرة واحدة في اليوم على الأكثر، ولا يُخبره إلا بإصدار Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
@@ -2947,12 +2947,12 @@ Everything it reads stays on this computer.</source>
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
-            <numerusform>لا فحوصات محفوظة، %1 كحد أقصى</numerusform>
-            <numerusform>فحص واحد محفوظ، %1 كحد أقصى</numerusform>
-            <numerusform>فحصان محفوظان، %1 كحد أقصى</numerusform>
-            <numerusform>%n فحوصات محفوظة، %1 كحد أقصى</numerusform>
-            <numerusform>%n فحصًا محفوظًا، %1 كحد أقصى</numerusform>
-            <numerusform>%n فحص محفوظ، %1 كحد أقصى</numerusform>
+            <numerusform>لا فحوصات محفوظة، %1 على الأكثر</numerusform>
+            <numerusform>فحص محفوظ واحد، %1 على الأكثر</numerusform>
+            <numerusform>فحصان محفوظان، %1 على الأكثر</numerusform>
+            <numerusform>%n فحوصات محفوظة، %1 على الأكثر</numerusform>
+            <numerusform>%n فحصًا محفوظًا، %1 على الأكثر</numerusform>
+            <numerusform>%n فحص محفوظ، %1 على الأكثر</numerusform>
         </translation>
     </message>
 </context>
@@ -3069,7 +3069,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation>جارٍ قراءة الأجهزة وإعدادات النظام</translation>
+        <translation>جارٍ قراءة العتاد وإعدادات النظام</translation>
     </message>
 </context>
 <context>
@@ -3095,7 +3095,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Other Mac</source>
-        <translation>Mac آخر</translation>
+        <translation>جهاز Mac آخر</translation>
     </message>
     <message>
         <source>Other computer</source>
@@ -3114,23 +3114,23 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n supported</source>
         <translation>
-            <numerusform>%n مدعوم</numerusform>
-            <numerusform>%n مدعوم</numerusform>
-            <numerusform>%n مدعوم</numerusform>
             <numerusform>%n مدعومة</numerusform>
-            <numerusform>%n مدعومًا</numerusform>
-            <numerusform>%n مدعوم</numerusform>
+            <numerusform>واحدة مدعومة</numerusform>
+            <numerusform>اثنتان مدعومتان</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
         <translation>
-            <numerusform>%n غير مدعوم</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
             <numerusform>%n غير مدعومة</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
+            <numerusform>واحدة غير مدعومة</numerusform>
+            <numerusform>اثنتان غير مدعومتين</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3157,23 +3157,23 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>يُحفظ فحص كلما تغيّر شيء. تبقى أحدث 200 على هذا الـ Mac.</translation>
+        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث ٢٠٠ فحص على هذا الـ Mac.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>يُحفظ فحص كلما تغيّر شيء. تبقى أحدث 200 على هذا الكمبيوتر.</translation>
+        <translation>يُحفظ فحص كلما تغيّر شيء. يُحتفظ بأحدث ٢٠٠ فحص على هذا الكمبيوتر.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation>يحفظ Quillmark فحصًا كلما وجد شيئًا جديدًا. افحص هذا الـ Mac لحفظ الفحص الأول.</translation>
+        <translation>يحفظ Quillmark الفحص كلما وجد شيئًا جديدًا. افحص هذا الـ Mac لحفظ أول فحص.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation>يحفظ Quillmark فحصًا كلما وجد شيئًا جديدًا. افحص هذا الكمبيوتر لحفظ الفحص الأول.</translation>
+        <translation>يحفظ Quillmark الفحص كلما وجد شيئًا جديدًا. افحص هذا الكمبيوتر لحفظ أول فحص.</translation>
     </message>
     <message>
         <source>Inspect now</source>
-        <translation>فحص الآن</translation>
+        <translation>الفحص الآن</translation>
     </message>
     <message>
         <source>Saved scans</source>
@@ -3181,7 +3181,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation>مسح التحديد</translation>
+        <translation>إلغاء التحديد</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -3195,7 +3195,7 @@ Everything it reads stays on this computer.</source>
         <source>%n scans saved</source>
         <translation>
             <numerusform>لا فحوصات محفوظة</numerusform>
-            <numerusform>فحص واحد محفوظ</numerusform>
+            <numerusform>فحص محفوظ واحد</numerusform>
             <numerusform>فحصان محفوظان</numerusform>
             <numerusform>%n فحوصات محفوظة</numerusform>
             <numerusform>%n فحصًا محفوظًا</numerusform>
@@ -3204,12 +3204,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation>تم تحديد فحص واحد · اختر فحصًا آخر</translation>
+        <translation>حُدد فحص واحد · اختر فحصًا آخر</translation>
     </message>
     <message>
         <source>2 scans selected</source>
-        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
-        <translation>تم تحديد فحصين</translation>
+        <translation>حُدد فحصان</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -3234,12 +3233,12 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>لا توجد فحوصات محفوظة لإزالتها.</numerusform>
-            <numerusform>سيُزال الفحص المحفوظ الوحيد. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
-            <numerusform>ستُزال الفحوصات المحفوظة كلها وعددها %n. لا يمكن التراجع عن هذا.</numerusform>
+            <numerusform>لن يُزال أي فحص.</numerusform>
+            <numerusform>سيُزال فحص محفوظ واحد. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
+            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
         </translation>
     </message>
     <message>
@@ -3248,11 +3247,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation>تعذر حفظ سجل الفحوصات.</translation>
+        <translation>تعذّر حفظ سجل الفحوصات.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>نسخة أخرى من Quillmark تستخدمه. تُحفظ الفحوصات التي تُجرى هنا حتى تنتهي.</translation>
+        <translation>تستخدمه نسخة أخرى من Quillmark. تُحفظ الفحوصات التي تُجرى هنا مؤقتًا إلى أن تنتهي تلك النسخة.</translation>
     </message>
 </context>
 <context>
@@ -3279,7 +3278,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation>تُستخدم اللغة الجديدة فورًا. تظل مقارنة الفحوصات المحفوظة بلغة أخرى ممكنة.</translation>
+        <translation>تُستخدم اللغة الجديدة على الفور. لا يزال من الممكن مقارنة الفحوصات المحفوظة بلغة أخرى.</translation>
     </message>
 </context>
 <context>
@@ -3308,7 +3307,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::MenuBarLabel</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation>المراقبة المباشرة من Quillmark</translation>
+        <translation>المراقبة المباشرة في Quillmark</translation>
     </message>
     <message>
         <source>Memory used: %1</source>
@@ -3323,7 +3322,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::MenuBarMonitorView</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation>المراقبة المباشرة من Quillmark</translation>
+        <translation>المراقبة المباشرة في Quillmark</translation>
     </message>
     <message>
         <source>Every second</source>
@@ -3350,7 +3349,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation>الإظهار بجوار الأيقونة:</translation>
+        <translation>الإظهار بجانب الأيقونة:</translation>
     </message>
     <message>
         <source>Window:</source>
@@ -3362,7 +3361,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation>يبقى Quillmark في شريط القائمة حتى تنهيه</translation>
+        <translation>يبقى Quillmark في شريط القائمة إلى أن تقوم بإنهائه</translation>
     </message>
     <message>
         <source>Status area:</source>
@@ -3374,11 +3373,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation>يبقى Quillmark في منطقة الحالة حتى تنهيه</translation>
+        <translation>يبقى Quillmark في منطقة الحالة إلى أن تقوم بإنهائه</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation>لا توجد منطقة حالة في سطح المكتب هذا.</translation>
+        <translation>لا توجد منطقة حالة في بيئة سطح المكتب هذه.</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -3413,7 +3412,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
-        <translation>تصل القراءة الأولى خلال ثانية تقريبًا.</translation>
+        <translation>تصل أول قراءة خلال ثانية تقريبًا.</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -3441,7 +3440,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>All interfaces</source>
-        <translation>كل الواجهات</translation>
+        <translation>جميع الواجهات</translation>
     </message>
     <message>
         <source>On the start-up volume</source>
@@ -3450,10 +3449,10 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n core(s)</source>
         <translation>
-            <numerusform>لا نوى</numerusform>
+            <numerusform>لا أنوية</numerusform>
             <numerusform>نواة واحدة</numerusform>
             <numerusform>نواتان</numerusform>
-            <numerusform>%n نوى</numerusform>
+            <numerusform>%n أنوية</numerusform>
             <numerusform>%n نواة</numerusform>
             <numerusform>%n نواة</numerusform>
         </translation>
@@ -3485,7 +3484,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Not charging</source>
-        <translation>لا يتم الشحن</translation>
+        <translation>لا تُشحن</translation>
     </message>
 </context>
 <context>
@@ -3503,7 +3502,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation>تم حفظ الفحص الأول</translation>
+        <translation>حُفظ أول فحص</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
@@ -3512,9 +3511,9 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n changed</source>
         <translation>
-            <numerusform>تغيّر %n</numerusform>
-            <numerusform>تغيّر %n</numerusform>
-            <numerusform>تغيّر %n</numerusform>
+            <numerusform>لم يتغير شيء</numerusform>
+            <numerusform>تغيّر واحد</numerusform>
+            <numerusform>تغيّر اثنان</numerusform>
             <numerusform>تغيّر %n</numerusform>
             <numerusform>تغيّر %n</numerusform>
             <numerusform>تغيّر %n</numerusform>
@@ -3523,9 +3522,9 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n added</source>
         <translation>
-            <numerusform>أُضيف %n</numerusform>
-            <numerusform>أُضيف %n</numerusform>
-            <numerusform>أُضيف %n</numerusform>
+            <numerusform>لم يُضف شيء</numerusform>
+            <numerusform>أُضيف واحد</numerusform>
+            <numerusform>أُضيف اثنان</numerusform>
             <numerusform>أُضيف %n</numerusform>
             <numerusform>أُضيف %n</numerusform>
             <numerusform>أُضيف %n</numerusform>
@@ -3534,9 +3533,9 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n removed</source>
         <translation>
-            <numerusform>أُزيل %n</numerusform>
-            <numerusform>أُزيل %n</numerusform>
-            <numerusform>أُزيل %n</numerusform>
+            <numerusform>لم يُزل شيء</numerusform>
+            <numerusform>أُزيل واحد</numerusform>
+            <numerusform>أُزيل اثنان</numerusform>
             <numerusform>أُزيل %n</numerusform>
             <numerusform>أُزيل %n</numerusform>
             <numerusform>أُزيل %n</numerusform>
@@ -3575,7 +3574,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation>نتائج «%1»</translation>
+        <translation>نتائج البحث عن “%1”</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
@@ -3604,19 +3603,19 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>التصفية: %1</translation>
+        <translation>التصفية حسب: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation>لا صفوف مطابقة</translation>
+        <translation>لا توجد صفوف مطابقة</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation>لا شيء يحتوي على «%1». تحقق من الإملاء أو جرب كلمة أقصر.</translation>
+        <translation>لا شيء يحتوي على “%1”. تحقق من الإملاء أو جرّب كلمة أقصر.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation>لا يوجد صف يحتوي على «%1» حالته «%2».</translation>
+        <translation>لا يوجد صف يحتوي على “%1” حالته “%2”.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
@@ -3638,12 +3637,12 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation>لا صفوف مطابقة</translation>
+        <translation>لا توجد صفوف مطابقة</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>لا يوجد هنا صف حالته «%1».</translation>
+        <translation>لا يوجد هنا صف حالته “%1”.</translation>
     </message>
     <message>
         <source>Capabilities</source>
@@ -3651,7 +3650,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation>إظهار كل الحالات</translation>
+        <translation>إظهار جميع الحالات</translation>
     </message>
 </context>
 <context>
@@ -3659,23 +3658,23 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n supported</source>
         <translation>
-            <numerusform>%n مدعوم</numerusform>
-            <numerusform>%n مدعوم</numerusform>
-            <numerusform>%n مدعوم</numerusform>
             <numerusform>%n مدعومة</numerusform>
-            <numerusform>%n مدعومًا</numerusform>
-            <numerusform>%n مدعوم</numerusform>
+            <numerusform>واحدة مدعومة</numerusform>
+            <numerusform>اثنتان مدعومتان</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
+            <numerusform>%n مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
         <translation>
-            <numerusform>%n غير مدعوم</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
             <numerusform>%n غير مدعومة</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
-            <numerusform>%n غير مدعوم</numerusform>
+            <numerusform>واحدة غير مدعومة</numerusform>
+            <numerusform>اثنتان غير مدعومتين</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
+            <numerusform>%n غير مدعومة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3692,7 +3691,7 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n info</source>
         <translation>
-            <numerusform>%n معلومات</numerusform>
+            <numerusform>لا معلومات</numerusform>
             <numerusform>معلومة واحدة</numerusform>
             <numerusform>معلومتان</numerusform>
             <numerusform>%n معلومات</numerusform>
@@ -3718,7 +3717,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation>لا شيء مقيّم في هذا القسم</translation>
+        <translation>لا شيء مقيَّم في هذا القسم</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
@@ -3775,7 +3774,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation>مخططات فورية للمعالج والذاكرة والحرارة والبطارية والشبكة</translation>
+        <translation>مخططات في الوقت الفعلي للمعالج والذاكرة والحرارة والبطارية والشبكة</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
@@ -3837,19 +3836,19 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
-        <translation>هل يُسمح لـ Quillmark بسؤال %1 عما إذا كان هناك إصدار أحدث؟</translation>
+        <translation>هل يُسمح لـ Quillmark بسؤال %1 عمّا إذا كان هناك إصدار أحدث؟</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation>السؤال مرة يوميًا</translation>
+        <translation>السؤال مرة في اليوم</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation>السؤال هذه المرة</translation>
+        <translation>السؤال هذه المرة فقط</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation>تعذر التحقق من وجود تحديثات.</translation>
+        <translation>تعذّر التحقق من وجود تحديثات.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
@@ -3865,7 +3864,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>What’s new</source>
-        <translation>الجديد</translation>
+        <translation>ما الجديد</translation>
     </message>
     <message>
         <source>Skip this version</source>
@@ -3877,7 +3876,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation>الجديد في Quillmark %1</translation>
+        <translation>ما الجديد في Quillmark %1</translation>
     </message>
 </context>
 <context>
@@ -3896,7 +3895,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation>يسأل %1 مرة يوميًا عند بدء Quillmark</translation>
+        <translation>يسأل %1 مرة في اليوم عند بدء تشغيل Quillmark</translation>
     </message>
     <message>
         <source>Checking…</source>
@@ -3908,7 +3907,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Never checked</source>
-        <translation>لم يُتحقق قط</translation>
+        <translation>لم يجرِ أي تحقق بعد</translation>
     </message>
 </context>
 </TS>

@@ -108,7 +108,7 @@
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation>Laadt op, vol over %1</translation>
+        <translation>Wordt opgeladen, vol over %1</translation>
     </message>
     <message>
         <source>Charging</source>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation>Bedoeld voor %1 cycli</translation>
+        <translation>Gemaakt voor %1 cycli</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>Batterijconditie niet gemeld</translation>
+        <translation>Batterijconditie niet opgegeven</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
@@ -161,7 +161,7 @@
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation>Pdf-rapport</translation>
+        <translation>PDF-rapport</translation>
     </message>
     <message>
         <source>JSON</source>
@@ -177,19 +177,19 @@
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation>Opgemaakte pagina’s, klaar om af te drukken of te versturen</translation>
+        <translation>Vormgegeven pagina’s, klaar om af te drukken of te versturen</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation>Alle waarden, voor scripts en hulpmiddelen</translation>
+        <translation>Elke waarde, voor scripts en hulpmiddelen</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation>Tabellen voor notities, wiki’s en meldingen</translation>
+        <translation>Tabellen voor notities, wiki’s en issues</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation>Dezelfde tekst als Kopieer als tekst</translation>
+        <translation>Dezelfde tekst als bij ‘Kopieer als tekst’</translation>
     </message>
 </context>
 <context>
@@ -256,7 +256,7 @@
     </message>
     <message>
         <source>Both scans show the same capabilities. Values that change all the time, such as uptime, are not compared.</source>
-        <translation>Beide scans tonen dezelfde mogelijkheden. Waarden die steeds veranderen, zoals de tijd ingeschakeld, worden niet vergeleken.</translation>
+        <translation>Beide scans tonen dezelfde mogelijkheden. Waarden die steeds veranderen, zoals de tijd sinds opstarten, worden niet vergeleken.</translation>
     </message>
     <message>
         <source>The two scans are in different languages, so only changes of status are shown.</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Uptime</source>
-        <translation>Tijd ingeschakeld</translation>
+        <translation>Tijd sinds opstarten</translation>
     </message>
     <message>
         <source>Thermal state</source>
@@ -1365,11 +1365,11 @@
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation>Vandaag om %1 onderzocht</translation>
+        <translation>Vandaag onderzocht om %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation>Gisteren om %1 onderzocht</translation>
+        <translation>Gisteren onderzocht om %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
@@ -1377,35 +1377,35 @@
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation>Laatst vandaag om %1 gezocht</translation>
+        <translation>Laatst gezocht: vandaag om %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation>Laatst gisteren om %1 gezocht</translation>
+        <translation>Laatst gezocht: gisteren om %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation>Laatst gezocht op %1</translation>
+        <translation>Laatst gezocht: %1</translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
         <translation>
-            <numerusform>%n gedeelte, vandaag om %1 onderzocht.</numerusform>
-            <numerusform>Alle %n gedeelten, vandaag om %1 onderzocht.</numerusform>
+            <numerusform>%n sectie, zoals vandaag onderzocht om %1.</numerusform>
+            <numerusform>Alle %n secties, zoals vandaag onderzocht om %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
         <translation>
-            <numerusform>%n gedeelte, gisteren om %1 onderzocht.</numerusform>
-            <numerusform>Alle %n gedeelten, gisteren om %1 onderzocht.</numerusform>
+            <numerusform>%n sectie, zoals gisteren onderzocht om %1.</numerusform>
+            <numerusform>Alle %n secties, zoals gisteren onderzocht om %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
         <translation>
-            <numerusform>%n gedeelte, onderzocht op %1.</numerusform>
-            <numerusform>Alle %n gedeelten, onderzocht op %1.</numerusform>
+            <numerusform>%n sectie, zoals onderzocht op %1.</numerusform>
+            <numerusform>Alle %n secties, zoals onderzocht op %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -1497,7 +1497,7 @@
     </message>
     <message>
         <source>No limits on performance</source>
-        <translation>Geen prestatiebeperking</translation>
+        <translation>Geen beperking van de prestaties</translation>
     </message>
     <message>
         <source>Slightly warm, no limits</source>
@@ -1505,26 +1505,26 @@
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation>Prestaties zijn verlaagd</translation>
+        <translation>Prestaties zijn verminderd</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation>Prestaties zijn sterk verlaagd</translation>
+        <translation>Prestaties zijn sterk verminderd</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation>%1 procent, tussen %2 en %3 procent in de afgelopen 2 minuten</translation>
+        <translation>%1 procent, tussen %2 en %3 procent in de laatste 2 minuten</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
         <translation>
-            <numerusform>%n kern, op %1 procent</numerusform>
-            <numerusform>%n kernen, de drukste op %1 procent</numerusform>
+            <numerusform>%n kern, voor %1 procent belast</numerusform>
+            <numerusform>%n kernen, de zwaarst belaste op %1 procent</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation>%1 van %2 in gebruik, %3 procent. Druk %4 procent, %5</translation>
+        <translation>%1 van %2 gebruikt, %3 procent. Druk %4 procent, %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
@@ -1781,15 +1781,15 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, videokaart, grafische kaart, 3d, games</translation>
+        <translation>gpu, grafische kaart, videokaart, 3d, gaming, spellen, games</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ai, ml, machine learning, npu, llm</translation>
+        <translation>ai, ki, ml, machine learning, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>scherm, monitor</translation>
+        <translation>scherm, display, monitor</translation>
     </message>
     <message>
         <source>video, codec</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>energie, batterij, stroom</translation>
+        <translation>stroom, accu, batterij, energie</translation>
     </message>
     <message>
         <source>internet, online</source>
@@ -1821,15 +1821,15 @@
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64 bits, arm, x86, rosetta</translation>
+        <translation>64 bit, arm, x86, rosetta, 64 bits</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>aan sinds, herstart, uptime</translation>
+        <translation>actief sinds, uptime, herstart, opnieuw opstarten, aan sinds</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation>temperatuur, hitte, throttling, ventilator</translation>
+        <translation>temperatuur, hitte, warmte, throttling, ventilator</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
@@ -1841,11 +1841,11 @@
     </message>
     <message>
         <source>cpu cores</source>
-        <translation>cpu-kernen</translation>
+        <translation>cpu-kernen, cores</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation>cpu-kernen, threads, hyper-threading</translation>
+        <translation>cpu-kernen, cores, threads, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
@@ -1853,7 +1853,7 @@
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation>ram, werkgeheugen</translation>
+        <translation>ram, werkgeheugen, intern geheugen</translation>
     </message>
     <message>
         <source>vram, video memory</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation>ane, npu, ai</translation>
+        <translation>ane, npu, ai, ki</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation>p3, kleurbereik</translation>
+        <translation>p3, gamut, kleurruimte, kleurbereik</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
@@ -1889,23 +1889,23 @@
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation>avc, h264, video decoderen, afspelen</translation>
+        <translation>avc, h264, video decoderen, videodecodering, afspelen</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation>avc, h264, video coderen</translation>
+        <translation>avc, h264, video coderen, videocodering</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation>h.265, h265, video decoderen, afspelen</translation>
+        <translation>h.265, h265, video decoderen, videodecodering, afspelen</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation>h.265, h265, video coderen</translation>
+        <translation>h.265, h265, video coderen, videocodering</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation>heif, foto’s, afbeeldingen</translation>
+        <translation>heif, foto’s, fotos, afbeeldingen</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
@@ -1913,7 +1913,7 @@
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation>speakers, geluid, audio</translation>
+        <translation>speakers, boxen, geluid, audio</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
@@ -1929,7 +1929,7 @@
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation>audio, luidsprekers, koptelefoon</translation>
+        <translation>audio, luidsprekers, speakers, koptelefoon</translation>
     </message>
     <message>
         <source>audio, microphone</source>
@@ -1941,7 +1941,7 @@
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation>samplefrequentie, hi-res</translation>
+        <translation>bemonsteringsfrequentie, samplefrequentie, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
@@ -1961,39 +1961,39 @@
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation>ingeplugd, netstroom</translation>
+        <translation>stekker, stopcontact, lichtnet, ingeplugd, netstroom</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation>oplader, voeding, watt</translation>
+        <translation>oplader, lader, voeding, watt</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation>maximumcapaciteit, slijtage, veroudering</translation>
+        <translation>maximale capaciteit, slijtage, veroudering, maximumcapaciteit</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation>batterijduur, gebruiksduur</translation>
+        <translation>batterijduur, accuduur, gebruiksduur</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation>energiebesparing, stroombesparing</translation>
+        <translation>energiebesparing, spaarstand, stroombesparing</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation>wlan, draadloos, wi-fi</translation>
+        <translation>wifi, wlan, draadloos, wi-fi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation>wlan, draadloos, wi-fi, ontvangst</translation>
+        <translation>wifi, wlan, draadloos, ontvangst, bereik, wi-fi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation>wlan, draadloos, wi-fi, snelheid</translation>
+        <translation>wifi, wlan, draadloos, snelheid, wi-fi</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation>wi-fi, wlan, ethernet, lan</translation>
+        <translation>wifi, wlan, ethernet, lan, wi-fi</translation>
     </message>
     <message>
         <source>ip address</source>
@@ -2005,7 +2005,7 @@
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation>versleuteling, versleuteld, schijfversleuteling</translation>
+        <translation>versleuteling, versleuteld, schijfversleuteling, encryptie</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
@@ -2139,11 +2139,11 @@
     </message>
     <message>
         <source>Release notes: %1</source>
-        <translation>Releaseopmerkingen: %1</translation>
+        <translation>Versienotities: %1</translation>
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation>Quillmark heeft geen verzoek verstuurd.</translation>
+        <translation>Quillmark heeft geen verzoek verzonden.</translation>
     </message>
     <message>
         <source>Date</source>
@@ -2286,7 +2286,7 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation>%1 was niet bereikbaar: %2</translation>
+        <translation>%1 kon niet worden bereikt: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
@@ -2294,7 +2294,7 @@
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation>%1 antwoordde niet op tijd.</translation>
+        <translation>%1 heeft niet op tijd geantwoord.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
@@ -2307,7 +2307,7 @@
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation>%1 antwoordde met status %2 in plaats van een feed.</translation>
+        <translation>%1 heeft geantwoord met status %2 in plaats van een feed.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
@@ -2319,11 +2319,11 @@
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation>Het antwoord van %1 is geen feed: er staat meer in dan in welke ook.</translation>
+        <translation>Het antwoord van %1 is geen feed: er staat meer in dan in welke feed ook.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation>Mag Quillmark bij %1 naar nieuwere versies vragen, nu en hooguit één keer per dag als het venster opent?</translation>
+        <translation>Mag Quillmark bij %1 naar nieuwere versies vragen: nu, en hoogstens één keer per dag wanneer het venster wordt geopend?</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
@@ -2332,7 +2332,7 @@
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation>Quillmark %1 is beschikbaar; je hebt gekozen om deze versie over te slaan. Je hebt versie %2.</translation>
+        <translation>Quillmark %1 is beschikbaar, een versie die je wilde overslaan. Je hebt versie %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
@@ -2344,7 +2344,7 @@
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation>Quillmark %1 is bijgewerkt.</translation>
+        <translation>Quillmark %1 is up-to-date.</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
@@ -2352,7 +2352,7 @@
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation>%1 is niet gevraagd, omdat je daar geen toestemming voor hebt gegeven.</translation>
+        <translation>Er is niets aan %1 gevraagd, omdat je daar geen toestemming voor hebt gegeven.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
@@ -2360,11 +2360,11 @@
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation>%1 is niet gevraagd, omdat het verzoekenlogboek niet kan worden geschreven.</translation>
+        <translation>Er is niets aan %1 gevraagd, omdat het logboek van verzoeken niet kan worden geschreven.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation>Het antwoord van %1 is geen feed: het is geen XML of maar een deel ervan.</translation>
+        <translation>Het antwoord van %1 is geen feed: het is geen XML, of maar een deel ervan.</translation>
     </message>
 </context>
 <context>
@@ -2381,13 +2381,13 @@
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation>Laat zien wat je Mac echt kan.
+        <translation>Vertelt je wat je Mac echt kan.
 Alles wat wordt gelezen, blijft op deze Mac.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation>Laat zien wat je computer echt kan.
+        <translation>Vertelt je wat je computer echt kan.
 Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
@@ -2475,7 +2475,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation>Geschiedenis</translation>
+        <translation>Scangeschiedenis</translation>
     </message>
     <message>
         <source>Battery Health</source>
@@ -2487,11 +2487,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Previous Section</source>
-        <translation>Vorig gedeelte</translation>
+        <translation>Vorige sectie</translation>
     </message>
     <message>
         <source>Next Section</source>
-        <translation>Volgend gedeelte</translation>
+        <translation>Volgende sectie</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -2499,7 +2499,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>All</source>
-        <translation>Alles</translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Back</source>
@@ -2511,7 +2511,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation>Schermvullend</translation>
+        <translation>Schermvullende weergave</translation>
     </message>
     <message>
         <source>Minimise</source>
@@ -2562,7 +2562,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation>Toestand</translation>
+        <translation>Staat</translation>
     </message>
 </context>
 <context>
@@ -2585,7 +2585,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation>Eén cyclus is een volledige ontlading, ook als die over meerdere dagen is verdeeld.</translation>
+        <translation>Eén cyclus is één volledige ontlading, ook als die over meerdere dagen is verspreid.</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -2593,11 +2593,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation>Warmte veroudert een batterij sneller dan gebruik. Houd hem uit de zon.</translation>
+        <translation>Warmte veroudert een batterij sneller dan gebruik. Houd haar uit de zon.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>Vandaag om %1 gelezen. De cijfers komen van de controller van de batterij zelf en kunnen per meting iets verschillen.</translation>
+        <translation>Vandaag gelezen om %1. De cijfers komen van de controller van de batterij zelf en kunnen per meting iets verschillen.</translation>
     </message>
 </context>
 <context>
@@ -2693,8 +2693,8 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
         <translation>
-            <numerusform>%1, %n rij</numerusform>
-            <numerusform>%1, %n rijen</numerusform>
+            <numerusform>%1, %n regel</numerusform>
+            <numerusform>%1, %n regels</numerusform>
         </translation>
     </message>
     <message>
@@ -2706,7 +2706,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>Clear the scan history?</source>
-        <translation>Geschiedenis wissen?</translation>
+        <translation>Scangeschiedenis wissen?</translation>
     </message>
     <message>
         <source>Clear history</source>
@@ -2765,19 +2765,19 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation>Deze Mac onderzoeken…</translation>
+        <translation>Deze Mac wordt onderzocht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation>Deze computer onderzoeken…</translation>
+        <translation>Deze computer wordt onderzocht…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation>Zie wat deze Mac echt kan</translation>
+        <translation>Ontdek wat deze Mac echt kan</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation>Zie wat deze computer echt kan</translation>
+        <translation>Ontdek wat deze computer echt kan</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
@@ -2785,11 +2785,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation>Elf gedeelten, één score</translation>
+        <translation>Elf secties, één score</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation>Van processor en grafische kaart tot codecs, schermen en beveiliging.</translation>
+        <translation>Van processor en graphics tot codecs, beeldschermen en beveiliging.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
@@ -2797,7 +2797,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation>Vergelijk twee scans en zie wat een update heeft veranderd.</translation>
+        <translation>Vergelijk twee willekeurige scans en zie wat een update heeft veranderd.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
@@ -2805,11 +2805,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>Er wordt niets over deze Mac verstuurd. Quillmark gaat alleen online om naar eigen updates te zoeken.</translation>
+        <translation>Er wordt niets over deze Mac verzonden. Quillmark gaat alleen online om naar eigen updates te zoeken.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>Er wordt niets over deze computer verstuurd. Quillmark gaat alleen online om naar eigen updates te zoeken.</translation>
+        <translation>Er wordt niets over deze computer verzonden. Quillmark gaat alleen online om naar eigen updates te zoeken.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
@@ -2818,7 +2818,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation>Vraagt hooguit één keer per dag aan %1 en geeft alleen de versie van Quillmark door.</translation>
+        <translation>Vraagt hoogstens één keer per dag bij %1 na en meldt daarbij alleen de versie van Quillmark.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
@@ -2826,7 +2826,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Toon de live monitor in het statusgebied</translation>
+        <translation>Toon de live monitor in het systeemvak</translation>
     </message>
     <message>
         <source>Get started</source>
@@ -2837,11 +2837,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation>Als Quillmark opent:</translation>
+        <translation>Bij openen van Quillmark:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation>Geschiedenis:</translation>
+        <translation>Scangeschiedenis:</translation>
     </message>
     <message>
         <source>Privacy:</source>
@@ -2869,14 +2869,14 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation>De enige verbinding die het maakt, is de zoekopdracht naar updates.</translation>
+        <translation>De enige verbinding die wordt gemaakt, is het zoeken naar updates.</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
-            <numerusform>%n scan bewaard, hooguit %1</numerusform>
-            <numerusform>%n scans bewaard, hooguit %1</numerusform>
+            <numerusform>%n scan bewaard, hoogstens %1</numerusform>
+            <numerusform>%n scans bewaard, hoogstens %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2888,7 +2888,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Search capabilities</source>
-        <translation>Zoek in mogelijkheden</translation>
+        <translation>Zoek mogelijkheden</translation>
     </message>
     <message>
         <source>Clear search</source>
@@ -2973,19 +2973,19 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation>Deze Mac onderzoeken…</translation>
+        <translation>Deze Mac wordt onderzocht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation>Deze computer onderzoeken…</translation>
+        <translation>Deze computer wordt onderzocht…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation>Dit duurt langer dan normaal</translation>
+        <translation>Dit duurt langer dan gewoonlijk</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation>Hardware en systeeminstellingen lezen</translation>
+        <translation>Hardware en systeeminstellingen worden gelezen</translation>
     </message>
 </context>
 <context>
@@ -3057,23 +3057,23 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>Geschiedenis</translation>
+        <translation>Scangeschiedenis</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>Er wordt een scan bewaard als er iets is veranderd. De nieuwste 200 blijven op deze Mac.</translation>
+        <translation>Er wordt een scan bewaard zodra er iets is gewijzigd. De nieuwste 200 blijven op deze Mac.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>Er wordt een scan bewaard als er iets is veranderd. De nieuwste 200 blijven op deze computer.</translation>
+        <translation>Er wordt een scan bewaard zodra er iets is gewijzigd. De nieuwste 200 blijven op deze computer.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation>Quillmark bewaart een scan als een onderzoek iets nieuws vindt. Onderzoek deze Mac om de eerste te bewaren.</translation>
+        <translation>Quillmark bewaart een scan telkens wanneer een onderzoek iets nieuws vindt. Onderzoek deze Mac om de eerste te bewaren.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation>Quillmark bewaart een scan als een onderzoek iets nieuws vindt. Onderzoek deze computer om de eerste te bewaren.</translation>
+        <translation>Quillmark bewaart een scan telkens wanneer een onderzoek iets nieuws vindt. Onderzoek deze computer om de eerste te bewaren.</translation>
     </message>
     <message>
         <source>Inspect now</source>
@@ -3129,7 +3129,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation>Geschiedenis wissen?</translation>
+        <translation>Scangeschiedenis wissen?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
@@ -3144,11 +3144,11 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation>De geschiedenis kon niet worden bewaard.</translation>
+        <translation>De scangeschiedenis kon niet worden bewaard.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>Een andere kopie van Quillmark gebruikt haar. Scans die hier zijn gemaakt, blijven bewaard tot die stopt.</translation>
+        <translation>Een andere kopie van Quillmark gebruikt de geschiedenis. Scans die hier worden gemaakt, worden vastgehouden tot die kopie stopt.</translation>
     </message>
 </context>
 <context>
@@ -3208,7 +3208,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Memory used: %1</source>
-        <translation>Geheugen in gebruik: %1</translation>
+        <translation>Gebruikt geheugen: %1</translation>
     </message>
     <message>
         <source>Processor load: %1</source>
@@ -3262,19 +3262,19 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation>Statusgebied:</translation>
+        <translation>Systeemvak:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Toon de live monitor in het statusgebied</translation>
+        <translation>Toon de live monitor in het systeemvak</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation>Quillmark blijft in het statusgebied tot je het stopt</translation>
+        <translation>Quillmark blijft in het systeemvak tot je het stopt</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation>Dit bureaublad heeft geen statusgebied.</translation>
+        <translation>Deze desktopomgeving heeft geen systeemvak.</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -3282,7 +3282,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation>Geheugen in gebruik</translation>
+        <translation>Gebruikt geheugen</translation>
     </message>
     <message>
         <source>Icon only</source>
@@ -3290,7 +3290,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation>Blijf actief als het hoofdvenster wordt gesloten</translation>
+        <translation>Blijf actief wanneer het hoofdvenster is gesloten</translation>
     </message>
 </context>
 <context>
@@ -3399,7 +3399,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation>Latere scans worden hiermee vergeleken</translation>
+        <translation>Latere scans worden ermee vergeleken</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
@@ -3448,7 +3448,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Choose another place…</source>
-        <translation>Kies een andere locatie…</translation>
+        <translation>Kies een andere plaats…</translation>
     </message>
 </context>
 <context>
@@ -3461,26 +3461,26 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
         <translation>
-            <numerusform>%n gedeelte</numerusform>
-            <numerusform>%n gedeelten</numerusform>
+            <numerusform>%n sectie</numerusform>
+            <numerusform>%n secties</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
         <translation>
-            <numerusform>%n rij in %1</numerusform>
-            <numerusform>%n rijen in %1</numerusform>
+            <numerusform>%n regel in %1</numerusform>
+            <numerusform>%n regels in %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>Filter: %1</translation>
+        <translation>Gefilterd op: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation>Geen overeenkomende rijen</translation>
+        <translation>Geen regels gevonden</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
@@ -3488,13 +3488,13 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation>Geen rij met ‘%1’ heeft de status ‘%2’.</translation>
+        <translation>Geen enkele regel met ‘%1’ heeft de status ‘%2’.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
         <translation>
-            <numerusform>%n rij komt overeen met een andere status.</numerusform>
-            <numerusform>%n rijen komen overeen met andere statussen.</numerusform>
+            <numerusform>%n regel met een andere status komt overeen.</numerusform>
+            <numerusform>%n regels met een andere status komen overeen.</numerusform>
         </translation>
     </message>
     <message>
@@ -3506,12 +3506,12 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation>Geen overeenkomende rijen</translation>
+        <translation>Geen regels gevonden</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>Geen rij heeft hier de status ‘%1’.</translation>
+        <translation>Geen enkele regel hier heeft de status ‘%1’.</translation>
     </message>
     <message>
         <source>Capabilities</source>
@@ -3562,15 +3562,15 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation>Deze Mac onderzoeken…</translation>
+        <translation>Deze Mac wordt onderzocht…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation>Deze computer onderzoeken…</translation>
+        <translation>Deze computer wordt onderzocht…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation>Niets in dit gedeelte is beoordeeld</translation>
+        <translation>In deze sectie is niets beoordeeld</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
@@ -3601,7 +3601,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation>Statusgebied</translation>
+        <translation>Systeemvak</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3623,7 +3623,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation>Realtime grafieken van CPU, geheugen, temperatuur, batterij en netwerk</translation>
+        <translation>Grafieken in realtime: CPU, geheugen, temperatuur, batterij en netwerk</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
@@ -3646,7 +3646,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>Geschiedenis</translation>
+        <translation>Scangeschiedenis</translation>
     </message>
     <message>
         <source>Battery health</source>
@@ -3663,13 +3663,13 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
         <translation>
-            <numerusform>%1, %n rij</numerusform>
-            <numerusform>%1, %n rijen</numerusform>
+            <numerusform>%1, %n regel</numerusform>
+            <numerusform>%1, %n regels</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation>Alles</translation>
+        <translation>Alle</translation>
     </message>
 </context>
 <context>
@@ -3677,7 +3677,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
-        <translation>Mag Quillmark aan %1 vragen of er een nieuwere versie is?</translation>
+        <translation>Mag Quillmark bij %1 vragen of er een nieuwere versie is?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
@@ -3736,7 +3736,7 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation>Vraagt één keer per dag aan %1, als Quillmark start</translation>
+        <translation>Vraagt één keer per dag bij %1 na wanneer Quillmark start</translation>
     </message>
     <message>
         <source>Checking…</source>

@@ -9,11 +9,11 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>Normalny</translation>
+        <translation>Normalna</translation>
     </message>
     <message>
         <source>Reduced</source>
-        <translation>Obniżony</translation>
+        <translation>Obniżona</translation>
     </message>
     <message>
         <source>Worn</source>
@@ -132,11 +132,11 @@
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation>Przewidziana na %1 cykli</translation>
+        <translation>Zaprojektowana na %1 cykli</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation>Normalnie: od 10 do 45&#xa0;°C</translation>
+        <translation>Normalna: od 10 do 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -145,11 +145,11 @@
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation>Podane przez system</translation>
+        <translation>Według systemu</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>Kondycja baterii niepodana</translation>
+        <translation>Nie podano kondycji baterii</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation>Wszystkie wartości, dla skryptów i narzędzi</translation>
+        <translation>Każda wartość, dla skryptów i narzędzi</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>The same text as Copy as text</source>
-        <translation>Ten sam tekst co Kopiuj jako tekst</translation>
+        <translation>Ten sam tekst co „Kopiuj jako tekst”</translation>
     </message>
 </context>
 <context>
@@ -1396,24 +1396,24 @@
         <source>All %n sections, as inspected today at %1.</source>
         <translation>
             <numerusform>%n sekcja, sprawdzona dzisiaj o %1.</numerusform>
-            <numerusform>Wszystkie %n sekcje, sprawdzone dzisiaj o %1.</numerusform>
-            <numerusform>Wszystkie %n sekcji, sprawdzone dzisiaj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone dzisiaj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone dzisiaj o %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
         <translation>
             <numerusform>%n sekcja, sprawdzona wczoraj o %1.</numerusform>
-            <numerusform>Wszystkie %n sekcje, sprawdzone wczoraj o %1.</numerusform>
-            <numerusform>Wszystkie %n sekcji, sprawdzone wczoraj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone wczoraj o %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone wczoraj o %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
         <translation>
             <numerusform>%n sekcja, sprawdzona %1.</numerusform>
-            <numerusform>Wszystkie %n sekcje, sprawdzone %1.</numerusform>
-            <numerusform>Wszystkie %n sekcji, sprawdzone %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone %1.</numerusform>
+            <numerusform>Wszystkie sekcje (%n), sprawdzone %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -1517,27 +1517,27 @@
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation>Wydajność jest mocno obniżona</translation>
+        <translation>Wydajność jest znacznie obniżona</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation>%1 procent, od %2 do %3 procent w ostatnich 2 minutach</translation>
+        <translation>%1 procent, od %2 do %3 procent w ciągu ostatnich 2 minut</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
         <translation>
-            <numerusform>%n rdzeń, obciążony w %1 procentach</numerusform>
+            <numerusform>%n rdzeń, obciążenie %1 procent</numerusform>
             <numerusform>%n rdzenie, najbardziej obciążony: %1 procent</numerusform>
             <numerusform>%n rdzeni, najbardziej obciążony: %1 procent</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation>Używane %1 z %2, %3 procent. Obciążenie %4 procent, %5</translation>
+        <translation>W użyciu %1 z %2, %3 procent. Obciążenie %4 procent, %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation>Przych. %1, wych. %2</translation>
+        <translation>Przychodzące %1, wychodzące %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1792,15 +1792,15 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, karta graficzna, grafika, 3d, gry</translation>
+        <translation>gpu, karta graficzna, karta wideo, 3d, gry, grafika</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ai, si, ml, sztuczna inteligencja, uczenie maszynowe, npu, llm</translation>
+        <translation>ai, si, ml, uczenie maszynowe, npu, llm, sztuczna inteligencja</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>ekran, monitor, wyświetlacz</translation>
+        <translation>ekran, wyświetlacz, monitor</translation>
     </message>
     <message>
         <source>video, codec</source>
@@ -1808,7 +1808,7 @@
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>energia, bateria, prąd</translation>
+        <translation>energia, prąd, bateria, akumulator</translation>
     </message>
     <message>
         <source>internet, online</source>
@@ -1816,7 +1816,7 @@
     </message>
     <message>
         <source>safety, protection</source>
-        <translation>ochrona</translation>
+        <translation>ochrona, zabezpieczenia</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
@@ -1832,19 +1832,19 @@
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64 bity, arm, x86, rosetta</translation>
+        <translation>64 bit, 64-bit, arm, x86, rosetta, 64 bity</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>włączony od, ponowne uruchomienie, uptime</translation>
+        <translation>działa od, uruchomienie, restart, uptime, włączony od, ponowne uruchomienie</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation>temperatura, ciepło, dławienie, wentylator</translation>
+        <translation>temperatura, ciepło, throttling, dławienie, wentylator</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation>vm, hipernadzorca</translation>
+        <translation>vm, maszyna wirtualna, hipernadzorca, hypervisor</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
@@ -1852,7 +1852,7 @@
     </message>
     <message>
         <source>cpu cores</source>
-        <translation>rdzenie cpu</translation>
+        <translation>rdzenie cpu, rdzenie procesora</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
@@ -1860,7 +1860,7 @@
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation>taktowanie, ghz, mhz</translation>
+        <translation>taktowanie, zegar, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
@@ -1868,7 +1868,7 @@
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation>vram, pamięć graficzna</translation>
+        <translation>vram, pamięć wideo, pamięć graficzna</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
@@ -1876,11 +1876,11 @@
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation>ane, npu, ai</translation>
+        <translation>ane, npu, ai, si</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation>vrr, adaptive sync, częstotliwość odświeżania</translation>
+        <translation>vrr, adaptive sync, częstotliwość odświeżania, odświeżanie</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
@@ -1888,11 +1888,11 @@
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation>p3, gama barw</translation>
+        <translation>p3, gamut, przestrzeń barw, gama barw</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation>piksele, herc, hz, 4k, 5k, częstotliwość odświeżania</translation>
+        <translation>piksele, herce, hz, 4k, 5k, odświeżanie, częstotliwość odświeżania, herc</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
@@ -1916,11 +1916,11 @@
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation>heif, zdjęcia, obrazy</translation>
+        <translation>heif, zdjęcia, obrazy, grafika</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation>kamera internetowa, webcam, facetime</translation>
+        <translation>kamerka, kamera internetowa, facetime, webcam</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
@@ -1936,7 +1936,7 @@
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation>kamera internetowa, webcam, uprawnienia, prywatność</translation>
+        <translation>kamerka, uprawnienia, prywatność, kamera internetowa, webcam</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
@@ -1972,7 +1972,7 @@
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation>podłączony, sieć elektryczna</translation>
+        <translation>podłączony, gniazdko, sieć elektryczna</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
@@ -1984,11 +1984,11 @@
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation>czas pracy na baterii</translation>
+        <translation>czas pracy baterii, czas działania, czas pracy na baterii</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation>oszczędzanie energii</translation>
+        <translation>oszczędzanie energii, tryb oszczędzania</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
@@ -2000,7 +2000,7 @@
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation>wlan, bezprzewodowa, wifi, szybkość</translation>
+        <translation>wlan, bezprzewodowa, wifi, prędkość, szybkość</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
@@ -2028,19 +2028,19 @@
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation>t2, układ bezpieczeństwa</translation>
+        <translation>t2, układ zabezpieczający, układ bezpieczeństwa</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation>uefi, bezpieczeństwo startu, secure boot</translation>
+        <translation>uefi, bezpieczeństwo uruchamiania, secure boot, bezpieczeństwo startu</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation>wirus, malware, antywirus</translation>
+        <translation>wirus, malware, złośliwe oprogramowanie, antywirus</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation>malware, notaryzacja, podpis aplikacji</translation>
+        <translation>malware, złośliwe oprogramowanie, notaryzacja, podpis aplikacji</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
@@ -2156,7 +2156,7 @@
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation>Quillmark nie wysłał żadnego żądania.</translation>
+        <translation>Quillmark nie wysłał żadnego zapytania.</translation>
     </message>
     <message>
         <source>Date</source>
@@ -2304,57 +2304,57 @@
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation>%1 nie udowodnił, że jest %1: %2</translation>
+        <translation>Serwer %1 nie zdołał potwierdzić, że to %1: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation>%1 nie odpowiedział na czas.</translation>
+        <translation>Serwer %1 nie odpowiedział na czas.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation>Odpowiedź %1 jest dłuższa, niż może być kanał.</translation>
+        <translation>Odpowiedź serwera %1 jest dłuższa, niż może być kanał.</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation>%1 prowadzi do innego adresu, do którego nie przechodzono: %2</translation>
+        <translation>Serwer %1 kieruje pod inny adres, którego nie otwarto: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation>%1 odpowiedział statusem %2 zamiast kanałem.</translation>
+        <translation>Serwer %1 zamiast kanału przysłał status %2.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation>Odpowiedź %1 nie jest kanałem: deklaruje typ dokumentu.</translation>
+        <translation>Odpowiedź serwera %1 nie jest kanałem: deklaruje typ dokumentu.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation>Odpowiedź %1 nie jest kanałem: to inny rodzaj XML.</translation>
+        <translation>Odpowiedź serwera %1 nie jest kanałem: to inny rodzaj XML.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation>Odpowiedź %1 nie jest kanałem: zawiera więcej niż jakikolwiek kanał.</translation>
+        <translation>Odpowiedź serwera %1 nie jest kanałem: zawiera więcej niż jakikolwiek kanał.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation>Czy Quillmark może pytać %1 o nowsze wersje: teraz i najwyżej raz dziennie po otwarciu okna?</translation>
+        <translation>Czy Quillmark może pytać %1 o nowsze wersje: teraz i najwyżej raz dziennie, przy otwarciu okna?</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation>Żądanie zawiera wersję Quillmark i nic o użytkowniku ani o tym komputerze. Nic nie jest instalowane.</translation>
+        <translation>Zapytanie zawiera wersję Quillmarka i nic, co dotyczyłoby użytkownika lub tego komputera. Nic nie jest instalowane.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation>Quillmark %1 jest dostępny; ta wersja została pominięta. Obecna wersja: %2.</translation>
+        <translation>Dostępny jest Quillmark %1, czyli wersja wybrana do pominięcia. Obecna wersja to %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation>Quillmark %1 jest dostępny, to ważne uaktualnienie. Obecna wersja: %2.</translation>
+        <translation>Dostępny jest Quillmark %1, ważne uaktualnienie. Obecna wersja to %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation>Quillmark %1 jest dostępny. Obecna wersja: %2.</translation>
+        <translation>Dostępny jest Quillmark %1. Obecna wersja to %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
@@ -2362,11 +2362,11 @@
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation>Nie udało się ustalić, czy istnieje nowsza wersja Quillmark.</translation>
+        <translation>Quillmark nie zdołał ustalić, czy istnieje nowsza wersja.</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation>Nie zapytano %1, bo nie ma na to zgody.</translation>
+        <translation>Nie pytano serwera %1, ponieważ nie wyrażono na to zgody.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
@@ -2374,18 +2374,18 @@
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation>Nie zapytano %1, bo nie można zapisać rejestru żądań.</translation>
+        <translation>Nie pytano serwera %1, ponieważ nie można zapisać dziennika zapytań.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation>Odpowiedź %1 nie jest kanałem: to nie XML lub tylko jego część.</translation>
+        <translation>Odpowiedź serwera %1 nie jest kanałem: to nie XML lub tylko jego część.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::AboutDialog</name>
     <message>
         <source>About Quillmark</source>
-        <translation>O Quillmark</translation>
+        <translation>O aplikacji Quillmark</translation>
     </message>
     <message>
         <source>Version %1</source>
@@ -2395,14 +2395,14 @@
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation>Pokazuje, co naprawdę potrafi ten Mac.
-Wszystko, co odczytuje, pozostaje na tym Macu.</translation>
+        <translation>Pokazuje, co ten Mac naprawdę potrafi.
+Wszystkie odczytane dane pozostają na tym Macu.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation>Pokazuje, co naprawdę potrafi ten komputer.
-Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
+        <translation>Pokazuje, co ten komputer naprawdę potrafi.
+Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
     <message>
         <source>Licences</source>
@@ -2437,7 +2437,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>About Quillmark</source>
-        <translation>O Quillmark</translation>
+        <translation>O aplikacji Quillmark</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
@@ -2489,7 +2489,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation>Historia</translation>
+        <translation>Historia sprawdzeń</translation>
     </message>
     <message>
         <source>Battery Health</source>
@@ -2513,7 +2513,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>All</source>
-        <translation>Wszystko</translation>
+        <translation>Wszystkie</translation>
     </message>
     <message>
         <source>Back</source>
@@ -2607,11 +2607,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation>Ciepło starzy baterię szybciej niż użytkowanie. Należy chronić ją przed słońcem.</translation>
+        <translation>Ciepło postarza baterię szybciej niż używanie. Lepiej nie zostawiać jej na słońcu.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>Odczytano dzisiaj o %1. Wartości pochodzą z kontrolera baterii i mogą się nieco różnić między odczytami.</translation>
+        <translation>Odczytano dzisiaj o %1. Wartości pochodzą z własnego kontrolera baterii i mogą się nieco różnić między odczytami.</translation>
     </message>
 </context>
 <context>
@@ -2663,15 +2663,15 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation>Zmieniono: %1, z %2 na %3</translation>
+        <translation>Zmieniona: %1, z %2 na %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
-        <translation>Dodano: %1, %2</translation>
+        <translation>Dodana: %1, %2</translation>
     </message>
     <message>
         <source>Removed: %1, %2</source>
-        <translation>Usunięto: %1, %2</translation>
+        <translation>Usunięta: %1, %2</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
@@ -2680,11 +2680,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>%1: added, %2</source>
-        <translation>%1: dodano, %2</translation>
+        <translation>%1: dodana, %2</translation>
     </message>
     <message>
         <source>%1: removed, %2</source>
-        <translation>%1: usunięto, %2</translation>
+        <translation>%1: usunięta, %2</translation>
     </message>
     <message>
         <source>%1: %2 · %3 · %4 · %5</source>
@@ -2721,18 +2721,18 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>Clear the scan history?</source>
-        <translation>Wyczyścić historię?</translation>
+        <translation>Wymazać historię sprawdzeń?</translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation>Wyczyść historię</translation>
+        <translation>Wymaż historię</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>%n zachowane sprawdzenie zostanie usunięte. Tego nie można cofnąć.</numerusform>
-            <numerusform>Wszystkie %n zachowane sprawdzenia zostaną usunięte. Tego nie można cofnąć.</numerusform>
-            <numerusform>Wszystkie %n zachowanych sprawdzeń zostanie usuniętych. Tego nie można cofnąć.</numerusform>
+            <numerusform>%n zachowane sprawdzenie zostanie usunięte. Nie można tego cofnąć.</numerusform>
+            <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
+            <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
         </translation>
     </message>
 </context>
@@ -2756,7 +2756,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Export inspection</source>
-        <translation>Eksportuj sprawdzenie</translation>
+        <translation>Eksport sprawdzenia</translation>
     </message>
     <message>
         <source>Leave out names and addresses</source>
@@ -2791,15 +2791,15 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation>Zobacz, co naprawdę potrafi ten Mac</translation>
+        <translation>Co ten Mac naprawdę potrafi</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation>Zobacz, co naprawdę potrafi ten komputer</translation>
+        <translation>Co ten komputer naprawdę potrafi</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation>Każda możliwość sprzętu i systemu, z jasnym statusem.</translation>
+        <translation>Każda możliwość sprzętu i systemu, z czytelnym statusem.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
@@ -2807,7 +2807,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation>Od procesora i grafiki po kodeki, ekrany i zabezpieczenia.</translation>
+        <translation>Od procesora i grafiki po kodeki, monitory i bezpieczeństwo.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
@@ -2815,7 +2815,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation>Porównaj dowolne dwa sprawdzenia i zobacz, co zmieniło uaktualnienie.</translation>
+        <translation>Można porównać dowolne dwa sprawdzenia i zobaczyć, co zmieniło uaktualnienie.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
@@ -2823,11 +2823,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>Nic o tym Macu nie jest nigdzie wysyłane. Quillmark łączy się z siecią tylko po to, by szukać własnych uaktualnień.</translation>
+        <translation>Żadne informacje o tym Macu nie są nigdzie wysyłane. Quillmark łączy się z siecią tylko po to, aby szukać własnych uaktualnień.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>Nic o tym komputerze nie jest nigdzie wysyłane. Quillmark łączy się z siecią tylko po to, by szukać własnych uaktualnień.</translation>
+        <translation>Żadne informacje o tym komputerze nie są nigdzie wysyłane. Quillmark łączy się z siecią tylko po to, aby szukać własnych uaktualnień.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
@@ -2836,7 +2836,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation>Pyta %1 najwyżej raz dziennie i podaje tylko wersję Quillmark.</translation>
+        <translation>Pyta %1 najwyżej raz dziennie i podaje tylko wersję Quillmarka.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
@@ -2844,7 +2844,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Pokazuj monitor na żywo w obszarze stanu</translation>
+        <translation>Pokazuj monitor na żywo w zasobniku systemowym</translation>
     </message>
     <message>
         <source>Get started</source>
@@ -2855,11 +2855,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation>Po otwarciu Quillmark:</translation>
+        <translation>Po otwarciu Quillmarka:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation>Historia:</translation>
+        <translation>Historia sprawdzeń:</translation>
     </message>
     <message>
         <source>Privacy:</source>
@@ -2875,15 +2875,15 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation>Wyczyść historię…</translation>
+        <translation>Wymaż historię…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation>Wszystko, co Quillmark odczytuje, pozostaje na tym Macu.</translation>
+        <translation>Wszystko, co odczytuje Quillmark, pozostaje na tym Macu.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation>Wszystko, co Quillmark odczytuje, pozostaje na tym komputerze.</translation>
+        <translation>Wszystko, co odczytuje Quillmark, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
@@ -3002,7 +3002,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation>To trwa dłużej niż zwykle</translation>
+        <translation>Trwa to dłużej niż zwykle</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
@@ -3028,7 +3028,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>This month</source>
-        <translation>Ten miesiąc</translation>
+        <translation>W tym miesiącu</translation>
     </message>
     <message>
         <source>Other Mac</source>
@@ -3081,23 +3081,23 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>Historia</translation>
+        <translation>Historia sprawdzeń</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>Sprawdzenie jest zachowywane, gdy coś się zmieniło. Najnowsze 200 pozostaje na tym Macu.</translation>
+        <translation>Sprawdzenie jest zachowywane, gdy coś się zmieni. Na tym Macu pozostaje 200 najnowszych.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>Sprawdzenie jest zachowywane, gdy coś się zmieniło. Najnowsze 200 pozostaje na tym komputerze.</translation>
+        <translation>Sprawdzenie jest zachowywane, gdy coś się zmieni. Na tym komputerze pozostaje 200 najnowszych.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation>Quillmark zachowuje sprawdzenie za każdym razem, gdy znajdzie coś nowego. Sprawdź tego Maca, aby zachować pierwsze.</translation>
+        <translation>Quillmark zachowuje każde sprawdzenie, które wykryje coś nowego. Aby zachować pierwsze, wystarczy sprawdzić tego Maca.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation>Quillmark zachowuje sprawdzenie za każdym razem, gdy znajdzie coś nowego. Sprawdź ten komputer, aby zachować pierwsze.</translation>
+        <translation>Quillmark zachowuje każde sprawdzenie, które wykryje coś nowego. Aby zachować pierwsze, wystarczy sprawdzić ten komputer.</translation>
     </message>
     <message>
         <source>Inspect now</source>
@@ -3109,7 +3109,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation>Wyczyść zaznaczenie</translation>
+        <translation>Usuń zaznaczenie</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -3117,7 +3117,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation>Wyczyść historię…</translation>
+        <translation>Wymaż historię…</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved</source>
@@ -3146,7 +3146,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation>Sprawdzenie z %1 zostanie usunięte z historii.</translation>
+        <translation>Sprawdzenie (%1) zostanie usunięte z historii.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3154,27 +3154,27 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation>Wyczyścić historię?</translation>
+        <translation>Wymazać historię sprawdzeń?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>%n zachowane sprawdzenie zostanie usunięte. Tego nie można cofnąć.</numerusform>
-            <numerusform>Wszystkie %n zachowane sprawdzenia zostaną usunięte. Tego nie można cofnąć.</numerusform>
-            <numerusform>Wszystkie %n zachowanych sprawdzeń zostanie usuniętych. Tego nie można cofnąć.</numerusform>
+            <numerusform>%n zachowane sprawdzenie zostanie usunięte. Nie można tego cofnąć.</numerusform>
+            <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
+            <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation>Wyczyść historię</translation>
+        <translation>Wymaż historię</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation>Nie udało się zachować historii.</translation>
+        <translation>Nie można było zachować historii sprawdzeń.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>Używa jej inna kopia Quillmark. Sprawdzenia wykonane tutaj są przechowywane do jej zakończenia.</translation>
+        <translation>Używa jej inna kopia Quillmarka. Wykonane tutaj sprawdzenia są przechowywane do czasu jej zamknięcia.</translation>
     </message>
 </context>
 <context>
@@ -3230,11 +3230,11 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::MenuBarLabel</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation>Monitor na żywo Quillmark</translation>
+        <translation>Monitor na żywo Quillmarka</translation>
     </message>
     <message>
         <source>Memory used: %1</source>
-        <translation>Używana pamięć: %1</translation>
+        <translation>Pamięć w użyciu: %1</translation>
     </message>
     <message>
         <source>Processor load: %1</source>
@@ -3245,7 +3245,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::MenuBarMonitorView</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation>Monitor na żywo Quillmark</translation>
+        <translation>Monitor na żywo Quillmarka</translation>
     </message>
     <message>
         <source>Every second</source>
@@ -3272,7 +3272,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation>Pokaż obok ikony:</translation>
+        <translation>Pokazuj obok ikony:</translation>
     </message>
     <message>
         <source>Window:</source>
@@ -3284,23 +3284,23 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation>Quillmark pozostaje na pasku menu do zakończenia</translation>
+        <translation>Quillmark pozostaje na pasku menu, aż zostanie zakończony</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation>Obszar stanu:</translation>
+        <translation>Zasobnik systemowy:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Pokazuj monitor na żywo w obszarze stanu</translation>
+        <translation>Pokazuj monitor na żywo w zasobniku systemowym</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation>Quillmark pozostaje w obszarze stanu do zakończenia</translation>
+        <translation>Quillmark pozostaje w zasobniku systemowym, aż zostanie zakończony</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation>To środowisko nie ma obszaru stanu.</translation>
+        <translation>To środowisko graficzne nie ma zasobnika systemowego.</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -3308,7 +3308,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation>Używana pamięć</translation>
+        <translation>Pamięć w użyciu</translation>
     </message>
     <message>
         <source>Icon only</source>
@@ -3316,7 +3316,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation>Działaj dalej po zamknięciu głównego okna</translation>
+        <translation>Działaj nadal po zamknięciu głównego okna</translation>
     </message>
 </context>
 <context>
@@ -3426,30 +3426,30 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation>Kolejne będą z nim porównywane</translation>
+        <translation>Późniejsze sprawdzenia są z nim porównywane</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
         <translation>
-            <numerusform>%n zmieniono</numerusform>
-            <numerusform>%n zmieniono</numerusform>
-            <numerusform>%n zmieniono</numerusform>
+            <numerusform>%n zmieniona</numerusform>
+            <numerusform>%n zmienione</numerusform>
+            <numerusform>%n zmienionych</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
         <translation>
-            <numerusform>%n dodano</numerusform>
-            <numerusform>%n dodano</numerusform>
-            <numerusform>%n dodano</numerusform>
+            <numerusform>%n dodana</numerusform>
+            <numerusform>%n dodane</numerusform>
+            <numerusform>%n dodanych</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
         <translation>
-            <numerusform>%n usunięto</numerusform>
-            <numerusform>%n usunięto</numerusform>
-            <numerusform>%n usunięto</numerusform>
+            <numerusform>%n usunięta</numerusform>
+            <numerusform>%n usunięte</numerusform>
+            <numerusform>%n usuniętych</numerusform>
         </translation>
     </message>
     <message>
@@ -3470,7 +3470,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::ReportExport</name>
     <message>
         <source>Export inspection</source>
-        <translation>Eksportuj sprawdzenie</translation>
+        <translation>Eksport sprawdzenia</translation>
     </message>
     <message>
         <source>Report saved.</source>
@@ -3516,7 +3516,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation>Nic nie zawiera „%1”. Sprawdź pisownię lub spróbuj krótszego słowa.</translation>
+        <translation>Nic nie zawiera „%1”. Sprawdź pisownię lub użyj krótszego słowa.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
@@ -3525,9 +3525,9 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
         <translation>
-            <numerusform>%n wiersz pasuje z innym statusem.</numerusform>
-            <numerusform>%n wiersze pasują z innym statusem.</numerusform>
-            <numerusform>%n wierszy pasuje z innym statusem.</numerusform>
+            <numerusform>Pasuje %n wiersz o innym statusie.</numerusform>
+            <numerusform>Pasują %n wiersze o innych statusach.</numerusform>
+            <numerusform>Pasuje %n wierszy o innych statusach.</numerusform>
         </translation>
     </message>
     <message>
@@ -3607,15 +3607,15 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation>W tej sekcji nic nie jest oceniane</translation>
+        <translation>W tej sekcji niczego nie oceniono</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>Obsługiwane %1 z %n ocenianej możliwości</numerusform>
-            <numerusform>Obsługiwane %1 z %n ocenianych możliwości</numerusform>
-            <numerusform>Obsługiwane %1 z %n ocenianych możliwości</numerusform>
+            <numerusform>Obsługiwane: %1 z %n ocenianej możliwości</numerusform>
+            <numerusform>Obsługiwane: %1 z %n ocenianych możliwości</numerusform>
+            <numerusform>Obsługiwane: %1 z %n ocenianych możliwości</numerusform>
         </translation>
     </message>
 </context>
@@ -3639,7 +3639,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation>Obszar stanu</translation>
+        <translation>Zasobnik systemowy</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3661,7 +3661,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation>Wykresy na żywo: CPU, pamięć, temperatura, bateria i sieć</translation>
+        <translation>Wykresy w czasie rzeczywistym: CPU, pamięć, temperatura, bateria i sieć</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
@@ -3685,7 +3685,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>Historia</translation>
+        <translation>Historia sprawdzeń</translation>
     </message>
     <message>
         <source>Battery health</source>
@@ -3709,7 +3709,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>All</source>
-        <translation>Wszystko</translation>
+        <translation>Wszystkie</translation>
     </message>
 </context>
 <context>
@@ -3717,7 +3717,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
-        <translation>Czy Quillmark może zapytać %1, czy istnieje nowsza wersja?</translation>
+        <translation>Czy Quillmark może zapytać %1, czy jest nowsza wersja?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
@@ -3725,7 +3725,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation>Zapytaj tylko teraz</translation>
+        <translation>Zapytaj tylko tym razem</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
@@ -3733,15 +3733,15 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation>Quillmark %1 jest dostępny, to ważne uaktualnienie.</translation>
+        <translation>Dostępny jest Quillmark %1, ważne uaktualnienie.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation>Quillmark %1 jest dostępny.</translation>
+        <translation>Dostępny jest Quillmark %1.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation>Obecna wersja: %1.</translation>
+        <translation>Obecna wersja to %1.</translation>
     </message>
     <message>
         <source>What’s new</source>
@@ -3757,7 +3757,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation>Co nowego w Quillmark %1</translation>
+        <translation>Co nowego w Quillmarku %1</translation>
     </message>
 </context>
 <context>
@@ -3776,7 +3776,7 @@ Wszystko, co odczytuje, pozostaje na tym komputerze.</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation>Pyta %1 raz dziennie po uruchomieniu Quillmark</translation>
+        <translation>Pyta %1 raz dziennie, po uruchomieniu Quillmarka</translation>
     </message>
     <message>
         <source>Checking…</source>
