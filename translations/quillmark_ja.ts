@@ -97,11 +97,64 @@
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation>バッテリーの状態はノート型のMacで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
+        <translation>バッテリーの健康度はノート型のMacで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation>バッテリーの状態はノート型のコンピュータで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
+        <translation>バッテリーの健康度はノート型のコンピュータで表示されます。Quillmarkのほかの機能はすべて通常どおり使えます。</translation>
+    </message>
+</context>
+<context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>充電中、満充電まで%1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>充電中</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>満充電</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>バッテリーで動作中、残り%1</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>バッテリーで動作中</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>接続中、充電していません</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>定格%1回</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>正常範囲: 10～45&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1・%2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>システムからの報告</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>バッテリーの健康度は報告されていません</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>バッテリーの健康度%1パーセント、%2</translation>
     </message>
 </context>
 <context>
@@ -166,7 +219,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -1212,6 +1265,14 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1 dBm（弱い）</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;Wh</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1226,49 +1287,49 @@
     <message>
         <source>%1, %2</source>
         <extracomment>%1: a day, %2: a time: &quot;12 November, 19:20&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>今日 %1</translation>
     </message>
     <message>
         <source>Yesterday, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>昨日 %1</translation>
     </message>
     <message>
         <source>today, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>今日 %1</translation>
     </message>
     <message>
         <source>yesterday, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and yesterday, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>昨日 %1</translation>
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>検査日時: 今日 %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>検査日時: 昨日 %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>検査日: %1</translation>
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最終確認: 今日 %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最終確認: 昨日 %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最終確認: %1</translation>
     </message>
 </context>
 <context>
@@ -1345,97 +1406,97 @@
         <source>Normal</source>
         <comment>pressure</comment>
         <extracomment>of the memory pressure</extracomment>
-        <translation type="unfinished">正常</translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Elevated</source>
         <comment>pressure</comment>
-        <translation type="unfinished"></translation>
+        <translation>高め</translation>
     </message>
     <message>
         <source>Critical</source>
         <comment>pressure</comment>
-        <translation type="unfinished">危険</translation>
+        <translation>危険</translation>
     </message>
     <message>
         <source>No limits on performance</source>
-        <translation type="unfinished"></translation>
+        <translation>パフォーマンスの制限なし</translation>
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation type="unfinished"></translation>
+        <translation>やや高温、制限なし</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>パフォーマンスが低下しています</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>パフォーマンスが大幅に低下しています</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1パーセント、直近2分間は%2～%3パーセント</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nコア、最も負荷の高いコアは%1パーセント</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%2中%1を使用、%3パーセント。プレッシャーは%4パーセント、%5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation type="unfinished"></translation>
+        <translation>受信%1、送信%2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row of the menu: what it is, and its figure</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 (%3)</source>
         <extracomment>A row of the menu: what it is, its figure and a remark on it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2（%3）</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">プロセッサ</translation>
+        <translation>プロセッサ</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">メモリ</translation>
+        <translation>メモリ</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">%1／%2</translation>
+        <translation>%1／%2</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">プレッシャー</translation>
+        <translation>プレッシャー</translation>
     </message>
     <message>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>スワップ</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">熱の状態</translation>
+        <translation>熱の状態</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">ネットワーク</translation>
+        <translation>ネットワーク</translation>
     </message>
 </context>
 <context>
     <name>Question</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -1640,259 +1701,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, グラフィックカード, グラフィックボード, グラボ, ビデオカード, 3d, ゲーム</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ai, ml, 機械学習, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>画面, スクリーン, モニタ, モニター</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオ, 動画, 映像, コーデック</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>電力, 省エネルギー, エネルギー, バッテリー, 電池</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>インターネット, オンライン</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>安全, 保護</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピュータ名, コンピューター名, ホスト名, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル, 機種</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, システムバージョン, バージョン, macos, linux, ビルド</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64ビット, 64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>起動時間, 起動日時, 再起動, uptime</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>温度, 熱, 発熱, スロットリング, ファン</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, ハイパーバイザ, ハイパーバイザー</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, チップ, soc, プロセッサー</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>cpuコア</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>cpuコア, スレッド, ハイパースレッディング, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>クロック, クロック周波数, 動作周波数, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, メインメモリ, 主記憶</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, ビデオメモリ</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, 作文ツール, 言語モデル</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ai</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, リフレッシュレート</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, 輝度, 明るさ</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, 色域</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル, 画素, ヘルツ, hz, 4k, 5k, リフレッシュレート</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, ビデオデコード, 動画再生, 再生</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, ビデオエンコード, 動画圧縮, 録画</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, ビデオデコード, 動画再生, 再生</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, ビデオエンコード, 動画圧縮, 録画</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, 写真, 画像</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>webカメラ, ウェブカメラ, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>スピーカー, サウンド, オーディオ, 音声</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>マイク, サウンド, オーディオ, 音声</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>マイク, 権限, 許可, プライバシー</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>webカメラ, ウェブカメラ, 権限, 許可, プライバシー</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオ, 音声, スピーカー, ヘッドフォン, ヘッドホン</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオ, 音声, マイク</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオ, 音声</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプルレート, サンプリングレート, ハイレゾ</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスク容量, ディスクサイズ</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>空き領域, 残り容量, ディスク容量, いっぱい</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, ドライブ, ハードディスク, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>パーティション, ドライブ</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>電源接続, コンセント, ac電源</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>充電器, acアダプタ, acアダプター, ワット</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>最大容量, 劣化, 消耗</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリー駆動時間, 駆動時間, 持続時間</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>省エネルギー, 省電力, 節電</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, 無線lan, ワイヤレス, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, 無線lan, ワイヤレス, wifi, 受信, 電波</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, 無線lan, ワイヤレス, wifi, 速度</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, wlan, 無線lan, イーサネット, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>ipアドレス, ip アドレス</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, 暗号化</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>暗号化, ディスクの暗号化, ディスク暗号化</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>指紋, 生体認証</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, セキュリティチップ</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, 起動セキュリティ, セキュアブート, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>ウイルス, ウィルス, マルウェア, アンチウイルス</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>マルウェア, 公証, アプリの署名, 署名</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown</translation>
     </message>
 </context>
 <context>
@@ -1988,40 +2049,40 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Download: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロード: %1</translation>
     </message>
     <message>
         <source>Release notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リリースノート: %1</translation>
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkはリクエストを送信していません。</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>日付</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished">状態</translation>
+        <translation>ステータス</translation>
     </message>
     <message>
         <source>Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">アドレス</translation>
+        <translation>アドレス</translation>
     </message>
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [y/N]</translation>
     </message>
 </context>
 <context>
@@ -2142,268 +2203,329 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1に接続できませんでした: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は%1であることを証明できませんでした: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1から時間内に応答がありませんでした。</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の応答は、フィードとして許される長さを超えています。</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1は別のアドレスに転送しようとしましたが、アクセスしませんでした: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はフィードの代わりにステータス%2を返しました。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の応答はフィードではありません。文書型が宣言されています。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の応答はフィードではありません。別の種類のXMLです。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の応答はフィードではありません。フィードとしては内容が多すぎます。</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ、および以後ウインドウを開いたときに1日1回まで、新しいバージョンがあるかどうかをQuillmarkが%1に問い合わせてもよろしいですか？</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>リクエストに含まれるのはQuillmarkのバージョンだけで、個人やこのコンピュータに関する情報は含まれません。何もインストールされません。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1を利用できます（スキップするように選択したバージョンです）。お使いのバージョンは%2です。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1（重要なアップデート）を利用できます。お使いのバージョンは%2です。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1を利用できます。お使いのバージョンは%2です。</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1は最新です。</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいバージョンがあるかどうかを確認できませんでした。</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation type="unfinished"></translation>
+        <translation>同意されていないため、%1には問い合わせませんでした。</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートフィードのアドレスがhttpsではありません: %1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>リクエストの記録に書き込めないため、%1には問い合わせませんでした。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の応答はフィードではありません。XMLではないか、XMLの一部だけです。</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::AboutDialog</name>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkについて</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン%1</translation>
     </message>
     <message>
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>お使いのMacが本当にできることをお知らせします。
+読み取った情報がこのMacの外に出ることはありません。</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>お使いのコンピュータが本当にできることをお知らせします。
+読み取った情報がこのコンピュータの外に出ることはありません。</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>ライセンス</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Actions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>ウインドウ</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkについて</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <source>Inspect Again</source>
-        <translation type="unfinished"></translation>
+        <translation>再検査</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>書き出す…</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>ウインドウを閉じる</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストとしてコピー</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてを選択</translation>
     </message>
     <message>
         <source>Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>検索…</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>概要</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン履歴</translation>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation type="unfinished"></translation>
+        <translation>バッテリーの健康度</translation>
     </message>
     <message>
         <source>Live Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブモニタ</translation>
     </message>
     <message>
         <source>Previous Section</source>
-        <translation type="unfinished"></translation>
+        <translation>前のセクション</translation>
     </message>
     <message>
         <source>Next Section</source>
-        <translation type="unfinished"></translation>
+        <translation>次のセクション</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルタ</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドバーを非表示</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>フルスクリーン</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>しまう</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大／縮小</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてを手前に移動</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkヘルプ</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished"></translation>
+        <translation>新機能</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>設計容量比</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>現在の容量</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>設計容量</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>充電量</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>充放電回数</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>状態</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">バッテリーの健康度</translation>
+        <translation>バッテリーの健康度</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>健康度</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>設計容量に対する現在の容量の割合です。80%以上なら良好です。</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>充放電回数</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>1回は完全な放電1回分です。数日に分けて放電した場合も同じです。</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>バッテリーは使用よりも熱によって早く劣化します。直射日光を避けてください。</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>今日%1に読み取りました。値はバッテリー内蔵のコントローラによるもので、読み取るたびにわずかに異なることがあります。</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>値をコピー</translation>
     </message>
 </context>
 <context>
@@ -2411,27 +2533,27 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2、%3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation type="unfinished">2分</translation>
+        <translation>2分</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished">1分</translation>
+        <translation>1分</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished">現在</translation>
+        <translation>現在</translation>
     </message>
 </context>
 <context>
@@ -2439,211 +2561,207 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1、%2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>変更: %1、%2から%3へ</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>追加: %1、%2</translation>
     </message>
     <message>
         <source>Removed: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>削除: %1、%2</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
         <extracomment>A line of text: label, value before, value now</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 → %3</translation>
     </message>
     <message>
         <source>%1: added, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 追加、%2</translation>
     </message>
     <message>
         <source>%1: removed, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 削除、%2</translation>
     </message>
     <message>
         <source>%1: %2 · %3 · %4 · %5</source>
         <extracomment>The head of a comparison: &quot;Older: 12 November 2025, 19:20 · Nora’s Mac · macOS 26.1 · 82%&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2・%3・%4・%5</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差分</translation>
     </message>
     <message>
         <source>score</source>
         <extracomment>Below a figure: the capability score</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>スコア</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1、%n行</numerusform>
         </translation>
     </message>
     <message>
         <source>All changes</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての変更</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン履歴を消去しますか？</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>保存されたスキャン%n件をすべて削除します。この操作は取り消せません。</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴を消去</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>準備完了</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>このMacを検査中…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータを検査中…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>このMacが本当にできることを確認</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータが本当にできることを確認</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>ハードウェアとシステムのあらゆる機能を、わかりやすい状態表示とともに。</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>11のセクション、1つのスコア</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサやグラフィックスから、コーデック、ディスプレイ、セキュリティまで。</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての変更を保存</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>任意の2つのスキャンを比較して、アップデートで何が変わったかを確認できます。</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>データは外に出ません</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>このMacに関する情報はどこにも送信されません。Quillmarkがインターネットに接続するのは、自身のアップデートを確認するときだけです。</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータに関する情報はどこにも送信されません。Quillmarkがインターネットに接続するのは、自身のアップデートを確認するときだけです。</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを自動的に確認</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>最大で1日1回%1に問い合わせ、Quillmarkのバージョンだけを伝えます。</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューバーにライブモニタを表示</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>システムトレイにライブモニタを表示</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>はじめる</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkを開いたとき:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン履歴:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>プライバシー:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>概要を表示</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>最後に使った画面を表示</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Finderに表示</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルマネージャに表示</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴を消去…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkが読み取った情報がこのMacの外に出ることはありません。</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkが読み取った情報がこのコンピュータの外に出ることはありません。</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>外部に接続するのは、アップデートを確認するときだけです。</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件のスキャンを保存済み（最大%1件）</numerusform>
         </translation>
     </message>
 </context>
@@ -2651,163 +2769,163 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::Header</name>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーしました</translation>
     </message>
     <message>
         <source>Search capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>機能を検索</translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索を消去</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>Inspect again</source>
-        <translation type="unfinished"></translation>
+        <translation>再検査</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストとしてコピー</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>書き出す…</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>メニュー</translation>
     </message>
     <message>
         <source>Menu (F10)</source>
         <extracomment>Tool tip of the button that opens the menus, with its key</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>メニュー（F10）</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">機能スコア</translation>
+        <translation>機能スコア</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1。%2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>機能スコア: %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">メモリ%1</translation>
+        <translation>メモリ%1</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">ストレージ%1</translation>
+        <translation>ストレージ%1</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">評価対象の機能のうち、このMacが対応する割合</translation>
+        <translation>評価対象の機能のうち、このMacが対応する割合</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">評価対象の機能のうち、このコンピュータが対応する割合</translation>
+        <translation>評価対象の機能のうち、このコンピュータが対応する割合</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">評価対象なし</translation>
+        <translation>評価対象なし</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件中%1件の機能</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1パーセント、%n件中%2件の機能に対応</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>このMacを検査中…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータを検査中…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>通常より時間がかかっています</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>ハードウェアとシステム設定を読み取り中</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryDelegate</name>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryModel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>今日</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>昨日</translation>
     </message>
     <message>
         <source>This month</source>
-        <translation type="unfinished"></translation>
+        <translation>今月</translation>
     </message>
     <message>
         <source>Other Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>別のMac</translation>
     </message>
     <message>
         <source>Other computer</source>
-        <translation type="unfinished"></translation>
+        <translation>別のコンピュータ</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1、%2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
         <extracomment>A saved scan for screen readers: date, system, counts of three statuses, what it changed</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2、%3、%4、%5、%6</translation>
     </message>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>対応%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>非対応%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>警告%n件</numerusform>
         </translation>
     </message>
 </context>
@@ -2815,100 +2933,100 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::HistoryView</name>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャンを比較</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン履歴</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>何かが変わるたびにスキャンが保存されます。最新の200件がこのMacに保持されます。</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>何かが変わるたびにスキャンが保存されます。最新の200件がこのコンピュータに保持されます。</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>検査で新しいことが見つかるたびに、スキャンが保存されます。このMacを検査すると、最初のスキャンが保存されます。</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>検査で新しいことが見つかるたびに、スキャンが保存されます。このコンピュータを検査すると、最初のスキャンが保存されます。</translation>
     </message>
     <message>
         <source>Inspect now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ検査</translation>
     </message>
     <message>
         <source>Saved scans</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されたスキャン</translation>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation type="unfinished"></translation>
+        <translation>選択を解除</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>比較</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴を消去…</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件のスキャンを保存済み</numerusform>
         </translation>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation type="unfinished"></translation>
+        <translation>1件のスキャンを選択中・もう1件選択してください</translation>
     </message>
     <message>
         <source>2 scans selected</source>
-        <translation type="unfinished"></translation>
+        <translation>2件のスキャンを選択中</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1と%2</translation>
     </message>
     <message>
         <source>Delete this scan?</source>
-        <translation type="unfinished"></translation>
+        <translation>このスキャンを削除しますか？</translation>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のスキャンを履歴から削除します。</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン履歴を消去しますか？</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>保存されたスキャン%n件をすべて削除します。この操作は取り消せません。</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴を消去</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン履歴を保存できませんでした。</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のQuillmarkが履歴を使用しています。ここで行ったスキャンは、そのQuillmarkが終了するまで保持されます。</translation>
     </message>
 </context>
 <context>
@@ -2916,401 +3034,401 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1 (%2)</source>
         <extracomment>Tool tip of a button: its name and its shortcut, &quot;Inspect again (Ctrl+R)&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>インターフェイスの言語:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>例:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>インターフェイスの言語</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい言語はすぐに使われます。別の言語で保存されたスキャンも引き続き比較できます。</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LicencesDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>ライセンス</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">サンプルを収集中…</translation>
+        <translation>サンプルを収集中…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkを開く</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarLabel</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkライブモニタ</translation>
     </message>
     <message>
         <source>Memory used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>使用中のメモリ: %1</translation>
     </message>
     <message>
         <source>Processor load: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサの負荷: %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarMonitorView</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkライブモニタ</translation>
     </message>
     <message>
         <source>Every second</source>
-        <translation type="unfinished"></translation>
+        <translation>1秒ごと</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">サンプルを収集中…</translation>
+        <translation>サンプルを収集中…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkを開く</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定…</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューバー:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>アイコンの横に表示:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>ウインドウ:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューバーにライブモニタを表示</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkは終了するまでメニューバーに残ります</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>システムトレイ:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>システムトレイにライブモニタを表示</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkは終了するまでシステムトレイに残ります</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>このデスクトップ環境にはシステムトレイがありません。</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>プロセッサの負荷</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>使用中のメモリ</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>アイコンのみ</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>メインウインドウを閉じても実行を続ける</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MonitorView</name>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">ライブモニタ</translation>
+        <translation>ライブモニタ</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished">1秒ごとに更新・直近2分間</translation>
+        <translation>1秒ごとに更新・直近2分間</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">サンプルを収集中…</translation>
+        <translation>サンプルを収集中…</translation>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>最初の値は約1秒後に届きます。</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">プロセッサ</translation>
+        <translation>プロセッサ</translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished">コア別</translation>
+        <translation>コア別</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">メモリ</translation>
+        <translation>メモリ</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">ネットワーク</translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">熱の状態</translation>
+        <translation>熱の状態</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished">使用中のスワップ</translation>
+        <translation>使用中のスワップ</translation>
     </message>
     <message>
         <source>All interfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのインターフェイス</translation>
     </message>
     <message>
         <source>On the start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>起動ボリューム上</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nコア</numerusform>
         </translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">／%1</translation>
+        <translation>／%1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished">使用中</translation>
+        <translation>使用中</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">プレッシャー</translation>
+        <translation>プレッシャー</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished">受信</translation>
+        <translation>受信</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished">送信</translation>
+        <translation>送信</translation>
     </message>
     <message>
         <source>Power adapter connected</source>
-        <translation type="unfinished"></translation>
+        <translation>電源アダプタ接続中</translation>
     </message>
     <message>
         <source>Not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>充電していません</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::NoticeBar</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::OverviewPage</name>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>概要</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>最初のスキャンを保存しました</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>以後のスキャンはこれと比較されます</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>変更%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>追加%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>削除%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1以降</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">差はありません</translation>
+        <translation>差はありません</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャンを比較</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”の検索結果</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nセクション</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1の%n行</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>絞り込み: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>一致する行はありません</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”を含むものはありません。表記を確認するか、短い言葉で試してください。</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”を含み、状態が“%2”の行はありません。</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ほかの状態では%n行が一致します。</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索を消去</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>一致する行はありません</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ここには状態が“%1”の行はありません。</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>機能</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての状態を表示</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>対応%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>非対応%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>警告%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>情報%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>このMacを検査中…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピュータを検査中…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>このセクションに評価対象はありません</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>評価対象%n件中%1件に対応</numerusform>
         </translation>
     </message>
 </context>
@@ -3318,75 +3436,75 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>一般</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデート</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューバー</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>システムトレイ</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Sidebar</name>
     <message>
         <source>Inspecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>検査中…</translation>
     </message>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドバー</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation type="unfinished"></translation>
+        <translation>CPU、メモリ、温度、バッテリー、ネットワークのリアルタイムグラフ</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1、警告%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>概要</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>機能</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>ツール</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン履歴</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">バッテリーの健康度</translation>
+        <translation>バッテリーの健康度</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">ライブモニタ</translation>
+        <translation>ライブモニタ</translation>
     </message>
 </context>
 <context>
@@ -3394,92 +3512,92 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1、%n行</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
+        <translation>新しいバージョンがあるかどうかをQuillmarkが%1に問い合わせてもよろしいですか？</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>1日1回問い合わせる</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>今回だけ問い合わせる</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認できませんでした。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1（重要なアップデート）を利用できます。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1を利用できます。</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>お使いのバージョンは%1です。</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>新機能</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>このバージョンをスキップ</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロード…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1の新機能</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデート:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>状態:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを自動的に確認</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmarkの起動時に、1日1回%1に問い合わせます</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>確認中…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ確認</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>未確認</translation>
     </message>
 </context>
 </TS>
