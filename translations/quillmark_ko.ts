@@ -97,11 +97,64 @@
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation>배터리 성능은 휴대용 Mac에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
+        <translation>배터리 성능 상태는 휴대용 Mac에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation>배터리 성능은 휴대용 컴퓨터에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
+        <translation>배터리 성능 상태는 휴대용 컴퓨터에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>BatteryFacts</name>
+    <message>
+        <source>Charging, full in %1</source>
+        <translation>충전 중, 완충까지 %1</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>충전 중</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>완충됨</translation>
+    </message>
+    <message>
+        <source>On battery, %1 left</source>
+        <translation>배터리 사용 중, %1 남음</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>배터리 사용 중</translation>
+    </message>
+    <message>
+        <source>Connected, not charging</source>
+        <translation>연결됨, 충전 중 아님</translation>
+    </message>
+    <message>
+        <source>Rated for %1 cycles</source>
+        <translation>정격 사이클 %1회</translation>
+    </message>
+    <message>
+        <source>Normal: 10 to 45&#xa0;°C</source>
+        <translation>정상: 10~45&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Reported by the system</source>
+        <translation>시스템에서 보고함</translation>
+    </message>
+    <message>
+        <source>Battery health not reported</source>
+        <translation>배터리 성능 상태가 보고되지 않음</translation>
+    </message>
+    <message>
+        <source>Battery health %1 percent, %2</source>
+        <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
+        <translation>배터리 성능 상태 %1퍼센트, %2</translation>
     </message>
 </context>
 <context>
@@ -166,7 +219,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -319,7 +372,7 @@
     </message>
     <message>
         <source>Battery health</source>
-        <translation>배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>Battery condition</source>
@@ -1212,6 +1265,14 @@
         <source>−%1&#xa0;dBm (weak)</source>
         <translation>−%1&#xa0;dBm(약함)</translation>
     </message>
+    <message>
+        <source>%1&#xa0;Wh</source>
+        <translation>%1&#xa0;Wh</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;mAh</source>
+        <translation>%1&#xa0;mAh</translation>
+    </message>
 </context>
 <context>
     <name>Language</name>
@@ -1226,49 +1287,49 @@
     <message>
         <source>%1, %2</source>
         <extracomment>%1: a day, %2: a time: &quot;12 November, 19:20&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Today, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>오늘 %1</translation>
     </message>
     <message>
         <source>Yesterday, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>어제 %1</translation>
     </message>
     <message>
         <source>today, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>오늘 %1</translation>
     </message>
     <message>
         <source>yesterday, %1</source>
         <extracomment>Within a sentence: &quot;12 November, 19:20 and yesterday, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>어제 %1</translation>
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 일시: 오늘 %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 일시: 어제 %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 날짜: %1</translation>
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 확인: 오늘 %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 확인: 어제 %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 확인: %1</translation>
     </message>
 </context>
 <context>
@@ -1345,97 +1406,97 @@
         <source>Normal</source>
         <comment>pressure</comment>
         <extracomment>of the memory pressure</extracomment>
-        <translation type="unfinished">정상</translation>
+        <translation>정상</translation>
     </message>
     <message>
         <source>Elevated</source>
         <comment>pressure</comment>
-        <translation type="unfinished"></translation>
+        <translation>높음</translation>
     </message>
     <message>
         <source>Critical</source>
         <comment>pressure</comment>
-        <translation type="unfinished">위험</translation>
+        <translation>위험</translation>
     </message>
     <message>
         <source>No limits on performance</source>
-        <translation type="unfinished"></translation>
+        <translation>성능 제한 없음</translation>
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation type="unfinished"></translation>
+        <translation>약간 따뜻함, 제한 없음</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>성능이 낮아짐</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation type="unfinished"></translation>
+        <translation>성능이 크게 낮아짐</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1퍼센트, 최근 2분 동안 %2~%3퍼센트</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>코어 %n개, 사용률이 가장 높은 코어는 %1퍼센트</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 중 %1 사용됨, %3퍼센트. 압력 %4퍼센트, %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
-        <translation type="unfinished"></translation>
+        <translation>수신 %1, 송신 %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row of the menu: what it is, and its figure</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 (%3)</source>
         <extracomment>A row of the menu: what it is, its figure and a remark on it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2(%3)</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">프로세서</translation>
+        <translation>프로세서</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">메모리</translation>
+        <translation>메모리</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>of memory: &quot;18.96 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">%1/%2</translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">압력</translation>
+        <translation>압력</translation>
     </message>
     <message>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>스왑</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">발열 상태</translation>
+        <translation>발열 상태</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">네트워크</translation>
+        <translation>네트워크</translation>
     </message>
 </context>
 <context>
     <name>Question</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
 </context>
 <context>
@@ -1640,259 +1701,259 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>gpu, 그래픽 카드, 그래픽카드, 비디오 카드, 3d, 게임</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation type="unfinished"></translation>
+        <translation>ai, ml, 머신 러닝, 머신러닝, 기계 학습, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>화면, 모니터, 스크린</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation type="unfinished"></translation>
+        <translation>비디오, 동영상, 코덱</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation type="unfinished"></translation>
+        <translation>에너지, 전력, 배터리</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation type="unfinished"></translation>
+        <translation>인터넷, 온라인</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation type="unfinished"></translation>
+        <translation>안전, 보호</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation type="unfinished"></translation>
+        <translation>컴퓨터 이름, 호스트 이름, 호스트명, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>모델, 기종</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation type="unfinished"></translation>
+        <translation>os, 시스템 버전, 버전, macos, linux, 리눅스, 빌드</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation type="unfinished"></translation>
+        <translation>64비트, 64 bit, arm, x86, rosetta, 로제타</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation type="unfinished"></translation>
+        <translation>켜진 시간, 부팅, 재시동, 재시작</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation type="unfinished"></translation>
+        <translation>온도, 열, 발열, 스로틀링, 팬</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation type="unfinished"></translation>
+        <translation>vm, 하이퍼바이저</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu, 칩, soc</translation>
     </message>
     <message>
         <source>cpu cores</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu 코어</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation type="unfinished"></translation>
+        <translation>cpu 코어, 스레드, 쓰레드, 하이퍼스레딩, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation type="unfinished"></translation>
+        <translation>클럭, 클록, 동작 속도, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation type="unfinished"></translation>
+        <translation>ram, 램, 주기억 장치, 메인 메모리</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation type="unfinished"></translation>
+        <translation>vram, 비디오 메모리, 그래픽 메모리</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation type="unfinished"></translation>
+        <translation>siri, 시리, 글쓰기 도구, 언어 모델</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation type="unfinished"></translation>
+        <translation>ane, npu, ai, 뉴럴 엔진</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>vrr, adaptive sync, 주사율, 재생률</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>hdr, edr, 밝기</translation>
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation type="unfinished"></translation>
+        <translation>p3, 색역, 색 영역</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀, 화소, 헤르츠, hz, 4k, 5k, 주사율, 재생률</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation type="unfinished"></translation>
+        <translation>레티나, retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, 비디오 디코딩, 동영상 재생, 재생</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>avc, h264, 비디오 인코딩, 동영상 녹화, 녹화</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, 비디오 디코딩, 동영상 재생, 재생</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>h.265, h265, 비디오 인코딩, 동영상 녹화, 녹화</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>heif, 사진, 그림</translation>
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation type="unfinished"></translation>
+        <translation>웹캠, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>스피커, 사운드, 소리, 오디오</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation type="unfinished"></translation>
+        <translation>마이크, 사운드, 소리, 오디오</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>마이크, 권한, 개인정보</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>웹캠, 권한, 개인정보</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation type="unfinished"></translation>
+        <translation>오디오, 소리, 스피커, 헤드폰, 이어폰</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>오디오, 소리, 마이크</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation type="unfinished"></translation>
+        <translation>오디오, 소리</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation type="unfinished"></translation>
+        <translation>샘플 레이트, 샘플링, 고음질, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크 공간, 디스크 크기</translation>
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation type="unfinished"></translation>
+        <translation>여유 공간, 남은 공간, 디스크 공간, 가득 참</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation type="unfinished"></translation>
+        <translation>ssd, nvme, 드라이브, 하드 디스크, 하드디스크, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
-        <translation type="unfinished"></translation>
+        <translation>파티션, 드라이브</translation>
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation type="unfinished"></translation>
+        <translation>전원 연결, 콘센트</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation type="unfinished"></translation>
+        <translation>충전기, 전원 공급 장치, 와트</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 용량, 최대 성능 상태, 마모, 노후</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>배터리 사용 시간, 사용 시간</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation type="unfinished"></translation>
+        <translation>에너지 절약, 절전</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, 무선, 무선랜, 와이파이, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, 무선, 무선랜, 와이파이, wifi, 수신</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation type="unfinished"></translation>
+        <translation>wlan, 무선, 무선랜, 와이파이, wifi, 속도</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation type="unfinished"></translation>
+        <translation>wifi, 와이파이, wlan, 무선랜, 이더넷, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation type="unfinished"></translation>
+        <translation>ip 주소, ip주소, 아이피</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>luks, 암호화됨, 암호화</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>암호화, 암호화됨, 디스크 암호화</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation type="unfinished"></translation>
+        <translation>지문, 생체 인식, 터치 아이디</translation>
     </message>
     <message>
         <source>sip, rootless</source>
-        <translation type="unfinished"></translation>
+        <translation>sip, rootless</translation>
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation type="unfinished"></translation>
+        <translation>t2, 보안 칩</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation type="unfinished"></translation>
+        <translation>uefi, 시동 보안, 시큐어 부트, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation type="unfinished"></translation>
+        <translation>바이러스, 악성 코드, 악성코드, 멀웨어, 백신</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation type="unfinished"></translation>
+        <translation>악성 코드, 악성코드, 멀웨어, 공증, 앱 서명</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation type="unfinished"></translation>
+        <translation>spectre, meltdown, 스펙터, 멜트다운</translation>
     </message>
 </context>
 <context>
@@ -1951,7 +2012,7 @@
     </message>
     <message>
         <source>Battery health</source>
-        <translation>배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>The scan of %1 was removed.</source>
@@ -1988,40 +2049,40 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Download: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드: %1</translation>
     </message>
     <message>
         <source>Release notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>릴리스 노트: %1</translation>
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark가 보낸 요청이 없습니다.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>날짜</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished">상태</translation>
+        <translation>상태</translation>
     </message>
     <message>
         <source>Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>오류</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">주소</translation>
+        <translation>주소</translation>
     </message>
     <message>
         <source>%1 [y/N]</source>
         <extracomment>%1 is a question; what may be typed for yes is the translation of &quot;y, yes&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 [y/N]</translation>
     </message>
 </context>
 <context>
@@ -2142,268 +2203,329 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1에 연결할 수 없습니다: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 자신이 %1임을 증명하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 제시간에 응답하지 않았습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 응답이 피드에 허용된 길이를 초과합니다.</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 다른 주소로 안내했으나 따르지 않았습니다: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 피드 대신 상태 %2 응답을 보냈습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 응답은 피드가 아닙니다. 문서 유형을 선언하고 있습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 응답은 피드가 아닙니다. 다른 종류의 XML입니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 응답은 피드가 아닙니다. 어떤 피드보다도 많은 내용이 들어 있습니다.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark가 지금, 그리고 이후 윈도우를 열 때 하루에 최대 한 번 %1에 새로운 버전이 있는지 확인해도 되겠습니까?</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>요청에는 Quillmark의 버전만 포함되며 사용자나 이 컴퓨터에 관한 정보는 포함되지 않습니다. 아무것도 설치되지 않습니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>건너뛰기로 선택한 Quillmark %1 버전을 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>중요한 업데이트인 Quillmark %1 버전을 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 버전을 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 버전은 최신 상태입니다.</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>새로운 버전이 있는지 확인할 수 없습니다.</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation type="unfinished"></translation>
+        <translation>동의하지 않았으므로 %1에 확인하지 않았습니다.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 피드의 주소가 https 주소가 아닙니다: %1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>요청 기록을 쓸 수 없으므로 %1에 확인하지 않았습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 응답은 피드가 아닙니다. XML이 아니거나 XML의 일부입니다.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::AboutDialog</name>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark에 관하여</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>버전 %1</translation>
     </message>
     <message>
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mac이 실제로 할 수 있는 것을 알려줍니다.
+읽은 모든 정보는 이 Mac에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>컴퓨터가 실제로 할 수 있는 것을 알려줍니다.
+읽은 모든 정보는 이 컴퓨터에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>라이선스</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Actions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>편집</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>보기</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>윈도우</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말</translation>
     </message>
     <message>
         <source>About Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark에 관하여</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인…</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>설정…</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료</translation>
     </message>
     <message>
         <source>Inspect Again</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 검사</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기…</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>윈도우 닫기</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트로 복사</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>전체 선택</translation>
     </message>
     <message>
         <source>Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>찾기…</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>개요</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 기록</translation>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation type="unfinished"></translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>Live Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>실시간 모니터</translation>
     </message>
     <message>
         <source>Previous Section</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 섹션</translation>
     </message>
     <message>
         <source>Next Section</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 섹션</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>필터</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>뒤로</translation>
     </message>
     <message>
         <source>Hide Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>사이드바 가리기</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>전체 화면</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>최소화</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>확대/축소</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 앞으로 가져오기</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark 도움말</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished"></translation>
+        <translation>새로운 기능</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::BatteryPanel</name>
+    <message>
+        <source>of design capacity</source>
+        <translation>설계 용량 대비</translation>
+    </message>
+    <message>
+        <source>Present capacity</source>
+        <translation>현재 용량</translation>
+    </message>
+    <message>
+        <source>Design capacity</source>
+        <translation>설계 용량</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>충전량</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>사이클 수</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>온도</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>상태</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>성능 상태</translation>
+    </message>
+    <message>
+        <source>Present capacity as a share of design capacity. 80% or more is good.</source>
+        <translation>설계 용량에 대한 현재 용량의 비율입니다. 80% 이상이면 양호합니다.</translation>
+    </message>
+    <message>
+        <source>Cycle count</source>
+        <translation>사이클 수</translation>
+    </message>
+    <message>
+        <source>One cycle is one full discharge, even when it is spread over several days.</source>
+        <translation>한 사이클은 한 번의 완전 방전을 뜻하며, 여러 날에 걸쳐 방전된 경우도 포함합니다.</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>온도</translation>
+    </message>
+    <message>
+        <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
+        <translation>배터리는 사용보다 열로 인해 더 빨리 노후됩니다. 직사광선을 피하십시오.</translation>
+    </message>
+    <message>
+        <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
+        <translation>오늘 %1에 읽었습니다. 수치는 배터리 자체 컨트롤러에서 제공되며 읽을 때마다 조금씩 다를 수 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::CapabilityList</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Copy value</source>
-        <translation type="unfinished"></translation>
+        <translation>값 복사</translation>
     </message>
 </context>
 <context>
@@ -2411,27 +2533,27 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2, %3</source>
         <extracomment>A row for screen readers: &quot;Touch ID, Available, Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A row as it is copied: &quot;Memory: 16 GB&quot;</extracomment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ChartView</name>
     <message>
         <source>2 min</source>
-        <translation type="unfinished">2분</translation>
+        <translation>2분</translation>
     </message>
     <message>
         <source>1 min</source>
-        <translation type="unfinished">1분</translation>
+        <translation>1분</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished">지금</translation>
+        <translation>지금</translation>
     </message>
 </context>
 <context>
@@ -2439,211 +2561,207 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>변경됨: %1, 이전 %2, 이후 %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>추가됨: %1, %2</translation>
     </message>
     <message>
         <source>Removed: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>제거됨: %1, %2</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
         <extracomment>A line of text: label, value before, value now</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 → %3</translation>
     </message>
     <message>
         <source>%1: added, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 추가됨, %2</translation>
     </message>
     <message>
         <source>%1: removed, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 제거됨, %2</translation>
     </message>
     <message>
         <source>%1: %2 · %3 · %4 · %5</source>
         <extracomment>The head of a comparison: &quot;Older: 12 November 2025, 19:20 · Nora’s Mac · macOS 26.1 · 82%&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 · %3 · %4 · %5</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>차이</translation>
     </message>
     <message>
         <source>score</source>
         <extracomment>Below a figure: the capability score</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>점수</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Added, 2 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n행</numerusform>
         </translation>
     </message>
     <message>
         <source>All changes</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 변경 사항</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
-        <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 기록을 지우겠습니까?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>저장된 검사 %n개를 모두 제거합니다. 이 작업은 취소할 수 없습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 지우기</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>준비 완료</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>이 Mac 검사 중…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터 검사 중…</translation>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>이 Mac이 실제로 할 수 있는 것을 확인하십시오</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터가 실제로 할 수 있는 것을 확인하십시오</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation type="unfinished"></translation>
+        <translation>하드웨어와 시스템의 모든 기능을 명확한 상태와 함께 보여줍니다.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation type="unfinished"></translation>
+        <translation>11개의 섹션, 하나의 점수</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation type="unfinished"></translation>
+        <translation>프로세서와 그래픽부터 코덱, 디스플레이, 보안까지.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 변경 사항 저장</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>두 검사를 골라 비교하고 업데이트로 무엇이 바뀌었는지 확인하십시오.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation type="unfinished"></translation>
+        <translation>데이터는 여기에만 남습니다</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 Mac에 관한 정보는 어디에도 전송되지 않습니다. Quillmark는 자체 업데이트를 찾을 때만 인터넷에 연결합니다.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터에 관한 정보는 어디에도 전송되지 않습니다. Quillmark는 자체 업데이트를 찾을 때만 인터넷에 연결합니다.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>자동으로 업데이트 확인</translation>
     </message>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>하루에 최대 한 번 %1에 확인하며 Quillmark의 버전만 알립니다.</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>메뉴 막대에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템 트레이에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation type="unfinished"></translation>
+        <translation>시작하기</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark를 열 때:</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 기록:</translation>
     </message>
     <message>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>개인정보 보호:</translation>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation type="unfinished"></translation>
+        <translation>개요 표시</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막으로 사용한 화면 표시</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Finder에서 보기</translation>
     </message>
     <message>
         <source>Show in file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 관리자에서 보기</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 지우기…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark가 읽은 모든 정보는 이 Mac에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark가 읽은 모든 정보는 이 컴퓨터에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트를 확인할 때만 인터넷에 연결합니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n scan(s) saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>검사 %n개 저장됨, 최대 %1개</numerusform>
         </translation>
     </message>
 </context>
@@ -2651,163 +2769,163 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::Header</name>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>복사됨</translation>
     </message>
     <message>
         <source>Search capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>기능 검색</translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>검색 지우기</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>뒤로</translation>
     </message>
     <message>
         <source>Inspect again</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 검사</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트로 복사</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기…</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>메뉴</translation>
     </message>
     <message>
         <source>Menu (F10)</source>
         <extracomment>Tool tip of the button that opens the menus, with its key</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>메뉴(F10)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HeadlineCard</name>
     <message>
         <source>Capability score</source>
-        <translation type="unfinished">기능 점수</translation>
+        <translation>기능 점수</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>The overview&apos;s first card, for screen readers. %1 is the machine and its parts, %2 &quot;Capability score 85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1.?}</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기능 점수: %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
-        <translation type="unfinished">메모리 %1</translation>
+        <translation>메모리 %1</translation>
     </message>
     <message>
         <source>%1 storage</source>
-        <translation type="unfinished">저장 공간 %1</translation>
+        <translation>저장 공간 %1</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this Mac supports</source>
-        <translation type="unfinished">평가 대상 기능 중 이 Mac이 지원하는 비율</translation>
+        <translation>평가 대상 기능 중 이 Mac이 지원하는 비율</translation>
     </message>
     <message>
         <source>Share of rated capabilities that this computer supports</source>
-        <translation type="unfinished">평가 대상 기능 중 이 컴퓨터가 지원하는 비율</translation>
+        <translation>평가 대상 기능 중 이 컴퓨터가 지원하는 비율</translation>
     </message>
     <message>
         <source>Nothing is rated</source>
-        <translation type="unfinished">평가 대상 없음</translation>
+        <translation>평가 대상 없음</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>기능 %n개 중 %1개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1퍼센트, 기능 %n개 중 %2개 지원</numerusform>
         </translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>이 Mac 검사 중…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터 검사 중…</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation type="unfinished"></translation>
+        <translation>평소보다 오래 걸리고 있습니다</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation type="unfinished"></translation>
+        <translation>하드웨어와 시스템 설정을 읽는 중</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryDelegate</name>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::HistoryModel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>오늘</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>어제</translation>
     </message>
     <message>
         <source>This month</source>
-        <translation type="unfinished"></translation>
+        <translation>이번 달</translation>
     </message>
     <message>
         <source>Other Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 Mac</translation>
     </message>
     <message>
         <source>Other computer</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 컴퓨터</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
         <extracomment>A saved scan for screen readers: date, system, counts of three statuses, what it changed</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3, %4, %5, %6</translation>
     </message>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n개 지원됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n개 지원되지 않음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>경고 %n개</numerusform>
         </translation>
     </message>
 </context>
@@ -2815,100 +2933,100 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::HistoryView</name>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 비교</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 기록</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 사항이 있을 때마다 검사가 저장됩니다. 최근 200개가 이 Mac에 보관됩니다.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 사항이 있을 때마다 검사가 저장됩니다. 최근 200개가 이 컴퓨터에 보관됩니다.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>새로운 내용이 발견될 때마다 Quillmark가 검사를 저장합니다. 이 Mac을 검사하면 첫 번째 검사가 저장됩니다.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>새로운 내용이 발견될 때마다 Quillmark가 검사를 저장합니다. 이 컴퓨터를 검사하면 첫 번째 검사가 저장됩니다.</translation>
     </message>
     <message>
         <source>Inspect now</source>
-        <translation type="unfinished"></translation>
+        <translation>지금 검사</translation>
     </message>
     <message>
         <source>Saved scans</source>
-        <translation type="unfinished"></translation>
+        <translation>저장된 검사</translation>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation type="unfinished"></translation>
+        <translation>선택 해제</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>비교</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 지우기…</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>검사 %n개 저장됨</numerusform>
         </translation>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 1개 선택됨 · 하나 더 선택하십시오</translation>
     </message>
     <message>
         <source>2 scans selected</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 2개 선택됨</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 및 %2</translation>
     </message>
     <message>
         <source>Delete this scan?</source>
-        <translation type="unfinished"></translation>
+        <translation>이 검사를 삭제하겠습니까?</translation>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 검사를 기록에서 제거합니다.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 기록을 지우겠습니까?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>저장된 검사 %n개를 모두 제거합니다. 이 작업은 취소할 수 없습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 지우기</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 기록을 저장할 수 없습니다.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 Quillmark에서 기록을 사용하고 있습니다. 여기에서 수행한 검사는 해당 Quillmark가 종료될 때까지 유지됩니다.</translation>
     </message>
 </context>
 <context>
@@ -2916,401 +3034,401 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1 (%2)</source>
         <extracomment>Tool tip of a button: its name and its shortcut, &quot;Inspect again (Ctrl+R)&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1(%2)</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation type="unfinished"></translation>
+        <translation>인터페이스 언어:</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>예:</translation>
     </message>
     <message>
         <source>Interface language</source>
-        <translation type="unfinished"></translation>
+        <translation>인터페이스 언어</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>새로운 언어가 바로 적용됩니다. 다른 언어로 저장된 검사도 계속 비교할 수 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::LicencesDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>라이선스</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">샘플 수집 중…</translation>
+        <translation>샘플 수집 중…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark 열기</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarLabel</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark 실시간 모니터</translation>
     </message>
     <message>
         <source>Memory used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용된 메모리: %1</translation>
     </message>
     <message>
         <source>Processor load: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>프로세서 부하: %1</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarMonitorView</name>
     <message>
         <source>Quillmark live monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark 실시간 모니터</translation>
     </message>
     <message>
         <source>Every second</source>
-        <translation type="unfinished"></translation>
+        <translation>매초</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">샘플 수집 중…</translation>
+        <translation>샘플 수집 중…</translation>
     </message>
     <message>
         <source>Open Quillmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark 열기</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>설정…</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MenuBarPane</name>
     <message>
         <source>Menu bar:</source>
-        <translation type="unfinished"></translation>
+        <translation>메뉴 막대:</translation>
     </message>
     <message>
         <source>Show next to the icon:</source>
-        <translation type="unfinished"></translation>
+        <translation>아이콘 옆에 표시:</translation>
     </message>
     <message>
         <source>Window:</source>
-        <translation type="unfinished"></translation>
+        <translation>윈도우:</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>메뉴 막대에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark는 종료할 때까지 메뉴 막대에 남아 있습니다</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템 트레이:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템 트레이에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark는 종료할 때까지 시스템 트레이에 남아 있습니다</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 데스크탑 환경에는 시스템 트레이가 없습니다.</translation>
     </message>
     <message>
         <source>Processor load</source>
-        <translation type="unfinished"></translation>
+        <translation>프로세서 부하</translation>
     </message>
     <message>
         <source>Memory used</source>
-        <translation type="unfinished"></translation>
+        <translation>사용된 메모리</translation>
     </message>
     <message>
         <source>Icon only</source>
-        <translation type="unfinished"></translation>
+        <translation>아이콘만</translation>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>기본 윈도우를 닫아도 계속 실행</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::MonitorView</name>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">실시간 모니터</translation>
+        <translation>실시간 모니터</translation>
     </message>
     <message>
         <source>Updated every second · last 2 minutes</source>
-        <translation type="unfinished">매초 업데이트 · 최근 2분</translation>
+        <translation>매초 업데이트 · 최근 2분</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
-        <translation type="unfinished">샘플 수집 중…</translation>
+        <translation>샘플 수집 중…</translation>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>첫 번째 값은 약 1초 후에 표시됩니다.</translation>
     </message>
     <message>
         <source>Processor</source>
-        <translation type="unfinished">프로세서</translation>
+        <translation>프로세서</translation>
     </message>
     <message>
         <source>Per core</source>
-        <translation type="unfinished">코어별</translation>
+        <translation>코어별</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished">메모리</translation>
+        <translation>메모리</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">네트워크</translation>
+        <translation>네트워크</translation>
     </message>
     <message>
         <source>Thermal state</source>
-        <translation type="unfinished">발열 상태</translation>
+        <translation>발열 상태</translation>
     </message>
     <message>
         <source>Swap used</source>
-        <translation type="unfinished">사용된 스왑</translation>
+        <translation>사용된 스왑</translation>
     </message>
     <message>
         <source>All interfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 인터페이스</translation>
     </message>
     <message>
         <source>On the start-up volume</source>
-        <translation type="unfinished"></translation>
+        <translation>시동 볼륨에 있음</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>코어 %n개</numerusform>
         </translation>
     </message>
     <message>
         <source>of %1</source>
         <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
-        <translation type="unfinished">/ %1</translation>
+        <translation>/ %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished">사용됨</translation>
+        <translation>사용됨</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished">압력</translation>
+        <translation>압력</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished">수신</translation>
+        <translation>수신</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished">송신</translation>
+        <translation>송신</translation>
     </message>
     <message>
         <source>Power adapter connected</source>
-        <translation type="unfinished"></translation>
+        <translation>전원 어댑터 연결됨</translation>
     </message>
     <message>
         <source>Not charging</source>
-        <translation type="unfinished"></translation>
+        <translation>충전 중 아님</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::NoticeBar</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::OverviewPage</name>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>개요</translation>
     </message>
     <message>
         <source>First scan saved</source>
-        <translation type="unfinished"></translation>
+        <translation>첫 번째 검사 저장됨</translation>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation type="unfinished"></translation>
+        <translation>이후 검사는 이 검사와 비교됩니다</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n개 변경됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n개 추가됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n개 제거됨</numerusform>
         </translation>
     </message>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 이후</translation>
     </message>
     <message>
         <source>No differences</source>
-        <translation type="unfinished">차이 없음</translation>
+        <translation>차이 없음</translation>
     </message>
     <message>
         <source>Compare scans</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 비교</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 검색 결과</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n개 섹션</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1의 %n행</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>필터: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>일치하는 행 없음</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’이(가) 포함된 항목이 없습니다. 철자를 확인하거나 더 짧은 단어로 시도하십시오.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’이(가) 포함된 행 중 상태가 ‘%2’인 행이 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>다른 상태에서는 %n행이 일치합니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear search</source>
-        <translation type="unfinished"></translation>
+        <translation>검색 지우기</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation type="unfinished"></translation>
+        <translation>일치하는 행 없음</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>여기에는 상태가 ‘%1’인 행이 없습니다.</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Show all statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 상태 보기</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionCard</name>
     <message numerus="yes">
         <source>%n supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n개 지원됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n개 지원되지 않음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n warnings</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>경고 %n개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n info</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>정보 %n개</numerusform>
         </translation>
     </message>
     <message>
         <source>%1:</source>
         <extracomment>The label before its value</extracomment>
-        <translation type="unfinished">%1:</translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SectionPage</name>
     <message>
         <source>Inspecting this Mac…</source>
-        <translation type="unfinished"></translation>
+        <translation>이 Mac 검사 중…</translation>
     </message>
     <message>
         <source>Inspecting this computer…</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터 검사 중…</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation type="unfinished"></translation>
+        <translation>이 섹션에는 평가 대상이 없습니다</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>평가 대상 %n개 중 %1개 지원</numerusform>
         </translation>
     </message>
 </context>
@@ -3318,75 +3436,75 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SettingsDialog</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>일반</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>언어</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>메뉴 막대</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템 트레이</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Sidebar</name>
     <message>
         <source>Inspecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 중…</translation>
     </message>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>사이드바</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation type="unfinished"></translation>
+        <translation>CPU, 메모리, 발열, 배터리, 네트워크의 실시간 차트</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, 경고 %n개</numerusform>
         </translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation type="unfinished"></translation>
+        <translation>개요</translation>
     </message>
     <message>
         <source>Capabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>도구</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation type="unfinished"></translation>
+        <translation>검사 기록</translation>
     </message>
     <message>
         <source>Battery health</source>
-        <translation type="unfinished">배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>Live monitor</source>
-        <translation type="unfinished">실시간 모니터</translation>
+        <translation>실시간 모니터</translation>
     </message>
 </context>
 <context>
@@ -3394,92 +3512,92 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%1, %n rows</source>
         <extracomment>Name of a filter, for screen readers: &quot;Warning, 3 rows&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n행</numerusform>
         </translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
-        <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
+        <translation>Quillmark가 %1에 새로운 버전이 있는지 확인해도 되겠습니까?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>하루에 한 번 확인</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation type="unfinished"></translation>
+        <translation>이번 한 번만 확인</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트를 확인할 수 없습니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation type="unfinished"></translation>
+        <translation>중요한 업데이트인 Quillmark %1 버전을 사용할 수 있습니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1 버전을 사용할 수 있습니다.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 버전은 %1입니다.</translation>
     </message>
     <message>
         <source>What’s new</source>
-        <translation type="unfinished"></translation>
+        <translation>새로운 기능</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>이 버전 건너뛰기</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드…</translation>
     </message>
     <message>
         <source>What’s new in Quillmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark %1의 새로운 기능</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::UpdatesPane</name>
     <message>
         <source>Updates:</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트:</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>상태:</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>자동으로 업데이트 확인</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillmark를 시작할 때 하루에 한 번 %1에 확인</translation>
     </message>
     <message>
         <source>Checking…</source>
-        <translation type="unfinished"></translation>
+        <translation>확인 중…</translation>
     </message>
     <message>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>지금 확인</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation type="unfinished"></translation>
+        <translation>확인한 적 없음</translation>
     </message>
 </context>
 </TS>
