@@ -17,13 +17,15 @@ constexpr qreal shadeOverlap = 1;
 
 } // namespace
 
-WrappedText::WrappedText(const QString &text, const QFont &font, qreal width, int mostLines)
+WrappedText::WrappedText(const QString &text, const QFont &font, qreal width, int mostLines,
+                         Qt::LayoutDirection runs)
     : m_width(std::max(width, 1.0))
 {
     m_layout.setFont(font);
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setWrapMode(mostLines > 1 ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
-    option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    const auto own = text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+    option.setTextDirection(runs == Qt::LayoutDirectionAuto ? own : runs);
     m_layout.setTextOption(option);
     layOut(text, mostLines);
 }

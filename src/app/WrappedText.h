@@ -22,7 +22,9 @@ namespace quillmark::app {
 class WrappedText
 {
 public:
-    WrappedText(const QString &text, const QFont &font, qreal width, int mostLines);
+    /// `runs`: the way of a text that is made of several, which no letter of them tells.
+    WrappedText(const QString &text, const QFont &font, qreal width, int mostLines,
+                Qt::LayoutDirection runs = Qt::LayoutDirectionAuto);
 
     qreal height() const { return m_height; }
     bool isElided() const { return m_isElided; }

@@ -77,4 +77,16 @@ QString lastCheckedText(const QDateTime &moment, const language::Formats &format
     return Text::tr("Last checked on %1").arg(dayText(moment, formats));
 }
 
+QString exportedText(int sections, const QDateTime &moment, const language::Formats &formats)
+{
+    const auto days = moment.date().daysTo(QDate::currentDate());
+    if (days == 0)
+        return Text::tr("All %n sections, as inspected today at %1.", nullptr, sections)
+            .arg(timeText(moment, formats));
+    if (days == 1)
+        return Text::tr("All %n sections, as inspected yesterday at %1.", nullptr, sections)
+            .arg(timeText(moment, formats));
+    return Text::tr("All %n sections, as inspected on %1.", nullptr, sections).arg(dayText(moment, formats));
+}
+
 } // namespace quillmark::app

@@ -30,4 +30,7 @@ QString inspectedText(const QDateTime &moment, const language::Formats &formats)
 /// "Last checked today at 08:41", and so on.
 QString lastCheckedText(const QDateTime &moment, const language::Formats &formats);
 
+/// "All 11 sections, as inspected today at 08:41.", and so on.
+QString exportedText(int sections, const QDateTime &moment, const language::Formats &formats);
+
 } // namespace quillmark::app

@@ -5,8 +5,10 @@
 
 #include "app/dialogs/AboutDialog.h"
 #include "app/dialogs/FirstRunDialog.h"
+#include "app/dialogs/ReportExport.h"
 #include "app/dialogs/SettingsDialog.h"
 #include "app/dialogs/UpdateNotices.h"
+#include "app/dialogs/showInFolder.h"
 #include "app/settingKeys.h"
 #include "app/views/ContentView.h"
 #include "app/widgets/NoticeBar.h"
@@ -14,10 +16,7 @@
 #include "history/ScanHistory.h"
 
 #include <QApplication>
-#include <QDesktopServices>
-#include <QFileInfo>
 #include <QTimer>
-#include <QUrl>
 
 namespace quillmark::app {
 
@@ -27,9 +26,11 @@ Dialogs::Dialogs(ContentView &window, const AppContext &context, update::UpdateC
     , m_context(context)
     , m_updates(updates)
     , m_updateNotices(new UpdateNotices(updates, context.settings, window.notices(), &window))
+    , m_export(new ReportExport(context, window.notices(), &window))
 {
     connect(&window, &ContentView::aboutAsked, this, &Dialogs::showAbout);
     connect(&window, &ContentView::settingsAsked, this, &Dialogs::showSettings);
+    connect(&window, &ContentView::exportAsked, m_export, &ReportExport::begin);
     connect(&window, &ContentView::updateCheckAsked, this, &Dialogs::checkForUpdates);
     QTimer::singleShot(0, this, &Dialogs::begin);
 }
@@ -91,7 +92,8 @@ SettingsDialog *Dialogs::showSettings()
 {
     return open(m_settings, [this] {
         auto *dialog = new SettingsDialog(m_context, m_updates, &m_window);
-        connect(dialog, &SettingsDialog::historyFolderAsked, this, &Dialogs::showHistoryFolder);
+        connect(dialog, &SettingsDialog::historyFolderAsked, this,
+                [this] { showInFolder(m_context.history.file()); });
         connect(dialog, &SettingsDialog::clearingAsked, this, &Dialogs::askToClearHistory);
         connect(dialog, &SettingsDialog::updateCheckAsked, this, &Dialogs::checkForUpdates);
         return dialog;
@@ -103,17 +105,12 @@ void Dialogs::checkForUpdates()
     m_updateNotices->checkNow(activeWindow());
 }
 
-void Dialogs::showHistoryFolder()
-{
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(m_context.history.file()).absolutePath()));
-}
-
 void Dialogs::askToClearHistory()
 {
     const auto scans = static_cast<int>(m_context.history.snapshots().size());
     ask(activeWindow(),
         {.sentence = tr("Clear the scan history?"),
-         .consequence = tr("All %n saved scan(s) will be removed. This can’t be undone.", nullptr, scans),
+         .consequence = tr("All %n saved scans will be removed. This can’t be undone.", nullptr, scans),
          .verb = tr("Clear history")},
         [this] { m_context.history.clear(); });
 }

@@ -17,6 +17,7 @@ class UpdateChecker;
 namespace quillmark::app {
 
 class ContentView;
+class ReportExport;
 class SettingsDialog;
 class UpdateNotices;
 
@@ -39,7 +40,6 @@ public:
 private:
     void begin();
     void welcome();
-    void showHistoryFolder();
     void askToClearHistory();
     /// Shows the dialog, or brings it forward; makes it where it is not there yet.
     template <typename Dialog, typename Make>
@@ -51,6 +51,7 @@ private:
     const AppContext &m_context;
     update::UpdateChecker &m_updates;
     UpdateNotices *m_updateNotices;
+    ReportExport *m_export;
     QPointer<QDialog> m_about;
     QPointer<QDialog> m_licences;
     QPointer<SettingsDialog> m_settings;

@@ -3,11 +3,11 @@
 
 #include "app/dialogs/GeneralPane.h"
 
+#include "app/dialogs/showInFolder.h"
 #include "app/settingKeys.h"
 #include "history/ScanHistory.h"
 #include "language/LanguageManager.h"
 
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
@@ -57,15 +57,14 @@ GeneralPane::GeneralPane(const AppContext &context, QWidget *parent)
 
 void GeneralPane::retranslate()
 {
-    setLabels({tr("When Quillmark opens:"), tr("Scan history:"), tr("Privacy:")});
     m_overview->setText(tr("Show the overview"));
     m_last->setText(tr("Show the screen I used last"));
-    m_show->setText(QGuiApplication::platformName() == "cocoa"_L1 ? tr("Show in Finder")
-                                                                  : tr("Show in file manager"));
+    m_show->setText(showInFolderVerb());
     m_clear->setText(tr("Clear history…"));
     m_stays->setText(isMac(m_context) ? tr("Everything Quillmark reads stays on this Mac.")
                                       : tr("Everything Quillmark reads stays on this computer."));
     m_connection->setText(tr("The only connection it makes is the check for updates."));
+    setLabels({tr("When Quillmark opens:"), tr("Scan history:"), tr("Privacy:")});
     refresh();
 }
 
@@ -75,7 +74,7 @@ void GeneralPane::refresh()
     (opensAtLast ? m_last : m_overview)->setChecked(true);
     const auto scans = m_context.history.snapshots().size();
     //: %1 is a number
-    m_scans->setText(tr("%n scan(s) saved, %1 at most", nullptr, static_cast<int>(scans))
+    m_scans->setText(tr("%n scans saved, %1 at most", nullptr, static_cast<int>(scans))
                          .arg(m_context.language.formats().number(history::ScanHistory::mostSnapshots)));
     m_clear->setEnabled(scans > 0);
 }

@@ -47,7 +47,6 @@ void LanguagePane::choose(const QString &tag)
 
 void LanguagePane::retranslate()
 {
-    setLabels({tr("Interface language:"), tr("Example:")});
     m_languages->setAccessibleName(tr("Interface language"));
     m_languages->setItemText(0, m_context.language.systemChoiceName());
     m_caption->setText(
@@ -56,6 +55,7 @@ void LanguagePane::retranslate()
     constexpr std::int64_t bytes = 994'662'584'320;
     m_example->setText(formats.dateAndTime(QDateTime::currentDateTime()) + u" · "_s +
                        formats.byteCount(bytes, language::ByteCountStyle::File));
+    setLabels({tr("Interface language:"), tr("Example:")});
     refresh();
 }
 

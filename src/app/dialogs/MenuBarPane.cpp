@@ -58,14 +58,14 @@ MenuBarPane::MenuBarPane(const AppContext &context, QWidget *parent)
 void MenuBarPane::retranslate()
 {
     if (hasMenuBar()) {
-        setLabels({tr("Menu bar:"), tr("Show next to the icon:"), tr("Window:")});
         m_show->setText(tr("Show the live monitor in the menu bar"));
         m_keepCaption->setText(tr("Quillmark stays in the menu bar until you quit it"));
     } else {
-        setLabels({tr("Status area:"), tr("Show next to the icon:"), tr("Window:")});
         m_show->setText(tr("Show the live monitor in the status area"));
         m_keepCaption->setText(tr("Quillmark stays in the status area until you quit it"));
     }
+    setLabels(
+        {hasMenuBar() ? tr("Menu bar:") : tr("Status area:"), tr("Show next to the icon:"), tr("Window:")});
     m_missing->setText(tr("This desktop has no status area."));
     m_figures[0]->setText(tr("Processor load"));
     m_figures[1]->setText(tr("Memory used"));

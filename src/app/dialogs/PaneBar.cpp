@@ -7,6 +7,7 @@
 #include "app/painting.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -116,7 +117,10 @@ void PaneBar::setNames(const QStringList &names)
 
 void PaneBar::choose(int index)
 {
+    const bool hasFocus = isAncestorOf(QApplication::focusWidget());
     m_group.button(index)->setChecked(true);
+    if (hasFocus)
+        m_group.button(index)->setFocus(Qt::TabFocusReason);
 }
 
 void PaneBar::paintEvent(QPaintEvent *)

@@ -11,6 +11,7 @@
 #include "settings/Settings.h"
 
 #include <QGuiApplication>
+#include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -59,6 +60,8 @@ SettingsDialog::SettingsDialog(const AppContext &context, update::UpdateChecker 
     };
     addKey(QKeySequence::NextChild, 1);
     addKey(QKeySequence::PreviousChild, -1);
+    for (auto *button : findChildren<QPushButton *>())
+        button->setAutoDefault(false);
     setUp();
 }
 

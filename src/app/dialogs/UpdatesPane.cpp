@@ -54,8 +54,8 @@ UpdatesPane::UpdatesPane(const AppContext &context, UpdateChecker &updates, QWid
 
 void UpdatesPane::retranslate()
 {
-    setLabels({tr("Updates:"), tr("Status:")});
     m_automatic->setText(tr("Check for updates automatically"));
+    setLabels({tr("Updates:"), tr("Status:")});
     refresh();
 }
 

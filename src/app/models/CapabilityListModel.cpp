@@ -3,7 +3,7 @@
 
 #include "app/models/CapabilityListModel.h"
 
-#include "app/models/searchWords.h"
+#include "app/models/SearchWords.h"
 
 #include <QSet>
 
@@ -14,6 +14,36 @@ namespace quillmark::app {
 using namespace Qt::StringLiterals;
 using inspection::CapabilityStatus;
 using language::TextRange;
+
+namespace {
+
+/// What a search finds; an empty one lets everything through.
+class Search
+{
+public:
+    explicit Search(const QString &text)
+        : m_folded(language::folded(text))
+    {
+        if (!m_folded.isEmpty())
+            m_words.emplace();
+    }
+
+    QList<TextRange> in(const QString &text) const
+    {
+        return m_folded.isEmpty() ? QList<TextRange>() : language::foldedMatches(text, m_folded);
+    }
+
+    bool means(const QString &sectionKey, const QString &rowKey) const
+    {
+        return !m_words || m_words->match(sectionKey, rowKey, m_folded);
+    }
+
+private:
+    QString m_folded;
+    std::optional<SearchWords> m_words;
+};
+
+} // namespace
 
 CapabilityListModel::CapabilityListModel(QObject *parent)
     : QAbstractListModel(parent)
@@ -105,11 +135,7 @@ QString CapabilityListModel::text(const QModelIndexList &rows) const
 
 void CapabilityListModel::update()
 {
-    const auto search = language::folded(m_query.search);
-    const SearchWords words;
-    const auto matches = [&](const QString &text) {
-        return search.isEmpty() ? QList<TextRange>() : language::foldedMatches(text, search);
-    };
+    const Search search(m_query.search);
     QList<Row> rows;
     QSet<QString> ids;
     m_counts = {};
@@ -119,16 +145,15 @@ void CapabilityListModel::update()
         const auto sectionKey = section.key.value_or(section.title);
         if (!m_query.section.isEmpty() && sectionKey != m_query.section)
             continue;
-        Row heading{.id = sectionKey, .isHeading = true, .label = section.title, .symbol = section.symbol};
-        heading.labelMatches = matches(section.title);
+        const auto titleMatches = search.in(section.title);
         QList<Row> found;
         for (const auto &item : section.items) {
             const auto key = item.key.value_or(item.label);
             Row row{.label = item.label, .value = item.value, .status = item.status};
-            row.labelMatches = matches(row.label);
-            row.valueMatches = matches(row.value);
-            if (!search.isEmpty() && heading.labelMatches.isEmpty() && row.labelMatches.isEmpty() &&
-                row.valueMatches.isEmpty() && !words.match(sectionKey, key, search))
+            row.labelMatches = search.in(row.label);
+            row.valueMatches = search.in(row.value);
+            if (titleMatches.isEmpty() && row.labelMatches.isEmpty() && row.valueMatches.isEmpty() &&
+                !search.means(sectionKey, key))
                 continue;
             m_counts.add(item.status);
             if (m_query.status && item.status != m_query.status)
@@ -141,11 +166,15 @@ void CapabilityListModel::update()
         }
         if (found.isEmpty())
             continue;
-        heading.count = static_cast<int>(found.size());
-        m_shownRows += heading.count;
         ++m_shownSections;
+        m_shownRows += static_cast<int>(found.size());
         if (m_query.section.isEmpty())
-            rows += heading;
+            rows += Row{.id = sectionKey,
+                        .isHeading = true,
+                        .label = section.title,
+                        .symbol = section.symbol,
+                        .count = static_cast<int>(found.size()),
+                        .labelMatches = titleMatches};
         rows += found;
     }
     replace(rows);

@@ -57,7 +57,9 @@ public:
         , m_text(new TextLabel(TextRole::Small, Role::Text2, this))
     {
         auto *row = new QHBoxLayout(this);
-        row->setContentsMargins(22, 0, 0, 0);
+        row->setContentsMargins({});
+        row->setSpacing(0);
+        row->addSpacing(22); // the icon
         row->addWidget(m_text);
     }
 
@@ -108,8 +110,9 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
             [this](const QString &text) { m_clear->setVisible(!text.isEmpty()); });
 
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(28, 0, 20, 0);
+    row->setContentsMargins({});
     row->setSpacing(8);
+    row->addSpacing(20); // not a margin, which would not be mirrored; the gap comes on top
     row->addWidget(m_back);
     row->addWidget(m_machine, 1);
     row->addWidget(m_title, 1);
@@ -127,6 +130,7 @@ Header::Header(const Actions &actions, bool hasMenuButton, QWidget *parent)
         m_menu->setMenu(menu);
         row->addWidget(m_menu);
     }
+    row->addSpacing(12);
     m_note->hide();
     m_back->hide();
     m_pageButton->hide();

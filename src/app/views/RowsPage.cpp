@@ -54,7 +54,8 @@ void RowsPage::copy()
 
 void RowsPage::selectAll()
 {
-    m_list->selectAll();
+    if (!m_list->isHidden())
+        m_list->selectAll();
 }
 
 void RowsPage::setStatus(std::optional<CapabilityStatus> status)

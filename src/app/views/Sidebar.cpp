@@ -75,8 +75,11 @@ public:
         m_text = new ElidedLabel(TextRole::Small, Role::Text2, this);
         auto *row = new QHBoxLayout(this);
         constexpr int textBegins = 42;
-        row->setContentsMargins(textBegins, 0, 12, 0);
+        row->setContentsMargins({});
+        row->setSpacing(0);
+        row->addSpacing(textBegins); // on the other side where the window is mirrored
         row->addWidget(m_text);
+        row->addSpacing(12);
         // A quarter of a turn in five steps of a tenth of a second: it is seen to turn, and costs little.
         m_turning.setInterval(100);
         connect(&m_turning, &QTimer::timeout, this, [this] {

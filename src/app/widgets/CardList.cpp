@@ -30,7 +30,7 @@ void CardList::doItemsLayout()
 {
     m_laidOutFor = width();
     QListView::doItemsLayout();
-    setFixedHeight(contentsSize().height());
+    setFixedHeight(std::max(0, contentsSize().height()));
 }
 
 /// All rows are visible as far as the list knows, so that a page of it would be all of it.

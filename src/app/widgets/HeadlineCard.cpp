@@ -11,8 +11,10 @@
 #include "app/widgets/ScoreRing.h"
 #include "inspection/Quillmark.h"
 
+#include <QHelpEvent>
 #include <QLocale>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <chrono>
@@ -50,35 +52,6 @@ constexpr auto patience = 8s;
 
 /// Stands between facts in a line.
 constexpr QStringView parted = u"\u2002·\u2002";
-
-struct Paragraph
-{
-    QString text;
-    QFont font;
-    Role color;
-    qreal above = 0; ///< distance to the one before
-    int mostLines = 1;
-};
-
-/// One below the other, in the middle of the place.
-void paintParagraphs(QPainter &painter, const QRectF &place, const QRectF &bounds,
-                     Qt::LayoutDirection direction, const QList<Paragraph> &paragraphs)
-{
-    std::deque<WrappedText> texts;
-    qreal height = 0;
-    for (const auto &paragraph : paragraphs) {
-        texts.emplace_back(paragraph.text, paragraph.font, place.width(), paragraph.mostLines);
-        height += paragraph.above + texts.back().height();
-    }
-    const auto corner = placed(place, bounds, direction).topLeft();
-    qreal y = place.center().y() - height / 2;
-    for (qsizetype at = 0; at < paragraphs.size(); ++at) {
-        const auto &text = texts[static_cast<std::size_t>(at)];
-        y += paragraphs[at].above;
-        text.draw(painter, {corner.x(), y}, direction, Appearance::current().color(paragraphs[at].color));
-        y += text.height();
-    }
-}
 
 /// What has a value: unreadable facts are a dash.
 bool isKnown(const QString &fact)
@@ -245,7 +218,7 @@ void HeadlineCard::paintEvent(QPaintEvent *event)
     Card::paintEvent(event);
     QPainter painter(this);
     if (m_context.inspection.summary())
-        paintMachine(painter);
+        paintParagraphs(painter, textPlace(), machine());
     else
         paintProgress(painter);
     if (m_isCompact)
@@ -258,11 +231,32 @@ void HeadlineCard::paintEvent(QPaintEvent *event)
     paintScore(painter);
 }
 
-void HeadlineCard::paintMachine(QPainter &painter) const
+/// One below the other, in the middle of the place.
+void HeadlineCard::paintParagraphs(QPainter &painter, const QRectF &place,
+                                   const QList<Paragraph> &paragraphs) const
+{
+    std::deque<WrappedText> texts;
+    qreal height = 0;
+    for (const auto &paragraph : paragraphs) {
+        texts.emplace_back(paragraph.text, paragraph.font, place.width(), paragraph.mostLines,
+                           layoutDirection());
+        height += paragraph.above + texts.back().height();
+    }
+    const auto corner = placed(place, rect(), layoutDirection()).topLeft();
+    qreal y = place.center().y() - height / 2;
+    for (qsizetype at = 0; at < paragraphs.size(); ++at) {
+        const auto &text = texts[static_cast<std::size_t>(at)];
+        y += paragraphs[at].above;
+        text.draw(painter, {corner.x(), y}, layoutDirection(),
+                  Appearance::current().color(paragraphs[at].color));
+        y += text.height();
+    }
+}
+
+QList<HeadlineCard::Paragraph> HeadlineCard::machine() const
 {
     const auto &appearance = Appearance::current();
     const auto &summary = *m_context.inspection.summary();
-    const auto place = textPlace();
     auto nameFont = appearance.font(TextRole::Title1);
     if (m_isCompact)
         nameFont.setPointSizeF(nameFont.pointSizeF() * compactNameSize / 22);
@@ -270,10 +264,10 @@ void HeadlineCard::paintMachine(QPainter &painter) const
     auto parts = hardware();
     for (auto &part : parts)
         part = isolated(part);
-    QList<Paragraph> paragraphs = {{summary.deviceName, nameFont, Role::Text}};
+    QList<Paragraph> paragraphs = {{isolated(summary.deviceName), nameFont, Role::Text}};
     const auto oneLine = parts.join(parted);
     constexpr qreal gap = 3;
-    if (parts.size() > 1 && QFontMetricsF(factFont).horizontalAdvance(oneLine) > place.width()) {
+    if (parts.size() > 1 && QFontMetricsF(factFont).horizontalAdvance(oneLine) > textPlace().width()) {
         paragraphs += {parts.takeFirst(), factFont, Role::Text, gap};
         paragraphs += {parts.join(parted), factFont, Role::Text};
     } else {
@@ -283,7 +277,7 @@ void HeadlineCard::paintMachine(QPainter &painter) const
     if (isKnown(summary.modelIdentifier))
         system += isolated(summary.modelIdentifier);
     paragraphs += {system.join(u" · "_s), appearance.font(TextRole::Small), Role::Text3, gap};
-    paintParagraphs(painter, place, rect(), layoutDirection(), paragraphs);
+    return paragraphs;
 }
 
 void HeadlineCard::paintProgress(QPainter &painter) const
@@ -292,7 +286,7 @@ void HeadlineCard::paintProgress(QPainter &painter) const
     auto place = textPlace();
     constexpr qreal barBelow = 34; ///< of the middle
     paintParagraphs(
-        painter, place.adjusted(0, -16, 0, -16), rect(), layoutDirection(),
+        painter, place.adjusted(0, -16, 0, -16),
         {{progressTitle(), appearance.font(TextRole::Title1), Role::Text},
          {m_takesLong ? tr("This is taking longer than usual") : tr("Reading hardware and system settings"),
           appearance.font(TextRole::Heading, QFont::Normal), Role::Text2, 3}});
@@ -318,14 +312,13 @@ void HeadlineCard::paintScore(QPainter &painter) const
         const auto font = appearance.font(TextRole::Small);
         constexpr qreal gap = 3;
         constexpr int mostLines = 3;
-        paintParagraphs(painter, place, rect(), layoutDirection(),
+        paintParagraphs(painter, place,
                         {{title, titleFont, Role::Text},
                          {scoreMeaning(), font, Role::Text2, gap, mostLines},
                          {scoreCount(), font, Role::Text2, gap}});
         return;
     }
-    paintParagraphs(painter, place.adjusted(0, -16, 0, -16), rect(), layoutDirection(),
-                    {{title, titleFont, Role::Text2}});
+    paintParagraphs(painter, place.adjusted(0, -16, 0, -16), {{title, titleFont, Role::Text2}});
     qreal y = place.center().y() + 2;
     for (const qreal share : {0.9, 0.67}) {
         const QRectF bar(place.left(), y, place.width() * share, skeletonHeight);
@@ -351,6 +344,23 @@ void HeadlineCard::hideEvent(QHideEvent *event)
 {
     Card::hideEvent(event);
     watchProgress();
+}
+
+bool HeadlineCard::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !m_context.inspection.summary())
+        return Card::event(event);
+    const auto paragraphs = machine();
+    const bool isElided = std::ranges::any_of(paragraphs, [this](const Paragraph &paragraph) {
+        return WrappedText(paragraph.text, paragraph.font, textPlace().width(), paragraph.mostLines)
+            .isElided();
+    });
+    QStringList texts;
+    for (const auto &paragraph : paragraphs)
+        texts += paragraph.text;
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       isElided ? texts.join(u'\n') : QString(), this);
+    return true;
 }
 
 void HeadlineCard::changeEvent(QEvent *event)

@@ -34,6 +34,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -41,6 +42,15 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    struct Paragraph
+    {
+        QString text;
+        QFont font;
+        design::Role color;
+        qreal above = 0; ///< distance to the one before
+        int mostLines = 1;
+    };
+
     void arrange();
     void watchProgress();
     QStringList hardware() const;
@@ -50,7 +60,8 @@ private:
     QString progressTitle() const;
     QRectF textPlace() const;  ///< in a layout from left to right, as is the next
     QRectF scorePlace() const; ///< of the text beside the ring
-    void paintMachine(QPainter &painter) const;
+    QList<Paragraph> machine() const;
+    void paintParagraphs(QPainter &painter, const QRectF &place, const QList<Paragraph> &paragraphs) const;
     void paintProgress(QPainter &painter) const;
     void paintScore(QPainter &painter) const;
 

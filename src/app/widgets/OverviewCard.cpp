@@ -7,8 +7,10 @@
 #include "app/WrappedText.h"
 #include "app/painting.h"
 
+#include <QHelpEvent>
 #include <QLocale>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -61,17 +63,29 @@ QRectF OverviewCard::mirrored(const QRectF &place) const
 }
 
 void OverviewCard::paintText(QPainter &painter, const QRectF &place, const QString &text, const QFont &font,
-                             const QColor &color) const
+                             const QColor &color, Qt::LayoutDirection runs)
 {
-    const WrappedText set(text, font, place.width(), 1);
+    const WrappedText set(text, font, place.width(), 1, runs);
+    m_isCut = m_isCut || set.isElided();
     const QRectF line(place.left(), place.center().y() - set.height() / 2, place.width(), set.height());
     set.draw(painter, mirrored(line).topLeft(), layoutDirection(), color);
+}
+
+/// Tells all of the card where not all fits.
+bool OverviewCard::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QAbstractButton::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       m_isCut ? text() + u'\n' + detail() : QString(), this);
+    return true;
 }
 
 void OverviewCard::paintEvent(QPaintEvent *)
 {
     auto &appearance = Appearance::current();
     QPainter painter(this);
+    m_isCut = false;
     const auto look = this->look();
     const auto ground =
         isEnabled() && isDown() ? over(look.ground, appearance.color(Role::Text), 0.04) : look.ground;
@@ -162,7 +176,7 @@ OverviewCard::Look SectionCard::look() const
             appearance.color(Role::AccentSoft), appearance.color(Role::Text)};
 }
 
-void SectionCard::paintLines(QPainter &painter, const QRectF &first, const QRectF &second) const
+void SectionCard::paintLines(QPainter &painter, const QRectF &first, const QRectF &second)
 {
     if (m_isCollecting) {
         paintBars(painter, first, second);
@@ -173,8 +187,21 @@ void SectionCard::paintLines(QPainter &painter, const QRectF &first, const QRect
     paintCounts(painter, second);
 }
 
+QString SectionCard::detail() const
+{
+    if (!m_lead || m_lead->label.isEmpty())
+        return m_lead ? m_lead->value : QString();
+    return leadLabel() + u' ' + isolated(m_lead->value);
+}
+
+QString SectionCard::leadLabel() const
+{
+    //: The label before its value
+    return tr("%1:").arg(isolated(m_lead->label));
+}
+
 /// The label gives way before the value does.
-void SectionCard::paintLead(QPainter &painter, const QRectF &place) const
+void SectionCard::paintLead(QPainter &painter, const QRectF &place)
 {
     const auto &appearance = Appearance::current();
     const auto valueFont = appearance.font(TextRole::Body, QFont::Medium);
@@ -184,8 +211,7 @@ void SectionCard::paintLead(QPainter &painter, const QRectF &place) const
         return;
     }
     const auto labelFont = appearance.font(TextRole::Body);
-    //: The label before its value
-    const auto label = tr("%1:").arg(m_lead->label);
+    const auto label = leadLabel();
     const qreal gap = QFontMetricsF(labelFont).horizontalAdvance(u' ');
     const qreal wanted = QFontMetricsF(labelFont).horizontalAdvance(label) + 1;
     const qreal value = QFontMetricsF(valueFont).horizontalAdvance(m_lead->value) + 1;
@@ -195,7 +221,7 @@ void SectionCard::paintLead(QPainter &painter, const QRectF &place) const
     const qreal valueLeft = hasLabel ? labelWidth + gap : 0;
     if (hasLabel)
         paintText(painter, {place.left(), place.top(), labelWidth, place.height()}, label, labelFont,
-                  appearance.color(Role::Text2));
+                  appearance.color(Role::Text2), layoutDirection());
     paintText(painter, place.adjusted(valueLeft, 0, 0, 0), m_lead->value, valueFont, valueColor);
 }
 
@@ -261,7 +287,7 @@ OverviewCard::Look SinceCard::look() const
             appearance.color(Role::AccentText)};
 }
 
-void SinceCard::paintLines(QPainter &painter, const QRectF &first, const QRectF &second) const
+void SinceCard::paintLines(QPainter &painter, const QRectF &first, const QRectF &second)
 {
     const auto &appearance = Appearance::current();
     paintText(painter, first, m_line, appearance.font(TextRole::Body), appearance.color(Role::Text2));

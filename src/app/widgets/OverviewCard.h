@@ -35,14 +35,21 @@ protected:
     virtual QString symbol() const = 0;
     virtual Look look() const = 0;
     /// The two lines, within `place`, in a layout from left to right.
-    virtual void paintLines(QPainter &painter, const QRectF &first, const QRectF &second) const = 0;
+    virtual void paintLines(QPainter &painter, const QRectF &first, const QRectF &second) = 0;
+    /// What the lines say, in full.
+    virtual QString detail() const = 0;
     virtual bool opens() const { return true; }
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
     bool isHot() const { return isEnabled() && (underMouse() || isDown()); }
     QRectF mirrored(const QRectF &place) const;
+    /// `runs` as for WrappedText.
     void paintText(QPainter &painter, const QRectF &place, const QString &text, const QFont &font,
-                   const QColor &color) const;
+                   const QColor &color, Qt::LayoutDirection runs = Qt::LayoutDirectionAuto);
+
+private:
+    bool m_isCut = false; ///< not all texts had the room they take, when they were painted
 };
 
 /// A section of the inspection: its leading row, and how many rows have each status.
@@ -61,14 +68,16 @@ public:
 
 protected:
     QString symbol() const override { return m_symbol; }
+    QString detail() const override;
     Look look() const override;
     bool opens() const override { return !m_isCollecting; }
-    void paintLines(QPainter &painter, const QRectF &first, const QRectF &second) const override;
+    void paintLines(QPainter &painter, const QRectF &first, const QRectF &second) override;
 
 private:
     static QString countText(inspection::CapabilityStatus status, int count);
     void take(const inspection::CapabilitySection &section);
-    void paintLead(QPainter &painter, const QRectF &place) const;
+    QString leadLabel() const;
+    void paintLead(QPainter &painter, const QRectF &place);
     void paintCounts(QPainter &painter, const QRectF &place) const;
     void paintBars(QPainter &painter, const QRectF &first, const QRectF &second) const;
 
@@ -92,9 +101,10 @@ public:
 
 protected:
     QString symbol() const override;
+    QString detail() const override { return m_line; }
     Look look() const override;
     bool opens() const override { return !m_invitation.isEmpty(); }
-    void paintLines(QPainter &painter, const QRectF &first, const QRectF &second) const override;
+    void paintLines(QPainter &painter, const QRectF &first, const QRectF &second) override;
 
 private:
     QString m_line;

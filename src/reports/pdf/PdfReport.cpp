@@ -26,22 +26,30 @@ constexpr int resolution = 1200;
 constexpr qreal unit = resolution / 72.0;
 constexpr qreal betweenSections = 16;
 
-class PdfReport
+/// The pages of a report, laid out in the units of a device, to be painted there or, scaled, anywhere else.
+class Pages
 {
 public:
-    PdfReport(const ReportDocument &document, QPdfWriter &writer, const QString &fontFamily)
+    Pages(const ReportDocument &document, QPagedPaintDevice &device, const QString &fontFamily)
         : m_document(document)
-        , m_writer(writer)
-        , m_typesetter(writer, fontFamily, document.direction)
+        , m_typesetter(device, fontFamily, document.direction)
     {
-        const auto size = writer.pageLayout().pageSize().size(QPageSize::Point);
+        const auto size = device.pageLayout().pageSize().size(QPageSize::Point);
         m_sheet = {size.width(), size.height()};
+        layOut();
     }
 
-    void write()
+    std::size_t count() const { return m_pages.size(); }
+    const Sheet &sheet() const { return m_sheet; }
+
+    void paint(QPainter &painter, std::size_t page)
     {
-        layOut();
-        paint();
+        Canvas canvas(painter, m_icons, unit, m_sheet.width, m_document.direction);
+        if (page > 0)
+            paintHeader(canvas);
+        for (const auto &portion : m_pages[page])
+            paint(canvas, portion);
+        paintFooter(canvas, page + 1);
     }
 
 private:
@@ -125,22 +133,6 @@ private:
                 .mostLines = mostLines};
     }
 
-    void paint()
-    {
-        QPainter painter(&m_writer);
-        design::Icons icons;
-        Canvas canvas(painter, icons, unit, m_sheet.width, m_document.direction);
-        for (std::size_t page = 0; page < m_pages.size(); ++page) {
-            if (page > 0) {
-                m_writer.newPage();
-                paintHeader(canvas);
-            }
-            for (const auto &portion : m_pages[page])
-                paint(canvas, portion);
-            paintFooter(canvas, page + 1);
-        }
-    }
-
     void paint(Canvas &canvas, const Portion &portion) const
     {
         const auto &group = m_groups[portion.group];
@@ -179,8 +171,8 @@ private:
     }
 
     const ReportDocument &m_document;
-    QPdfWriter &m_writer;
     Typesetter m_typesetter;
+    design::Icons m_icons;
     Sheet m_sheet{};
     std::vector<Group> m_groups;
     std::vector<Page> m_pages;
@@ -188,9 +180,18 @@ private:
     std::shared_ptr<std::vector<int>> m_sectionPages = std::make_shared<std::vector<int>>();
 };
 
-QPageSize pageSize(language::Paper paper)
+void setUpPages(QPdfWriter &writer, const PdfOptions &options)
 {
-    return QPageSize(paper == language::Paper::Letter ? QPageSize::Letter : QPageSize::A4);
+    writer.setResolution(resolution);
+    writer.setPageSize(
+        QPageSize(options.paper == language::Paper::Letter ? QPageSize::Letter : QPageSize::A4));
+    writer.setPageMargins(QMarginsF());
+}
+
+QString fontFamily(const PdfOptions &options)
+{
+    return options.fontFamily.isEmpty() ? QFontDatabase::systemFont(QFontDatabase::GeneralFont).family()
+                                        : options.fontFamily;
 }
 
 } // namespace
@@ -206,18 +207,36 @@ QByteArray pdf(const ReportDocument &document, const PdfOptions &options)
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
-        writer.setResolution(resolution);
-        writer.setPageSize(pageSize(options.paper));
-        writer.setPageMargins(QMarginsF());
+        setUpPages(writer, options);
         writer.setTitle(document.fileTitle);
         writer.setCreator(document.application);
         writer.addFileAttachment(u"report.json"_s, document.json, u"application/json"_s);
-        const auto family = options.fontFamily.isEmpty()
-                                ? QFontDatabase::systemFont(QFontDatabase::GeneralFont).family()
-                                : options.fontFamily;
-        PdfReport(document, writer, family).write();
+        Pages pages(document, writer, fontFamily(options));
+        QPainter painter(&writer);
+        for (std::size_t page = 0; page < pages.count(); ++page) {
+            if (page > 0)
+                writer.newPage();
+            pages.paint(painter, page);
+        }
     }
     return describedPdf(buffer.data(), "Quillmark", document.language.toLatin1());
+}
+
+PagePreview preview(const ReportDocument &document, int width, const PdfOptions &options)
+{
+    // Laid out as for the file, in which nothing is written.
+    QBuffer buffer;
+    QPdfWriter writer(&buffer);
+    setUpPages(writer, options);
+    Pages pages(document, writer, fontFamily(options));
+    const qreal scale = width / pages.sheet().width;
+    QImage image(width, qRound(pages.sheet().height * scale), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(scale / unit, scale / unit);
+    painter.setRenderHints(QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    pages.paint(painter, 0);
+    return {image, static_cast<qsizetype>(pages.count())};
 }
 
 } // namespace quillmark::reports

@@ -7,6 +7,7 @@
 #include "reports/ReportDocument.h"
 
 #include <QByteArray>
+#include <QImage>
 #include <QLocale>
 #include <QString>
 
@@ -24,5 +25,13 @@ struct PdfOptions
 /// Needs a QGuiApplication, and at least one font. To be called on the main thread.
 QByteArray pdf(const Report &report, const PdfOptions &options = {});
 QByteArray pdf(const ReportDocument &document, const PdfOptions &options = {});
+
+/// The first page as it will be, and how many there are.
+struct PagePreview
+{
+    QImage image; ///< as wide as was asked
+    qsizetype pages = 0;
+};
+PagePreview preview(const ReportDocument &document, int width, const PdfOptions &options = {});
 
 } // namespace quillmark::reports

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Quillmark contributors
 // SPDX-License-Identifier: MIT
 
-#include "app/models/searchWords.h"
+#include "app/models/SearchWords.h"
 
 #include "language/folding.h"
 #include "language/texts.h"
