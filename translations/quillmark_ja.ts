@@ -158,6 +158,52 @@
     </message>
 </context>
 <context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>PDFレポート</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>プレーンテキスト</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>印刷や送付にそのまま使えるレイアウト済みのページ</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>すべての値、スクリプトやツール向け</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>メモやWiki、Issue向けの表</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>「テキストとしてコピー」と同じテキスト</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Finderに表示</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>ファイルマネージャに表示</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1330,6 +1376,24 @@
     <message>
         <source>Last checked on %1</source>
         <translation>最終確認: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>全%nセクション、検査日時: 今日 %1。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>全%nセクション、検査日時: 昨日 %1。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>全%nセクション、検査日: %1。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2624,15 +2688,50 @@ Everything it reads stays on this computer.</source>
         <source>Clear the scan history?</source>
         <translation>スキャン履歴を消去しますか？</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>履歴を消去</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>保存されたスキャン%n件をすべて削除します。この操作は取り消せません。</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%nページ、USレター</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%nページ、A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>履歴を消去</translation>
+        <source>Export inspection</source>
+        <translation>検査結果を書き出す</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>名前とアドレスを除外</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出す…</translation>
     </message>
 </context>
 <context>
@@ -2734,14 +2833,6 @@ Everything it reads stays on this computer.</source>
         <translation>最後に使った画面を表示</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Finderに表示</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>ファイルマネージャに表示</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>履歴を消去…</translation>
     </message>
@@ -2758,7 +2849,7 @@ Everything it reads stays on this computer.</source>
         <translation>外部に接続するのは、アップデートを確認するときだけです。</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n件のスキャンを保存済み（最大%1件）</numerusform>
@@ -3308,6 +3399,21 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Compare scans</source>
         <translation>スキャンを比較</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>検査結果を書き出す</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>レポートを保存しました。</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>別の場所を選択…</translation>
     </message>
 </context>
 <context>

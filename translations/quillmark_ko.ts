@@ -158,6 +158,52 @@
     </message>
 </context>
 <context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>PDF 보고서</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>일반 텍스트</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>바로 인쇄하거나 보낼 수 있는 디자인된 페이지</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>스크립트와 도구를 위한 모든 값</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>메모, 위키, 이슈를 위한 표</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>‘텍스트로 복사’와 같은 텍스트</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Finder에서 보기</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>파일 관리자에서 보기</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1330,6 +1376,24 @@
     <message>
         <source>Last checked on %1</source>
         <translation>마지막 확인: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n개 섹션 모두, 검사 일시: 오늘 %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n개 섹션 모두, 검사 일시: 어제 %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n개 섹션 모두, 검사 날짜: %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2624,15 +2688,50 @@ Everything it reads stays on this computer.</source>
         <source>Clear the scan history?</source>
         <translation>검사 기록을 지우겠습니까?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>기록 지우기</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>저장된 검사 %n개를 모두 제거합니다. 이 작업은 취소할 수 없습니다.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n쪽, US 레터</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n쪽, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>기록 지우기</translation>
+        <source>Export inspection</source>
+        <translation>검사 결과 내보내기</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>이름 및 주소 제외</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>미리보기</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>내보내기…</translation>
     </message>
 </context>
 <context>
@@ -2734,14 +2833,6 @@ Everything it reads stays on this computer.</source>
         <translation>마지막으로 사용한 화면 표시</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Finder에서 보기</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>파일 관리자에서 보기</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>기록 지우기…</translation>
     </message>
@@ -2758,7 +2849,7 @@ Everything it reads stays on this computer.</source>
         <translation>업데이트를 확인할 때만 인터넷에 연결합니다.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>검사 %n개 저장됨, 최대 %1개</numerusform>
@@ -3308,6 +3399,21 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Compare scans</source>
         <translation>검사 비교</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>검사 결과 내보내기</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>보고서를 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>다른 위치 선택…</translation>
     </message>
 </context>
 <context>

@@ -158,6 +158,52 @@
     </message>
 </context>
 <context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>Relatório em PDF</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>Texto simples</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>Páginas diagramadas, prontas para imprimir ou enviar</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>Todos os valores, para scripts e ferramentas</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>Tabelas para notas, wikis e issues</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>O mesmo texto de Copiar como texto</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Mostrar no Finder</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>Mostrar no gerenciador de arquivos</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1335,6 +1381,27 @@
     <message>
         <source>Last checked on %1</source>
         <translation>Última busca em %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>%n seção, conforme a inspeção de hoje às %1.</numerusform>
+            <numerusform>Todas as %n seções, conforme a inspeção de hoje às %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>%n seção, conforme a inspeção de ontem às %1.</numerusform>
+            <numerusform>Todas as %n seções, conforme a inspeção de ontem às %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>%n seção, conforme a inspeção de %1.</numerusform>
+            <numerusform>Todas as %n seções, conforme a inspeção de %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2577,7 +2644,7 @@ Tudo o que é lido permanece neste computador.</translation>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation>Alterado: %1, de %2 para %3</translation>
+        <translation>Alterado: %1, de %2, para %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
@@ -2636,16 +2703,53 @@ Tudo o que é lido permanece neste computador.</translation>
         <source>Clear the scan history?</source>
         <translation>Limpar o histórico de análises?</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Limpar histórico</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>%n análise salva será removida. Isso não pode ser desfeito.</numerusform>
             <numerusform>Todas as %n análises salvas serão removidas. Isso não pode ser desfeito.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n página, Carta EUA</numerusform>
+            <numerusform>%n páginas, Carta EUA</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n página, A4</numerusform>
+            <numerusform>%n páginas, A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>Limpar histórico</translation>
+        <source>Export inspection</source>
+        <translation>Exportar inspeção</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>Omitir nomes e endereços</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Pré-visualização</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
     </message>
 </context>
 <context>
@@ -2747,14 +2851,6 @@ Tudo o que é lido permanece neste computador.</translation>
         <translation>Mostrar a última tela usada</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>Mostrar no Finder</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>Mostrar no gerenciador de arquivos</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>Limpar histórico…</translation>
     </message>
@@ -2771,7 +2867,7 @@ Tudo o que é lido permanece neste computador.</translation>
         <translation>A única conexão que ele faz é a busca de atualizações.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>%n análise salva, no máximo %1</numerusform>
@@ -3333,6 +3429,21 @@ Tudo o que é lido permanece neste computador.</translation>
     <message>
         <source>Compare scans</source>
         <translation>Comparar análises</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>Exportar inspeção</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>Relatório salvo.</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>Escolher outro local…</translation>
     </message>
 </context>
 <context>

@@ -158,6 +158,52 @@
     </message>
 </context>
 <context>
+    <name>ExportFormat</name>
+    <message>
+        <source>PDF report</source>
+        <translation>PDF 报告</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Markdown</source>
+        <translation>Markdown</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>纯文本</translation>
+    </message>
+    <message>
+        <source>Designed pages, ready to print or send</source>
+        <translation>排版好的页面，可直接打印或发送</translation>
+    </message>
+    <message>
+        <source>Every value, for scripts and tools</source>
+        <translation>所有数值，供脚本和工具使用</translation>
+    </message>
+    <message>
+        <source>Tables for notes, wikis and issues</source>
+        <translation>用于备忘录、维基和议题的表格</translation>
+    </message>
+    <message>
+        <source>The same text as Copy as text</source>
+        <translation>与“拷贝为文本”相同的文本</translation>
+    </message>
+</context>
+<context>
+    <name>Folder</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>在访达中显示</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>在文件管理器中显示</translation>
+    </message>
+</context>
+<context>
     <name>History</name>
     <message numerus="yes">
         <source>%n changed</source>
@@ -1330,6 +1376,24 @@
     <message>
         <source>Last checked on %1</source>
         <translation>上次检查：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected today at %1.</source>
+        <translation>
+            <numerusform>全部 %n 个类别，检查于今天 %1。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected yesterday at %1.</source>
+        <translation>
+            <numerusform>全部 %n 个类别，检查于昨天 %1。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n sections, as inspected on %1.</source>
+        <translation>
+            <numerusform>全部 %n 个类别，检查于 %1。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2624,15 +2688,50 @@ Everything it reads stays on this computer.</source>
         <source>Clear the scan history?</source>
         <translation>要清除扫描历史记录吗？</translation>
     </message>
+    <message>
+        <source>Clear history</source>
+        <translation>清除历史记录</translation>
+    </message>
     <message numerus="yes">
-        <source>All %n saved scan(s) will be removed. This can’t be undone.</source>
+        <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
             <numerusform>将移除全部 %n 次已存储的扫描。此操作无法撤销。</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>quillmark::app::ExportDialog</name>
+    <message numerus="yes">
+        <source>%n pages, US Letter</source>
+        <translation>
+            <numerusform>%n 页，US Letter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages, A4</source>
+        <translation>
+            <numerusform>%n 页，A4</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Clear history</source>
-        <translation>清除历史记录</translation>
+        <source>Export inspection</source>
+        <translation>导出检查结果</translation>
+    </message>
+    <message>
+        <source>Leave out names and addresses</source>
+        <translation>省略名称和地址</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
     </message>
 </context>
 <context>
@@ -2734,14 +2833,6 @@ Everything it reads stays on this computer.</source>
         <translation>显示上次使用的界面</translation>
     </message>
     <message>
-        <source>Show in Finder</source>
-        <translation>在访达中显示</translation>
-    </message>
-    <message>
-        <source>Show in file manager</source>
-        <translation>在文件管理器中显示</translation>
-    </message>
-    <message>
         <source>Clear history…</source>
         <translation>清除历史记录…</translation>
     </message>
@@ -2758,7 +2849,7 @@ Everything it reads stays on this computer.</source>
         <translation>它仅在检查更新时建立连接。</translation>
     </message>
     <message numerus="yes">
-        <source>%n scan(s) saved, %1 at most</source>
+        <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
             <numerusform>已存储 %n 次扫描，最多 %1 次</numerusform>
@@ -3308,6 +3399,21 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Compare scans</source>
         <translation>比较扫描</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::ReportExport</name>
+    <message>
+        <source>Export inspection</source>
+        <translation>导出检查结果</translation>
+    </message>
+    <message>
+        <source>Report saved.</source>
+        <translation>报告已存储。</translation>
+    </message>
+    <message>
+        <source>Choose another place…</source>
+        <translation>选取其他位置…</translation>
     </message>
 </context>
 <context>
