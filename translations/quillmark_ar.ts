@@ -3208,6 +3208,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>2 scans selected</source>
+        <extracomment>Two moments: &quot;18 September, 12:10 and today, 08:41&quot;</extracomment>
         <translation>حُدد فحصان</translation>
     </message>
     <message>
@@ -3279,13 +3280,6 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
         <translation>تُستخدم اللغة الجديدة على الفور. لا يزال من الممكن مقارنة الفحوصات المحفوظة بلغة أخرى.</translation>
-    </message>
-</context>
-<context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>التراخيص</translation>
     </message>
 </context>
 <context>
@@ -3829,6 +3823,33 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>All</source>
         <translation>الكل</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">التراخيص</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">ما الجديد</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">مساعدة Quillmark</translation>
     </message>
 </context>
 <context>

@@ -3179,13 +3179,6 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>Lizenzen</translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
@@ -3670,6 +3663,33 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <message>
         <source>All</source>
         <translation>Alle</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">Lizenzen</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">Neue Funktionen</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">Quillmark-Hilfe</translation>
     </message>
 </context>
 <context>

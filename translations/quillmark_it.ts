@@ -3179,13 +3179,6 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>Licenze</translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
@@ -3670,6 +3663,33 @@ Tutto ciò che legge resta su questo computer.</translation>
     <message>
         <source>All</source>
         <translation>Tutto</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">Licenze</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">Novità</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">Aiuto Quillmark</translation>
     </message>
 </context>
 <context>

@@ -120,7 +120,7 @@
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation>バッテリー使用中、残り%1</translation>
+        <translation>バッテリーで動作中、残り%1</translation>
     </message>
     <message>
         <source>On battery</source>
@@ -132,20 +132,20 @@
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation>定格%1サイクル</translation>
+        <translation>定格%1回</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation>正常: 10〜45&#xa0;°C</translation>
+        <translation>正常範囲: 10～45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>%1: &quot;Hot&quot; or &quot;Cold&quot;, %2: what would be normal</extracomment>
-        <translation>%1 · %2</translation>
+        <translation>%1・%2</translation>
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation>システムの報告</translation>
+        <translation>システムからの報告</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
@@ -173,19 +173,19 @@
     </message>
     <message>
         <source>Plain text</source>
-        <translation>標準テキスト</translation>
+        <translation>プレーンテキスト</translation>
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation>印刷や送付にすぐ使えるデザイン済みのページ</translation>
+        <translation>印刷や送付にそのまま使えるレイアウト済みのページ</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation>スクリプトやツール向けのすべての値</translation>
+        <translation>すべての値、スクリプトやツール向け</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation>メモ、Wiki、課題管理向けの表</translation>
+        <translation>メモやWiki、Issue向けの表</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
@@ -1322,7 +1322,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation>充電の状態</translation>
+        <translation type="unfinished">充電中</translation>
     </message>
 </context>
 <context>
@@ -1360,15 +1360,15 @@
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation>今日%1に検査</translation>
+        <translation>検査日時: 今日 %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation>昨日%1に検査</translation>
+        <translation>検査日時: 昨日 %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
-        <translation>%1に検査</translation>
+        <translation>検査日: %1</translation>
     </message>
     <message>
         <source>Last checked today at %1</source>
@@ -1385,19 +1385,19 @@
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
         <translation>
-            <numerusform>今日%1に検査した全%nセクション。</numerusform>
+            <numerusform>全%nセクション、検査日時: 今日 %1。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
         <translation>
-            <numerusform>昨日%1に検査した全%nセクション。</numerusform>
+            <numerusform>全%nセクション、検査日時: 昨日 %1。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
         <translation>
-            <numerusform>%1に検査した全%nセクション。</numerusform>
+            <numerusform>全%nセクション、検査日: %1。</numerusform>
         </translation>
     </message>
 </context>
@@ -1480,7 +1480,7 @@
     <message>
         <source>Elevated</source>
         <comment>pressure</comment>
-        <translation>やや高い</translation>
+        <translation>高め</translation>
     </message>
     <message>
         <source>Critical</source>
@@ -1489,33 +1489,33 @@
     </message>
     <message>
         <source>No limits on performance</source>
-        <translation>性能の制限なし</translation>
+        <translation>パフォーマンスの制限なし</translation>
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation>やや温かい、制限なし</translation>
+        <translation>やや高温、制限なし</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation>性能が下がっています</translation>
+        <translation>パフォーマンスが低下しています</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation>性能が大きく下がっています</translation>
+        <translation>パフォーマンスが大幅に低下しています</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation>%1パーセント、過去2分間は%2〜%3パーセント</translation>
+        <translation>%1パーセント、直近2分間は%2～%3パーセント</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
         <translation>
-            <numerusform>%nコア、最も負荷が高いコアは%1パーセント</numerusform>
+            <numerusform>%nコア、最も負荷の高いコアは%1パーセント</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation>%2中%1を使用、%3パーセント。プレッシャー%4パーセント、%5</translation>
+        <translation>%2中%1を使用、%3パーセント。プレッシャーは%4パーセント、%5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
@@ -1770,23 +1770,23 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, グラフィックカード, ビデオカード, 3d, ゲーム</translation>
+        <translation>gpu, グラフィックカード, グラフィックボード, グラボ, ビデオカード, 3d, ゲーム</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ai, ml, 人工知能, 機械学習, npu, llm</translation>
+        <translation>ai, ml, 機械学習, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>画面, 液晶, モニター</translation>
+        <translation>画面, スクリーン, モニタ, モニター</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation>ビデオ, 動画, コーデック</translation>
+        <translation>ビデオ, 動画, 映像, コーデック</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>エネルギー, バッテリー, 電池</translation>
+        <translation>電力, 省エネルギー, エネルギー, バッテリー, 電池</translation>
     </message>
     <message>
         <source>internet, online</source>
@@ -1798,35 +1798,35 @@
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation>コンピュータ名, ホスト名, hostname</translation>
+        <translation>コンピュータ名, コンピューター名, ホスト名, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation>機種, モデル</translation>
+        <translation>モデル, 機種</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation>os, システムバージョン, macos, linux, ビルド</translation>
+        <translation>os, システムバージョン, バージョン, macos, linux, ビルド</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64ビット, arm, x86, rosetta</translation>
+        <translation>64ビット, 64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>稼働時間, 再起動</translation>
+        <translation>起動時間, 起動日時, 再起動, uptime</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation>温度, 発熱, スロットリング, ファン</translation>
+        <translation>温度, 熱, 発熱, スロットリング, ファン</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation>vm, 仮想マシン, ハイパーバイザ</translation>
+        <translation>vm, ハイパーバイザ, ハイパーバイザー</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
-        <translation>cpu, チップ, soc</translation>
+        <translation>cpu, チップ, soc, プロセッサー</translation>
     </message>
     <message>
         <source>cpu cores</source>
@@ -1834,15 +1834,15 @@
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation>cpuコア, スレッド, hyper-threading</translation>
+        <translation>cpuコア, スレッド, ハイパースレッディング, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation>クロック, 周波数, ghz, mhz</translation>
+        <translation>クロック, クロック周波数, 動作周波数, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation>ram, 主記憶</translation>
+        <translation>ram, メインメモリ, 主記憶</translation>
     </message>
     <message>
         <source>vram, video memory</source>
@@ -1862,7 +1862,7 @@
     </message>
     <message>
         <source>hdr, edr, brightness</source>
-        <translation>hdr, edr, 明るさ</translation>
+        <translation>hdr, edr, 輝度, 明るさ</translation>
     </message>
     <message>
         <source>p3, gamut</source>
@@ -1870,7 +1870,7 @@
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation>ピクセル, ヘルツ, hz, 4k, 5k, リフレッシュレート</translation>
+        <translation>ピクセル, 画素, ヘルツ, hz, 4k, 5k, リフレッシュレート</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
@@ -1878,19 +1878,19 @@
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation>avc, h264, ビデオデコード, 再生</translation>
+        <translation>avc, h264, ビデオデコード, 動画再生, 再生</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation>avc, h264, ビデオエンコード</translation>
+        <translation>avc, h264, ビデオエンコード, 動画圧縮, 録画</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation>h.265, h265, ビデオデコード, 再生</translation>
+        <translation>h.265, h265, ビデオデコード, 動画再生, 再生</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation>h.265, h265, ビデオエンコード</translation>
+        <translation>h.265, h265, ビデオエンコード, 動画圧縮, 録画</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
@@ -1898,39 +1898,39 @@
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation>ウェブカメラ, webcam, facetime</translation>
+        <translation>webカメラ, ウェブカメラ, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation>スピーカー, サウンド, オーディオ, 音</translation>
+        <translation>スピーカー, サウンド, オーディオ, 音声</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation>マイク, サウンド, オーディオ, 音</translation>
+        <translation>マイク, サウンド, オーディオ, 音声</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation>マイク, 許可, プライバシー</translation>
+        <translation>マイク, 権限, 許可, プライバシー</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation>ウェブカメラ, webcam, 許可, プライバシー</translation>
+        <translation>webカメラ, ウェブカメラ, 権限, 許可, プライバシー</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation>オーディオ, スピーカー, ヘッドフォン</translation>
+        <translation>オーディオ, 音声, スピーカー, ヘッドフォン, ヘッドホン</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation>オーディオ, マイク</translation>
+        <translation>オーディオ, 音声, マイク</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation>オーディオ, 音</translation>
+        <translation>オーディオ, 音声</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation>サンプルレート, ハイレゾ</translation>
+        <translation>サンプルレート, サンプリングレート, ハイレゾ</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
@@ -1938,7 +1938,7 @@
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation>空き容量, ディスク容量, 満杯</translation>
+        <translation>空き領域, 残り容量, ディスク容量, いっぱい</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
@@ -1950,43 +1950,43 @@
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation>電源接続, コンセント</translation>
+        <translation>電源接続, コンセント, ac電源</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation>充電器, 電源, ワット</translation>
+        <translation>充電器, acアダプタ, acアダプター, ワット</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation>最大容量, 消耗, 劣化</translation>
+        <translation>最大容量, 劣化, 消耗</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation>バッテリー駆動時間</translation>
+        <translation>バッテリー駆動時間, 駆動時間, 持続時間</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation>省エネルギー, 節電</translation>
+        <translation>省エネルギー, 省電力, 節電</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation>wlan, 無線, wifi</translation>
+        <translation>wlan, 無線lan, ワイヤレス, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation>wlan, 無線, wifi, 電波</translation>
+        <translation>wlan, 無線lan, ワイヤレス, wifi, 受信, 電波</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation>wlan, 無線, wifi, 速度</translation>
+        <translation>wlan, 無線lan, ワイヤレス, wifi, 速度</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation>wifi, wlan, ethernet, lan</translation>
+        <translation>wifi, wlan, 無線lan, イーサネット, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation>ipアドレス</translation>
+        <translation>ipアドレス, ip アドレス</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
@@ -1994,7 +1994,7 @@
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation>暗号化, ディスク暗号化</translation>
+        <translation>暗号化, ディスクの暗号化, ディスク暗号化</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
@@ -2010,15 +2010,15 @@
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation>uefi, 起動セキュリティ, secure boot</translation>
+        <translation>uefi, 起動セキュリティ, セキュアブート, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation>ウイルス, マルウェア, アンチウイルス</translation>
+        <translation>ウイルス, ウィルス, マルウェア, アンチウイルス</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation>マルウェア, 公証, アプリの署名</translation>
+        <translation>マルウェア, 公証, アプリの署名, 署名</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
@@ -2130,7 +2130,7 @@
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation>Quillmarkは要求を送信していません。</translation>
+        <translation>Quillmarkはリクエストを送信していません。</translation>
     </message>
     <message>
         <source>Date</source>
@@ -2138,7 +2138,7 @@
     </message>
     <message>
         <source>Status</source>
-        <translation>状態</translation>
+        <translation>ステータス</translation>
     </message>
     <message>
         <source>Failure</source>
@@ -2276,7 +2276,7 @@
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation>%1は自身が%1であることを証明できませんでした: %2</translation>
+        <translation>%1は%1であることを証明できませんでした: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
@@ -2284,49 +2284,49 @@
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation>%1の応答はフィードの上限より長いです。</translation>
+        <translation>%1の応答は、フィードとして許される長さを超えています。</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation>%1は別のアドレスに転送しましたが、たどりませんでした: %2</translation>
+        <translation>%1は別のアドレスに転送しようとしましたが、アクセスしませんでした: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation>%1はフィードではなくステータス%2を返しました。</translation>
+        <translation>%1はフィードの代わりにステータス%2を返しました。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation>%1の応答はフィードではありません: 文書型を宣言しています。</translation>
+        <translation>%1の応答はフィードではありません。文書型が宣言されています。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation>%1の応答はフィードではありません: 別の種類のXMLです。</translation>
+        <translation>%1の応答はフィードではありません。別の種類のXMLです。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation>%1の応答はフィードではありません: 内容が多すぎます。</translation>
+        <translation>%1の応答はフィードではありません。フィードとしては内容が多すぎます。</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation>Quillmarkが新しいバージョンを%1に問い合わせてもよいですか？今すぐと、ウインドウを開いたとき最大1日1回です。</translation>
+        <translation>今すぐ、および以後ウインドウを開いたときに1日1回まで、新しいバージョンがあるかどうかをQuillmarkが%1に問い合わせてもよろしいですか？</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation>要求に含まれるのはQuillmarkのバージョンだけで、あなたやこのコンピュータの情報は含まれません。何もインストールされません。</translation>
+        <translation>リクエストに含まれるのはQuillmarkのバージョンだけで、個人やこのコンピュータに関する情報は含まれません。何もインストールされません。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation>Quillmark %1が利用可能です（スキップを選択済み）。現在のバージョンは%2です。</translation>
+        <translation>Quillmark %1を利用できます（スキップするように選択したバージョンです）。お使いのバージョンは%2です。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation>重要なアップデートのQuillmark %1が利用可能です。現在のバージョンは%2です。</translation>
+        <translation>Quillmark %1（重要なアップデート）を利用できます。お使いのバージョンは%2です。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation>Quillmark %1が利用可能です。現在のバージョンは%2です。</translation>
+        <translation>Quillmark %1を利用できます。お使いのバージョンは%2です。</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
@@ -2334,11 +2334,11 @@
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation>新しいバージョンがあるかどうか確認できませんでした。</translation>
+        <translation>新しいバージョンがあるかどうかを確認できませんでした。</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation>同意がないため、%1に問い合わせませんでした。</translation>
+        <translation>同意されていないため、%1には問い合わせませんでした。</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
@@ -2346,11 +2346,11 @@
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation>要求の記録を書き込めないため、%1に問い合わせませんでした。</translation>
+        <translation>リクエストの記録に書き込めないため、%1には問い合わせませんでした。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation>%1の応答はフィードではありません: XMLではないか、その一部です。</translation>
+        <translation>%1の応答はフィードではありません。XMLではないか、XMLの一部だけです。</translation>
     </message>
 </context>
 <context>
@@ -2367,14 +2367,14 @@
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation>このMacが本当にできることを示します。
-読み取った内容はすべてこのMacに残ります。</translation>
+        <translation>お使いのMacが本当にできることをお知らせします。
+読み取った情報がこのMacの外に出ることはありません。</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation>このコンピュータが本当にできることを示します。
-読み取った内容はすべてこのコンピュータに残ります。</translation>
+        <translation>お使いのコンピュータが本当にできることをお知らせします。
+読み取った情報がこのコンピュータの外に出ることはありません。</translation>
     </message>
     <message>
         <source>Licences</source>
@@ -2425,7 +2425,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Inspect Again</source>
-        <translation>もう一度検査</translation>
+        <translation>再検査</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -2505,7 +2505,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Zoom</source>
-        <translation>拡大/縮小</translation>
+        <translation>拡大／縮小</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
@@ -2524,7 +2524,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation>設計容量に対する割合</translation>
+        <translation>設計容量比</translation>
     </message>
     <message>
         <source>Present capacity</source>
@@ -2559,7 +2559,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Health</source>
-        <translation>状態</translation>
+        <translation>健康度</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
@@ -2571,7 +2571,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation>1サイクルは1回分の完全な放電です。数日に分かれていても同じです。</translation>
+        <translation>1回は完全な放電1回分です。数日に分けて放電した場合も同じです。</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -2579,11 +2579,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation>熱は使用よりも早くバッテリーを劣化させます。直射日光を避けてください。</translation>
+        <translation>バッテリーは使用よりも熱によって早く劣化します。直射日光を避けてください。</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>今日%1に読み取りました。値はバッテリー自身のコントローラによるもので、読み取るたびにわずかに異なることがあります。</translation>
+        <translation>今日%1に読み取りました。値はバッテリー内蔵のコントローラによるもので、読み取るたびにわずかに異なることがあります。</translation>
     </message>
 </context>
 <context>
@@ -2630,7 +2630,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%1、%2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
@@ -2661,14 +2661,14 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1: %2 · %3 · %4 · %5</source>
         <extracomment>The head of a comparison: &quot;Older: 12 November 2025, 19:20 · Nora’s Mac · macOS 26.1 · 82%&quot;</extracomment>
-        <translation>%1: %2 · %3 · %4 · %5</translation>
+        <translation>%1: %2・%3・%4・%5</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation>相違点</translation>
+        <translation>差分</translation>
     </message>
     <message>
         <source>score</source>
@@ -2700,7 +2700,7 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>保存済みのスキャン%n件がすべて削除されます。この操作は取り消せません。</numerusform>
+            <numerusform>保存されたスキャン%n件をすべて削除します。この操作は取り消せません。</numerusform>
         </translation>
     </message>
 </context>
@@ -2724,7 +2724,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation>名前とアドレスを除く</translation>
+        <translation>名前とアドレスを除外</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -2755,15 +2755,15 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation>このMacが本当にできることを見る</translation>
+        <translation>このMacが本当にできることを確認</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation>このコンピュータが本当にできることを見る</translation>
+        <translation>このコンピュータが本当にできることを確認</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation>ハードウェアとシステムのあらゆる機能を、明確な状態とともに。</translation>
+        <translation>ハードウェアとシステムのあらゆる機能を、わかりやすい状態表示とともに。</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
@@ -2771,27 +2771,27 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation>プロセッサとグラフィックスからコーデック、ディスプレイ、セキュリティまで。</translation>
+        <translation>プロセッサやグラフィックスから、コーデック、ディスプレイ、セキュリティまで。</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation>すべての変化を保存</translation>
+        <translation>すべての変更を保存</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation>2つのスキャンを比較して、アップデートで何が変わったかを確認できます。</translation>
+        <translation>任意の2つのスキャンを比較して、アップデートで何が変わったかを確認できます。</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation>データはここに残ります</translation>
+        <translation>データは外に出ません</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>このMacの情報はどこにも送信されません。Quillmarkがオンラインに接続するのは、自身のアップデートを探すときだけです。</translation>
+        <translation>このMacに関する情報はどこにも送信されません。Quillmarkがインターネットに接続するのは、自身のアップデートを確認するときだけです。</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>このコンピュータの情報はどこにも送信されません。Quillmarkがオンラインに接続するのは、自身のアップデートを探すときだけです。</translation>
+        <translation>このコンピュータに関する情報はどこにも送信されません。Quillmarkがインターネットに接続するのは、自身のアップデートを確認するときだけです。</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
@@ -2800,7 +2800,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation>最大1日1回%1に問い合わせ、Quillmarkのバージョンだけを伝えます。</translation>
+        <translation>最大で1日1回%1に問い合わせ、Quillmarkのバージョンだけを伝えます。</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
@@ -2808,18 +2808,18 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>ステータス領域にライブモニタを表示</translation>
+        <translation>システムトレイにライブモニタを表示</translation>
     </message>
     <message>
         <source>Get started</source>
-        <translation>始める</translation>
+        <translation>はじめる</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation>Quillmarkを開くとき:</translation>
+        <translation>Quillmarkを開いたとき:</translation>
     </message>
     <message>
         <source>Scan history:</source>
@@ -2835,7 +2835,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation>最後に使用した画面を表示</translation>
+        <translation>最後に使った画面を表示</translation>
     </message>
     <message>
         <source>Clear history…</source>
@@ -2843,21 +2843,21 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation>Quillmarkが読み取った内容はすべてこのMacに残ります。</translation>
+        <translation>Quillmarkが読み取った情報がこのMacの外に出ることはありません。</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation>Quillmarkが読み取った内容はすべてこのコンピュータに残ります。</translation>
+        <translation>Quillmarkが読み取った情報がこのコンピュータの外に出ることはありません。</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation>行う接続はアップデートの確認だけです。</translation>
+        <translation>外部に接続するのは、アップデートを確認するときだけです。</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
         <extracomment>%1 is a number</extracomment>
         <translation>
-            <numerusform>%n件のスキャンを保存済み、最大%1件</numerusform>
+            <numerusform>%n件のスキャンを保存済み（最大%1件）</numerusform>
         </translation>
     </message>
 </context>
@@ -2881,7 +2881,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Inspect again</source>
-        <translation>もう一度検査</translation>
+        <translation>再検査</translation>
     </message>
     <message>
         <source>Copy as text</source>
@@ -2914,7 +2914,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation>機能スコア%1</translation>
+        <translation>機能スコア: %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
@@ -2999,7 +2999,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%1、%2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
@@ -3037,19 +3037,19 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>変化があるたびにスキャンが保存されます。最新の200件がこのMacに残ります。</translation>
+        <translation>何かが変わるたびにスキャンが保存されます。最新の200件がこのMacに保持されます。</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>変化があるたびにスキャンが保存されます。最新の200件がこのコンピュータに残ります。</translation>
+        <translation>何かが変わるたびにスキャンが保存されます。最新の200件がこのコンピュータに保持されます。</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation>検査で新しいことが見つかるたびに、Quillmarkはスキャンを保存します。このMacを検査して最初のスキャンを保存してください。</translation>
+        <translation>検査で新しいことが見つかるたびに、スキャンが保存されます。このMacを検査すると、最初のスキャンが保存されます。</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation>検査で新しいことが見つかるたびに、Quillmarkはスキャンを保存します。このコンピュータを検査して最初のスキャンを保存してください。</translation>
+        <translation>検査で新しいことが見つかるたびに、スキャンが保存されます。このコンピュータを検査すると、最初のスキャンが保存されます。</translation>
     </message>
     <message>
         <source>Inspect now</source>
@@ -3057,7 +3057,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Saved scans</source>
-        <translation>保存済みのスキャン</translation>
+        <translation>保存されたスキャン</translation>
     </message>
     <message>
         <source>Clear selection</source>
@@ -3079,7 +3079,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation>1件のスキャンを選択中 · もう1件選んでください</translation>
+        <translation>1件のスキャンを選択中・もう1件選択してください</translation>
     </message>
     <message>
         <source>2 scans selected</source>
@@ -3096,7 +3096,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation>%1のスキャンが履歴から削除されます。</translation>
+        <translation>%1のスキャンを履歴から削除します。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3109,7 +3109,7 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>保存済みのスキャン%n件がすべて削除されます。この操作は取り消せません。</numerusform>
+            <numerusform>保存されたスキャン%n件をすべて削除します。この操作は取り消せません。</numerusform>
         </translation>
     </message>
     <message>
@@ -3122,7 +3122,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>別のQuillmarkが使用中です。ここで行ったスキャンは終了するまで保持されます。</translation>
+        <translation>別のQuillmarkが履歴を使用しています。ここで行ったスキャンは、そのQuillmarkが終了するまで保持されます。</translation>
     </message>
 </context>
 <context>
@@ -3137,7 +3137,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::LanguagePane</name>
     <message>
         <source>Interface language:</source>
-        <translation>表示言語:</translation>
+        <translation>インターフェイスの言語:</translation>
     </message>
     <message>
         <source>Example:</source>
@@ -3145,18 +3145,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Interface language</source>
-        <translation>表示言語</translation>
+        <translation>インターフェイスの言語</translation>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation>新しい言語はすぐに使用されます。別の言語で保存したスキャンも引き続き比較できます。</translation>
-    </message>
-</context>
-<context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>ライセンス</translation>
+        <translation>新しい言語はすぐに使われます。別の言語で保存されたスキャンも引き続き比較できます。</translation>
     </message>
 </context>
 <context>
@@ -3197,7 +3190,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Every second</source>
-        <translation>毎秒</translation>
+        <translation>1秒ごと</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
@@ -3236,19 +3229,19 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Status area:</source>
-        <translation>ステータス領域:</translation>
+        <translation>システムトレイ:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>ステータス領域にライブモニタを表示</translation>
+        <translation>システムトレイにライブモニタを表示</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation>Quillmarkは終了するまでステータス領域に残ります</translation>
+        <translation>Quillmarkは終了するまでシステムトレイに残ります</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation>このデスクトップにはステータス領域がありません。</translation>
+        <translation>このデスクトップ環境にはシステムトレイがありません。</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -3264,7 +3257,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Keep running when the main window is closed</source>
-        <translation>メインウインドウを閉じても動作を続ける</translation>
+        <translation>メインウインドウを閉じても実行を続ける</translation>
     </message>
 </context>
 <context>
@@ -3326,7 +3319,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>of %1</source>
         <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
-        <translation>/ %1</translation>
+        <translation>／%1</translation>
     </message>
     <message>
         <source>Used</source>
@@ -3377,19 +3370,19 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n changed</source>
         <translation>
-            <numerusform>%n件変更</numerusform>
+            <numerusform>変更%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
         <translation>
-            <numerusform>%n件追加</numerusform>
+            <numerusform>追加%n件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
         <translation>
-            <numerusform>%n件削除</numerusform>
+            <numerusform>削除%n件</numerusform>
         </translation>
     </message>
     <message>
@@ -3425,7 +3418,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation>「%1」の検索結果</translation>
+        <translation>“%1”の検索結果</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
@@ -3438,30 +3431,30 @@ Everything it reads stays on this computer.</source>
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
         <translation>
-            <numerusform>%1に%n行</numerusform>
+            <numerusform>%1の%n行</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>フィルタ: %1</translation>
+        <translation>絞り込み: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
-        <translation>一致する行がありません</translation>
+        <translation>一致する行はありません</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation>「%1」を含むものはありません。綴りを確認するか、短い語句をお試しください。</translation>
+        <translation>“%1”を含むものはありません。表記を確認するか、短い言葉で試してください。</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation>「%1」を含む行に、状態が「%2」のものはありません。</translation>
+        <translation>“%1”を含み、状態が“%2”の行はありません。</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
         <translation>
-            <numerusform>別の状態で%n行が一致します。</numerusform>
+            <numerusform>ほかの状態では%n行が一致します。</numerusform>
         </translation>
     </message>
     <message>
@@ -3473,12 +3466,12 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::RowsPage</name>
     <message>
         <source>No rows match</source>
-        <translation>一致する行がありません</translation>
+        <translation>一致する行はありません</translation>
     </message>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>ここには状態が「%1」の行はありません。</translation>
+        <translation>ここには状態が“%1”の行はありません。</translation>
     </message>
     <message>
         <source>Capabilities</source>
@@ -3539,7 +3532,7 @@ Everything it reads stays on this computer.</source>
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>評価対象の機能%n件中%1件に対応</numerusform>
+            <numerusform>評価対象%n件中%1件に対応</numerusform>
         </translation>
     </message>
 </context>
@@ -3563,7 +3556,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Status area</source>
-        <translation>ステータス領域</translation>
+        <translation>システムトレイ</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3585,7 +3578,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation>CPU、メモリ、熱、バッテリー、ネットワークのリアルタイムグラフ</translation>
+        <translation>CPU、メモリ、温度、バッテリー、ネットワークのリアルタイムグラフ</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
@@ -3633,11 +3626,38 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">ライセンス</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">新機能</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">Quillmarkヘルプ</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
-        <translation>新しいバージョンがあるかどうか、Quillmarkが%1に問い合わせてもよいですか？</translation>
+        <translation>新しいバージョンがあるかどうかをQuillmarkが%1に問い合わせてもよろしいですか？</translation>
     </message>
     <message>
         <source>Ask once a day</source>
@@ -3653,15 +3673,15 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation>重要なアップデートのQuillmark %1が利用可能です。</translation>
+        <translation>Quillmark %1（重要なアップデート）を利用できます。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation>Quillmark %1が利用可能です。</translation>
+        <translation>Quillmark %1を利用できます。</translation>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation>現在のバージョンは%1です。</translation>
+        <translation>お使いのバージョンは%1です。</translation>
     </message>
     <message>
         <source>What’s new</source>
@@ -3696,7 +3716,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation>Quillmarkの起動時に1日1回%1に問い合わせます</translation>
+        <translation>Quillmarkの起動時に、1日1回%1に問い合わせます</translation>
     </message>
     <message>
         <source>Checking…</source>

@@ -97,18 +97,18 @@
     </message>
     <message>
         <source>Battery health is shown on portable Macs. Everything else in Quillmark works as usual.</source>
-        <translation>배터리 성능은 휴대용 Mac에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
+        <translation>배터리 성능 상태는 휴대용 Mac에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
     </message>
     <message>
         <source>Battery health is shown on portable computers. Everything else in Quillmark works as usual.</source>
-        <translation>배터리 성능은 휴대용 컴퓨터에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
+        <translation>배터리 성능 상태는 휴대용 컴퓨터에서 표시됩니다. Quillmark의 다른 기능은 모두 평소처럼 작동합니다.</translation>
     </message>
 </context>
 <context>
     <name>BatteryFacts</name>
     <message>
         <source>Charging, full in %1</source>
-        <translation>충전 중, 완료까지 %1</translation>
+        <translation>충전 중, 완충까지 %1</translation>
     </message>
     <message>
         <source>Charging</source>
@@ -132,11 +132,11 @@
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation>정격 %1사이클</translation>
+        <translation>정격 사이클 %1회</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation>정상: 10&#xa0;45&#xa0;°C</translation>
+        <translation>정상: 10~45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -145,16 +145,16 @@
     </message>
     <message>
         <source>Reported by the system</source>
-        <translation>시스템 보고</translation>
+        <translation>시스템에서 보고함</translation>
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>배터리 성능가 보고되지 않음</translation>
+        <translation>배터리 성능 상태가 보고되지 않음</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation>배터리 성능 %1퍼센트, %2</translation>
+        <translation>배터리 성능 상태 %1퍼센트, %2</translation>
     </message>
 </context>
 <context>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation>인쇄하거나 보낼 수 있도록 디자인된 페이지</translation>
+        <translation>바로 인쇄하거나 보낼 수 있는 디자인된 페이지</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
@@ -418,7 +418,7 @@
     </message>
     <message>
         <source>Battery health</source>
-        <translation>배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>Battery condition</source>
@@ -1322,7 +1322,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation>충전 상태</translation>
+        <translation type="unfinished">충전 중</translation>
     </message>
 </context>
 <context>
@@ -1360,15 +1360,15 @@
     </message>
     <message>
         <source>Inspected today at %1</source>
-        <translation>오늘 %1에 검사함</translation>
+        <translation>검사 일시: 오늘 %1</translation>
     </message>
     <message>
         <source>Inspected yesterday at %1</source>
-        <translation>어제 %1에 검사함</translation>
+        <translation>검사 일시: 어제 %1</translation>
     </message>
     <message>
         <source>Inspected on %1</source>
-        <translation>%1에 검사함</translation>
+        <translation>검사 날짜: %1</translation>
     </message>
     <message>
         <source>Last checked today at %1</source>
@@ -1385,19 +1385,19 @@
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
         <translation>
-            <numerusform>오늘 %1에 검사한 섹션 %n개 모두.</numerusform>
+            <numerusform>%n개 섹션 모두, 검사 일시: 오늘 %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
         <translation>
-            <numerusform>어제 %1에 검사한 섹션 %n개 모두.</numerusform>
+            <numerusform>%n개 섹션 모두, 검사 일시: 어제 %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
         <translation>
-            <numerusform>%1에 검사한 섹션 %n개 모두.</numerusform>
+            <numerusform>%n개 섹션 모두, 검사 날짜: %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -1485,7 +1485,7 @@
     <message>
         <source>Critical</source>
         <comment>pressure</comment>
-        <translation>심각</translation>
+        <translation>위험</translation>
     </message>
     <message>
         <source>No limits on performance</source>
@@ -1505,12 +1505,12 @@
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation>%1퍼센트, 지난 2분 동안 %2&#xa0;%3퍼센트</translation>
+        <translation>%1퍼센트, 최근 2분 동안 %2~%3퍼센트</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
         <translation>
-            <numerusform>코어 %n개, 가장 바쁜 코어 %1퍼센트</numerusform>
+            <numerusform>코어 %n개, 사용률이 가장 높은 코어는 %1퍼센트</numerusform>
         </translation>
     </message>
     <message>
@@ -1770,15 +1770,15 @@
     <name>SearchWords</name>
     <message>
         <source>gpu, graphics card, video card, 3d, gaming</source>
-        <translation>gpu, 그래픽 카드, 비디오 카드, 3d, 게임</translation>
+        <translation>gpu, 그래픽 카드, 그래픽카드, 비디오 카드, 3d, 게임</translation>
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ai, ml, 인공 지능, 머신 러닝, npu, llm</translation>
+        <translation>ai, ml, 머신 러닝, 머신러닝, 기계 학습, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>화면, 모니터</translation>
+        <translation>화면, 모니터, 스크린</translation>
     </message>
     <message>
         <source>video, codec</source>
@@ -1786,7 +1786,7 @@
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>에너지, 배터리</translation>
+        <translation>에너지, 전력, 배터리</translation>
     </message>
     <message>
         <source>internet, online</source>
@@ -1798,7 +1798,7 @@
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation>컴퓨터 이름, 호스트 이름, hostname</translation>
+        <translation>컴퓨터 이름, 호스트 이름, 호스트명, hostname</translation>
     </message>
     <message>
         <source>model</source>
@@ -1806,19 +1806,19 @@
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation>os, 시스템 버전, macos, linux, 빌드</translation>
+        <translation>os, 시스템 버전, 버전, macos, linux, 리눅스, 빌드</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64비트, arm, x86, rosetta</translation>
+        <translation>64비트, 64 bit, arm, x86, rosetta, 로제타</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>가동 시간, 재시동</translation>
+        <translation>켜진 시간, 부팅, 재시동, 재시작</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation>온도, 열, 스로틀링, 팬</translation>
+        <translation>온도, 열, 발열, 스로틀링, 팬</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
@@ -1834,31 +1834,31 @@
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation>cpu 코어, 스레드, hyper-threading</translation>
+        <translation>cpu 코어, 스레드, 쓰레드, 하이퍼스레딩, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation>클럭 속도, ghz, mhz</translation>
+        <translation>클럭, 클록, 동작 속도, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation>ram, 주기억 장치, 램</translation>
+        <translation>ram, 램, 주기억 장치, 메인 메모리</translation>
     </message>
     <message>
         <source>vram, video memory</source>
-        <translation>vram, 비디오 메모리</translation>
+        <translation>vram, 비디오 메모리, 그래픽 메모리</translation>
     </message>
     <message>
         <source>siri, writing tools, language model</source>
-        <translation>siri, 글쓰기 도구, 언어 모델</translation>
+        <translation>siri, 시리, 글쓰기 도구, 언어 모델</translation>
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation>ane, npu, ai</translation>
+        <translation>ane, npu, ai, 뉴럴 엔진</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation>vrr, adaptive sync, 주사율</translation>
+        <translation>vrr, adaptive sync, 주사율, 재생률</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
@@ -1866,31 +1866,31 @@
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation>p3, 색역</translation>
+        <translation>p3, 색역, 색 영역</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
-        <translation>픽셀, 헤르츠, hz, 4k, 5k, 주사율</translation>
+        <translation>픽셀, 화소, 헤르츠, hz, 4k, 5k, 주사율, 재생률</translation>
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation>retina, hidpi, 레티나</translation>
+        <translation>레티나, retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
-        <translation>avc, h264, 비디오 디코딩, 재생</translation>
+        <translation>avc, h264, 비디오 디코딩, 동영상 재생, 재생</translation>
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation>avc, h264, 비디오 인코딩</translation>
+        <translation>avc, h264, 비디오 인코딩, 동영상 녹화, 녹화</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
-        <translation>h.265, h265, 비디오 디코딩, 재생</translation>
+        <translation>h.265, h265, 비디오 디코딩, 동영상 재생, 재생</translation>
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation>h.265, h265, 비디오 인코딩</translation>
+        <translation>h.265, h265, 비디오 인코딩, 동영상 녹화, 녹화</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
@@ -1898,39 +1898,39 @@
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation>웹캠, webcam, facetime</translation>
+        <translation>웹캠, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation>스피커, 사운드, 오디오</translation>
+        <translation>스피커, 사운드, 소리, 오디오</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation>마이크, 사운드, 오디오</translation>
+        <translation>마이크, 사운드, 소리, 오디오</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation>마이크, 권한, 개인정보 보호</translation>
+        <translation>마이크, 권한, 개인정보</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation>웹캠, webcam, 권한, 개인정보 보호</translation>
+        <translation>웹캠, 권한, 개인정보</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation>오디오, 스피커, 헤드폰</translation>
+        <translation>오디오, 소리, 스피커, 헤드폰, 이어폰</translation>
     </message>
     <message>
         <source>audio, microphone</source>
-        <translation>오디오, 마이크</translation>
+        <translation>오디오, 소리, 마이크</translation>
     </message>
     <message>
         <source>audio</source>
-        <translation>오디오, 사운드</translation>
+        <translation>오디오, 소리</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation>샘플 레이트, 고해상도</translation>
+        <translation>샘플 레이트, 샘플링, 고음질, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
@@ -1938,11 +1938,11 @@
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation>여유 공간, 디스크 공간, 가득 참</translation>
+        <translation>여유 공간, 남은 공간, 디스크 공간, 가득 참</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation>ssd, nvme, 드라이브, 하드 디스크, hdd</translation>
+        <translation>ssd, nvme, 드라이브, 하드 디스크, 하드디스크, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
@@ -1958,11 +1958,11 @@
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
-        <translation>최대 용량, 마모, 노후</translation>
+        <translation>최대 용량, 최대 성능 상태, 마모, 노후</translation>
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation>배터리 사용 시간</translation>
+        <translation>배터리 사용 시간, 사용 시간</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
@@ -1970,35 +1970,35 @@
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation>wlan, 무선, wifi, 와이파이</translation>
+        <translation>wlan, 무선, 무선랜, 와이파이, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation>wlan, 무선, wifi, 와이파이, 수신</translation>
+        <translation>wlan, 무선, 무선랜, 와이파이, wifi, 수신</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
-        <translation>wlan, 무선, wifi, 와이파이, 속도</translation>
+        <translation>wlan, 무선, 무선랜, 와이파이, wifi, 속도</translation>
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation>wifi, wlan, ethernet, lan, 와이파이</translation>
+        <translation>wifi, 와이파이, wlan, 무선랜, 이더넷, ethernet, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation>ip 주소</translation>
+        <translation>ip 주소, ip주소, 아이피</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation>luks, 암호화됨</translation>
+        <translation>luks, 암호화됨, 암호화</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation>암호화, 디스크 암호화</translation>
+        <translation>암호화, 암호화됨, 디스크 암호화</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation>지문, 생체 인증</translation>
+        <translation>지문, 생체 인식, 터치 아이디</translation>
     </message>
     <message>
         <source>sip, rootless</source>
@@ -2010,19 +2010,19 @@
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation>uefi, 시동 보안, secure boot</translation>
+        <translation>uefi, 시동 보안, 시큐어 부트, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation>바이러스, 악성 코드, 백신</translation>
+        <translation>바이러스, 악성 코드, 악성코드, 멀웨어, 백신</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation>악성 코드, 공증, 앱 서명</translation>
+        <translation>악성 코드, 악성코드, 멀웨어, 공증, 앱 서명</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation>spectre, meltdown</translation>
+        <translation>spectre, meltdown, 스펙터, 멜트다운</translation>
     </message>
 </context>
 <context>
@@ -2081,7 +2081,7 @@
     </message>
     <message>
         <source>Battery health</source>
-        <translation>배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>The scan of %1 was removed.</source>
@@ -2130,7 +2130,7 @@
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation>Quillmark가 요청을 보내지 않았습니다.</translation>
+        <translation>Quillmark가 보낸 요청이 없습니다.</translation>
     </message>
     <message>
         <source>Date</source>
@@ -2272,65 +2272,65 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation>%1에 연결할 수 없음: %2</translation>
+        <translation>%1에 연결할 수 없습니다: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation>%1이(가) %1임을 증명하지 못함: %2</translation>
+        <translation>%1에서 자신이 %1임을 증명하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
-        <translation>%1이(가) 제때 응답하지 않았습니다.</translation>
+        <translation>%1에서 제시간에 응답하지 않았습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation>%1의 응답이 피드의 한도보다 깁니다.</translation>
+        <translation>%1의 응답이 피드에 허용된 길이를 초과합니다.</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation>%1이(가) 다른 주소로 연결했지만 따라가지 않음: %2</translation>
+        <translation>%1에서 다른 주소로 안내했으나 따르지 않았습니다: %2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation>%1이(가) 피드 대신 상태 %2(으)로 응답했습니다.</translation>
+        <translation>%1에서 피드 대신 상태 %2 응답을 보냈습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation>%1의 응답은 피드가 아님: 문서 유형을 선언합니다.</translation>
+        <translation>%1의 응답은 피드가 아닙니다. 문서 유형을 선언하고 있습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation>%1의 응답은 피드가 아님: 다른 종류의 XML입니다.</translation>
+        <translation>%1의 응답은 피드가 아닙니다. 다른 종류의 XML입니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation>%1의 응답은 피드가 아님: 내용이 너무 많습니다.</translation>
+        <translation>%1의 응답은 피드가 아닙니다. 어떤 피드보다도 많은 내용이 들어 있습니다.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation>Quillmark가 %1에 새로운 버전을 확인해도 될까요? 지금, 그리고 윈도우를 열 때 하루에 최대 한 번입니다.</translation>
+        <translation>Quillmark가 지금, 그리고 이후 윈도우를 열 때 하루에 최대 한 번 %1에 새로운 버전이 있는지 확인해도 되겠습니까?</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation>요청에는 Quillmark의 버전만 담기며 사용자나 이 컴퓨터에 관한 정보는 담기지 않습니다. 아무것도 설치되지 않습니다.</translation>
+        <translation>요청에는 Quillmark의 버전만 포함되며 사용자나 이 컴퓨터에 관한 정보는 포함되지 않습니다. 아무것도 설치되지 않습니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation>Quillmark %1을(를) 사용할 수 있지만 건너뛰도록 선택했습니다. 현재 버전은 %2입니다.</translation>
+        <translation>건너뛰기로 선택한 Quillmark %1 버전을 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation>중요한 업데이트인 Quillmark %1을(를) 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
+        <translation>중요한 업데이트인 Quillmark %1 버전을 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation>Quillmark %1을(를) 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
+        <translation>Quillmark %1 버전을 사용할 수 있습니다. 현재 버전은 %2입니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
-        <translation>Quillmark %1은(는) 최신 버전입니다.</translation>
+        <translation>Quillmark %1 버전은 최신 상태입니다.</translation>
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
@@ -2342,15 +2342,15 @@
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation>업데이트 피드의 주소가 https가 아님: %1</translation>
+        <translation>업데이트 피드의 주소가 https 주소가 아닙니다: %1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation>요청 기록을 쓸 수 없어 %1에 확인하지 않았습니다.</translation>
+        <translation>요청 기록을 쓸 수 없으므로 %1에 확인하지 않았습니다.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation>%1의 응답은 피드가 아님: XML이 아니거나 그 일부입니다.</translation>
+        <translation>%1의 응답은 피드가 아닙니다. XML이 아니거나 XML의 일부입니다.</translation>
     </message>
 </context>
 <context>
@@ -2367,14 +2367,14 @@
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation>이 Mac이 실제로 할 수 있는 것을 알려 줍니다.
-읽은 모든 내용은 이 Mac에 남습니다.</translation>
+        <translation>Mac이 실제로 할 수 있는 것을 알려줍니다.
+읽은 모든 정보는 이 Mac에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation>이 컴퓨터가 실제로 할 수 있는 것을 알려 줍니다.
-읽은 모든 내용은 이 컴퓨터에 남습니다.</translation>
+        <translation>컴퓨터가 실제로 할 수 있는 것을 알려줍니다.
+읽은 모든 정보는 이 컴퓨터에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>Licences</source>
@@ -2465,7 +2465,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Battery Health</source>
-        <translation>배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>Live Monitor</source>
@@ -2485,7 +2485,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>All</source>
-        <translation>전체</translation>
+        <translation>모두</translation>
     </message>
     <message>
         <source>Back</source>
@@ -2555,15 +2555,15 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryView</name>
     <message>
         <source>Battery health</source>
-        <translation>배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation>상태</translation>
+        <translation>성능 상태</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation>설계 용량 대비 현재 용량입니다. 80% 이상이면 양호합니다.</translation>
+        <translation>설계 용량에 대한 현재 용량의 비율입니다. 80% 이상이면 양호합니다.</translation>
     </message>
     <message>
         <source>Cycle count</source>
@@ -2571,7 +2571,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation>한 사이클은 여러 날에 걸치더라도 한 번의 완전한 방전입니다.</translation>
+        <translation>한 사이클은 한 번의 완전 방전을 뜻하며, 여러 날에 걸쳐 방전된 경우도 포함합니다.</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -2579,11 +2579,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation>열은 사용보다 더 빨리 배터리를 노화시킵니다. 직사광선을 피하십시오.</translation>
+        <translation>배터리는 사용보다 열로 인해 더 빨리 노후됩니다. 직사광선을 피하십시오.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>오늘 %1에 읽음. 값은 배터리 자체 컨트롤러에서 나오며 읽을 때마다 조금씩 다를 수 있습니다.</translation>
+        <translation>오늘 %1에 읽었습니다. 수치는 배터리 자체 컨트롤러에서 제공되며 읽을 때마다 조금씩 다를 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -2630,12 +2630,12 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation>변경됨: %1, %2에서 %3(으)로</translation>
+        <translation>변경됨: %1, 이전 %2, 이후 %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
@@ -2668,7 +2668,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ComparisonView</name>
     <message>
         <source>Differences</source>
-        <translation>차이점</translation>
+        <translation>차이</translation>
     </message>
     <message>
         <source>score</source>
@@ -2700,7 +2700,7 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>저장된 검사 %n개가 모두 제거됩니다. 이 동작은 실행 취소할 수 없습니다.</numerusform>
+            <numerusform>저장된 검사 %n개를 모두 제거합니다. 이 작업은 취소할 수 없습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -2709,13 +2709,13 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
         <translation>
-            <numerusform>%n페이지, US 레터</numerusform>
+            <numerusform>%n쪽, US 레터</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pages, A4</source>
         <translation>
-            <numerusform>%n페이지, A4</numerusform>
+            <numerusform>%n쪽, A4</numerusform>
         </translation>
     </message>
     <message>
@@ -2743,7 +2743,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::FirstRunDialog</name>
     <message>
         <source>Ready</source>
-        <translation>준비됨</translation>
+        <translation>준비 완료</translation>
     </message>
     <message>
         <source>Inspecting this Mac…</source>
@@ -2755,19 +2755,19 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation>이 Mac이 실제로 할 수 있는 것을 확인하기</translation>
+        <translation>이 Mac이 실제로 할 수 있는 것을 확인하십시오</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation>이 컴퓨터가 실제로 할 수 있는 것을 확인하기</translation>
+        <translation>이 컴퓨터가 실제로 할 수 있는 것을 확인하십시오</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation>하드웨어와 시스템의 모든 기능을 명확한 상태와 함께 보여 줍니다.</translation>
+        <translation>하드웨어와 시스템의 모든 기능을 명확한 상태와 함께 보여줍니다.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation>열한 개의 섹션, 하나의 점수</translation>
+        <translation>11개의 섹션, 하나의 점수</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
@@ -2775,23 +2775,23 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation>모든 변경 사항이 저장됨</translation>
+        <translation>모든 변경 사항 저장</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation>두 검사를 비교하여 업데이트가 무엇을 바꾸었는지 확인하십시오.</translation>
+        <translation>두 검사를 골라 비교하고 업데이트로 무엇이 바뀌었는지 확인하십시오.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
-        <translation>데이터는 여기에 남습니다</translation>
+        <translation>데이터는 여기에만 남습니다</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>이 Mac에 관한 어떤 정보도 전송되지 않습니다. Quillmark는 자체 업데이트를 찾을 때만 온라인에 연결합니다.</translation>
+        <translation>이 Mac에 관한 정보는 어디에도 전송되지 않습니다. Quillmark는 자체 업데이트를 찾을 때만 인터넷에 연결합니다.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>이 컴퓨터에 관한 어떤 정보도 전송되지 않습니다. Quillmark는 자체 업데이트를 찾을 때만 온라인에 연결합니다.</translation>
+        <translation>이 컴퓨터에 관한 정보는 어디에도 전송되지 않습니다. Quillmark는 자체 업데이트를 찾을 때만 인터넷에 연결합니다.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
@@ -2804,11 +2804,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation>메뉴 막대에 실시간 모니터 보기</translation>
+        <translation>메뉴 막대에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>상태 영역에 실시간 모니터 보기</translation>
+        <translation>시스템 트레이에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Get started</source>
@@ -2831,11 +2831,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show the overview</source>
-        <translation>개요 보기</translation>
+        <translation>개요 표시</translation>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation>마지막으로 사용한 화면 보기</translation>
+        <translation>마지막으로 사용한 화면 표시</translation>
     </message>
     <message>
         <source>Clear history…</source>
@@ -2843,15 +2843,15 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation>Quillmark가 읽은 모든 내용은 이 Mac에 남습니다.</translation>
+        <translation>Quillmark가 읽은 모든 정보는 이 Mac에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation>Quillmark가 읽은 모든 내용은 이 컴퓨터에 남습니다.</translation>
+        <translation>Quillmark가 읽은 모든 정보는 이 컴퓨터에만 남아 있습니다.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation>유일한 연결은 업데이트 확인입니다.</translation>
+        <translation>업데이트를 확인할 때만 인터넷에 연결합니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
@@ -2914,7 +2914,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation>기능 점수 %1</translation>
+        <translation>기능 점수: %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
@@ -2947,7 +2947,7 @@ Everything it reads stays on this computer.</source>
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>%1퍼센트, 기능 %n개 중 %2개 지원됨</numerusform>
+            <numerusform>%1퍼센트, 기능 %n개 중 %2개 지원</numerusform>
         </translation>
     </message>
     <message>
@@ -2964,7 +2964,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
-        <translation>하드웨어 및 시스템 설정을 읽는 중</translation>
+        <translation>하드웨어와 시스템 설정을 읽는 중</translation>
     </message>
 </context>
 <context>
@@ -2999,7 +2999,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
@@ -3009,13 +3009,13 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n supported</source>
         <translation>
-            <numerusform>지원됨 %n개</numerusform>
+            <numerusform>%n개 지원됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
         <translation>
-            <numerusform>지원되지 않음 %n개</numerusform>
+            <numerusform>%n개 지원되지 않음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3037,19 +3037,19 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>변경 사항이 있을 때마다 검사가 저장됩니다. 최신 200개가 이 Mac에 보관됩니다.</translation>
+        <translation>변경 사항이 있을 때마다 검사가 저장됩니다. 최근 200개가 이 Mac에 보관됩니다.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>변경 사항이 있을 때마다 검사가 저장됩니다. 최신 200개가 이 컴퓨터에 보관됩니다.</translation>
+        <translation>변경 사항이 있을 때마다 검사가 저장됩니다. 최근 200개가 이 컴퓨터에 보관됩니다.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation>검사에서 새로운 것을 찾을 때마다 Quillmark가 검사를 저장합니다. 이 Mac을 검사하여 첫 번째 검사를 저장하십시오.</translation>
+        <translation>새로운 내용이 발견될 때마다 Quillmark가 검사를 저장합니다. 이 Mac을 검사하면 첫 번째 검사가 저장됩니다.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation>검사에서 새로운 것을 찾을 때마다 Quillmark가 검사를 저장합니다. 이 컴퓨터를 검사하여 첫 번째 검사를 저장하십시오.</translation>
+        <translation>새로운 내용이 발견될 때마다 Quillmark가 검사를 저장합니다. 이 컴퓨터를 검사하면 첫 번째 검사가 저장됩니다.</translation>
     </message>
     <message>
         <source>Inspect now</source>
@@ -3096,7 +3096,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation>%1의 검사가 기록에서 제거됩니다.</translation>
+        <translation>%1의 검사를 기록에서 제거합니다.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3109,7 +3109,7 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>저장된 검사 %n개가 모두 제거됩니다. 이 동작은 실행 취소할 수 없습니다.</numerusform>
+            <numerusform>저장된 검사 %n개를 모두 제거합니다. 이 작업은 취소할 수 없습니다.</numerusform>
         </translation>
     </message>
     <message>
@@ -3122,7 +3122,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>다른 Quillmark가 사용 중입니다. 여기서 수행한 검사는 종료될 때까지 보관됩니다.</translation>
+        <translation>다른 Quillmark에서 기록을 사용하고 있습니다. 여기에서 수행한 검사는 해당 Quillmark가 종료될 때까지 유지됩니다.</translation>
     </message>
 </context>
 <context>
@@ -3149,14 +3149,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation>새로운 언어가 즉시 사용됩니다. 다른 언어로 저장된 검사도 계속 비교할 수 있습니다.</translation>
-    </message>
-</context>
-<context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>라이선스</translation>
+        <translation>새로운 언어가 바로 적용됩니다. 다른 언어로 저장된 검사도 계속 비교할 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -3228,7 +3221,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
-        <translation>메뉴 막대에 실시간 모니터 보기</translation>
+        <translation>메뉴 막대에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
@@ -3236,19 +3229,19 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Status area:</source>
-        <translation>상태 영역:</translation>
+        <translation>시스템 트레이:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>상태 영역에 실시간 모니터 보기</translation>
+        <translation>시스템 트레이에 실시간 모니터 표시</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation>Quillmark는 종료할 때까지 상태 영역에 남아 있습니다</translation>
+        <translation>Quillmark는 종료할 때까지 시스템 트레이에 남아 있습니다</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation>이 데스크탑에는 상태 영역이 없습니다.</translation>
+        <translation>이 데스크탑 환경에는 시스템 트레이가 없습니다.</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -3315,7 +3308,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>On the start-up volume</source>
-        <translation>시동 볼륨</translation>
+        <translation>시동 볼륨에 있음</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s)</source>
@@ -3350,7 +3343,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Not charging</source>
-        <translation>충전 중이 아님</translation>
+        <translation>충전 중 아님</translation>
     </message>
 </context>
 <context>
@@ -3372,7 +3365,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation>이후의 검사는 이 검사와 비교됩니다</translation>
+        <translation>이후 검사는 이 검사와 비교됩니다</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
@@ -3425,20 +3418,20 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation>‘%1’의 결과</translation>
+        <translation>‘%1’ 검색 결과</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
         <translation>
-            <numerusform>섹션 %n개</numerusform>
+            <numerusform>%n개 섹션</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
         <translation>
-            <numerusform>%1에서 %n행</numerusform>
+            <numerusform>%1의 %n행</numerusform>
         </translation>
     </message>
     <message>
@@ -3456,12 +3449,12 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation>‘%1’이(가) 포함된 행 중 상태가 ‘%2’인 것이 없습니다.</translation>
+        <translation>‘%1’이(가) 포함된 행 중 상태가 ‘%2’인 행이 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
         <translation>
-            <numerusform>다른 상태의 %n행이 일치합니다.</numerusform>
+            <numerusform>다른 상태에서는 %n행이 일치합니다.</numerusform>
         </translation>
     </message>
     <message>
@@ -3494,13 +3487,13 @@ Everything it reads stays on this computer.</source>
     <message numerus="yes">
         <source>%n supported</source>
         <translation>
-            <numerusform>지원됨 %n개</numerusform>
+            <numerusform>%n개 지원됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not supported</source>
         <translation>
-            <numerusform>지원되지 않음 %n개</numerusform>
+            <numerusform>%n개 지원되지 않음</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3533,13 +3526,13 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation>이 섹션에는 평가된 항목이 없음</translation>
+        <translation>이 섹션에는 평가 대상이 없습니다</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>평가 대상 기능 %n개 중 %1개 지원됨</numerusform>
+            <numerusform>평가 대상 %n개 중 %1개 지원</numerusform>
         </translation>
     </message>
 </context>
@@ -3563,7 +3556,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Status area</source>
-        <translation>상태 영역</translation>
+        <translation>시스템 트레이</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3585,7 +3578,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::SidebarModel</name>
     <message>
         <source>Real-time CPU, memory, thermal, battery and network charts</source>
-        <translation>CPU, 메모리, 발열, 배터리 및 네트워크의 실시간 차트</translation>
+        <translation>CPU, 메모리, 발열, 배터리, 네트워크의 실시간 차트</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n warning(s)</source>
@@ -3611,7 +3604,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Battery health</source>
-        <translation>배터리 성능</translation>
+        <translation>배터리 성능 상태</translation>
     </message>
     <message>
         <source>Live monitor</source>
@@ -3629,7 +3622,34 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>All</source>
-        <translation>전체</translation>
+        <translation>모두</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">라이선스</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">새로운 기능</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">Quillmark 도움말</translation>
     </message>
 </context>
 <context>
@@ -3637,7 +3657,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
-        <translation>Quillmark가 %1에 새로운 버전이 있는지 확인해도 될까요?</translation>
+        <translation>Quillmark가 %1에 새로운 버전이 있는지 확인해도 되겠습니까?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
@@ -3645,7 +3665,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation>이번만 확인</translation>
+        <translation>이번 한 번만 확인</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
@@ -3653,11 +3673,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation>중요한 업데이트인 Quillmark %1을(를) 사용할 수 있습니다.</translation>
+        <translation>중요한 업데이트인 Quillmark %1 버전을 사용할 수 있습니다.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
-        <translation>Quillmark %1을(를) 사용할 수 있습니다.</translation>
+        <translation>Quillmark %1 버전을 사용할 수 있습니다.</translation>
     </message>
     <message>
         <source>You have version %1.</source>
@@ -3696,7 +3716,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation>Quillmark가 시작될 때 하루에 한 번 %1에 확인합니다</translation>
+        <translation>Quillmark를 시작할 때 하루에 한 번 %1에 확인</translation>
     </message>
     <message>
         <source>Checking…</source>

@@ -3205,13 +3205,6 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>Licencje</translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::MenuBar</name>
     <message>
         <source>Collecting samples…</source>
@@ -3710,6 +3703,33 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     <message>
         <source>All</source>
         <translation>Wszystkie</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">Licencje</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">Co nowego</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">Pomoc Quillmark</translation>
     </message>
 </context>
 <context>

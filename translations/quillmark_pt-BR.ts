@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
-        <translation>Normal: de 10 a 45&#xa0;°C</translation>
+        <translation>Normal: 10 a 45&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -154,14 +154,14 @@
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation>Saúde da bateria %1 por cento, %2</translation>
+        <translation>Saúde da bateria: %1 por cento, %2</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>PDF report</source>
-        <translation>Relatório PDF</translation>
+        <translation>Relatório em PDF</translation>
     </message>
     <message>
         <source>JSON</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation>Tabelas para notas, wikis e chamados</translation>
+        <translation>Tabelas para notas, wikis e issues</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
@@ -1327,7 +1327,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation>Estado da carga</translation>
+        <translation type="unfinished">Carregando</translation>
     </message>
 </context>
 <context>
@@ -1390,22 +1390,22 @@
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
         <translation>
-            <numerusform>%n seção, inspecionada hoje às %1.</numerusform>
-            <numerusform>Todas as %n seções, inspecionadas hoje às %1.</numerusform>
+            <numerusform>%n seção, conforme a inspeção de hoje às %1.</numerusform>
+            <numerusform>Todas as %n seções, conforme a inspeção de hoje às %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
         <translation>
-            <numerusform>%n seção, inspecionada ontem às %1.</numerusform>
-            <numerusform>Todas as %n seções, inspecionadas ontem às %1.</numerusform>
+            <numerusform>%n seção, conforme a inspeção de ontem às %1.</numerusform>
+            <numerusform>Todas as %n seções, conforme a inspeção de ontem às %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
         <translation>
-            <numerusform>%n seção, inspecionada em %1.</numerusform>
-            <numerusform>Todas as %n seções, inspecionadas em %1.</numerusform>
+            <numerusform>%n seção, conforme a inspeção de %1.</numerusform>
+            <numerusform>Todas as %n seções, conforme a inspeção de %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -1501,15 +1501,15 @@
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation>Levemente aquecido, sem limites</translation>
+        <translation>Levemente morno, sem limites</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
-        <translation>Desempenho reduzido</translation>
+        <translation>O desempenho está reduzido</translation>
     </message>
     <message>
         <source>Performance is strongly reduced</source>
-        <translation>Desempenho muito reduzido</translation>
+        <translation>O desempenho está muito reduzido</translation>
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
@@ -1524,7 +1524,7 @@
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation>%1 de %2 em uso, %3 por cento. Pressão %4 por cento, %5</translation>
+        <translation>%1 de %2 em uso, %3 por cento. Pressão de %4 por cento, %5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
@@ -1785,11 +1785,11 @@
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ia, ai, ml, aprendizado de máquina, npu, llm</translation>
+        <translation>ia, ai, ml, aprendizado de máquina, aprendizado automático, npu, llm</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>monitor, visor</translation>
+        <translation>monitor, display</translation>
     </message>
     <message>
         <source>video, codec</source>
@@ -1797,11 +1797,11 @@
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>energia, bateria</translation>
+        <translation>bateria, alimentação</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation>internet, online</translation>
+        <translation>internet, on-line, online</translation>
     </message>
     <message>
         <source>safety, protection</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation>os, versão do sistema, macos, linux, build</translation>
+        <translation>os, so, versão do sistema, macos, linux, build</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
@@ -1825,15 +1825,15 @@
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>ligado desde, reinício, uptime</translation>
+        <translation>ligado desde, reinicialização, reiniciar, uptime</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation>temperatura, calor, throttling, ventoinha</translation>
+        <translation>temperatura, calor, aquecimento, throttling, ventoinha, ventilador</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation>vm, hipervisor</translation>
+        <translation>vm, hipervisor, hypervisor</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
@@ -1841,15 +1841,15 @@
     </message>
     <message>
         <source>cpu cores</source>
-        <translation>núcleos de cpu</translation>
+        <translation>núcleos da cpu, cpu</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation>núcleos de cpu, threads, hyper-threading</translation>
+        <translation>núcleos da cpu, cpu, threads, hyper-threading</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation>clock, ghz, mhz</translation>
+        <translation>clock, velocidade do clock, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>p3, gamut</source>
-        <translation>p3, gama de cores</translation>
+        <translation>p3, gama, gamut</translation>
     </message>
     <message>
         <source>pixels, hertz, hz, 4k, 5k, refresh rate</source>
@@ -1893,7 +1893,7 @@
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation>avc, h264, codificação de vídeo</translation>
+        <translation>avc, h264, codificação de vídeo, gravação</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
@@ -1901,7 +1901,7 @@
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation>h.265, h265, codificação de vídeo</translation>
+        <translation>h.265, h265, codificação de vídeo, gravação</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
@@ -1929,7 +1929,7 @@
     </message>
     <message>
         <source>audio, speakers, headphones</source>
-        <translation>áudio, alto-falantes, fones de ouvido</translation>
+        <translation>áudio, alto-falantes, caixas de som, fones de ouvido</translation>
     </message>
     <message>
         <source>audio, microphone</source>
@@ -1953,7 +1953,7 @@
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation>ssd, nvme, unidade, disco rígido, hdd</translation>
+        <translation>ssd, nvme, unidade, disco rígido, hd, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
@@ -1961,11 +1961,11 @@
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation>na tomada, energia</translation>
+        <translation>tomada, conectado, ligado na tomada</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation>carregador, fonte, watt</translation>
+        <translation>carregador, fonte de alimentação, watt</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
@@ -1973,11 +1973,11 @@
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation>duração da bateria, autonomia</translation>
+        <translation>autonomia, duração da bateria</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
-        <translation>economia de energia</translation>
+        <translation>economia de energia, economizar energia</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
@@ -2005,7 +2005,7 @@
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation>criptografia, criptografado, criptografia de disco</translation>
+        <translation>criptografia, criptografado, criptografia do disco</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
@@ -2286,7 +2286,7 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation>Não foi possível acessar %1: %2</translation>
+        <translation>Não foi possível conectar a %1: %2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
@@ -2311,7 +2311,7 @@
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation>A resposta de %1 não é um feed: declara um tipo de documento.</translation>
+        <translation>A resposta de %1 não é um feed: ela declara um tipo de documento.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
@@ -2319,11 +2319,11 @@
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation>A resposta de %1 não é um feed: contém mais do que qualquer um.</translation>
+        <translation>A resposta de %1 não é um feed: contém mais do que qualquer feed.</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation>O Quillmark pode perguntar a %1 se há versões mais novas, agora e no máximo uma vez por dia ao abrir a janela?</translation>
+        <translation>O Quillmark pode perguntar a %1 se há versões mais recentes: agora e, no máximo, uma vez por dia ao abrir a janela?</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
@@ -2332,7 +2332,7 @@
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation>O Quillmark %1 está disponível; você optou por ignorar esta versão. Você tem a versão %2.</translation>
+        <translation>O Quillmark %1 está disponível, mas você optou por pular esta versão. Você tem a versão %2.</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
@@ -2348,11 +2348,11 @@
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation>O Quillmark não conseguiu descobrir se há uma versão mais nova.</translation>
+        <translation>O Quillmark não conseguiu descobrir se há uma versão mais recente.</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation>%1 não foi consultado, pois você não concordou com isso.</translation>
+        <translation>%1 não foi consultado, porque você não concordou com isso.</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
@@ -2360,11 +2360,11 @@
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation>%1 não foi consultado, pois o registro de solicitações não pode ser gravado.</translation>
+        <translation>%1 não foi consultado, porque o registro de solicitações não pode ser gravado.</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation>A resposta de %1 não é um feed: não é XML ou é apenas parte de um.</translation>
+        <translation>A resposta de %1 não é um feed: não é XML, ou é só uma parte.</translation>
     </message>
 </context>
 <context>
@@ -2382,13 +2382,13 @@
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
         <translation>Mostra o que o seu Mac realmente pode fazer.
-Tudo o que ele lê permanece neste Mac.</translation>
+Tudo o que é lido permanece neste Mac.</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
         <translation>Mostra o que o seu computador realmente pode fazer.
-Tudo o que ele lê permanece neste computador.</translation>
+Tudo o que é lido permanece neste computador.</translation>
     </message>
     <message>
         <source>Licences</source>
@@ -2475,7 +2475,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Scan History</source>
-        <translation>Histórico</translation>
+        <translation>Histórico de Análises</translation>
     </message>
     <message>
         <source>Battery Health</source>
@@ -2499,7 +2499,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>All</source>
-        <translation>Tudo</translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>Back</source>
@@ -2523,7 +2523,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Bring All to Front</source>
-        <translation>Trazer Tudo para a Frente</translation>
+        <translation>Trazer Todas para a Frente</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
@@ -2577,7 +2577,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Present capacity as a share of design capacity. 80% or more is good.</source>
-        <translation>Capacidade atual em relação à capacidade de projeto. 80% ou mais é bom.</translation>
+        <translation>A capacidade atual em relação à capacidade de projeto. 80% ou mais é bom.</translation>
     </message>
     <message>
         <source>Cycle count</source>
@@ -2593,11 +2593,11 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation>O calor envelhece a bateria mais rápido que o uso. Mantenha-a longe do sol.</translation>
+        <translation>O calor envelhece uma bateria mais depressa do que o uso. Mantenha-a longe do sol.</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>Lido hoje às %1. Os números vêm do controlador da própria bateria e podem variar um pouco entre leituras.</translation>
+        <translation>Leitura de hoje às %1. Os números vêm do controlador da própria bateria e podem variar um pouco entre as leituras.</translation>
     </message>
 </context>
 <context>
@@ -2649,7 +2649,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation>Alterado: %1, de %2 para %3</translation>
+        <translation>Alterado: %1, de %2, para %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
@@ -2706,7 +2706,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>Clear the scan history?</source>
-        <translation>Limpar o histórico?</translation>
+        <translation>Limpar o histórico de análises?</translation>
     </message>
     <message>
         <source>Clear history</source>
@@ -2715,8 +2715,8 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>%n análise salva será removida. Esta ação não pode ser desfeita.</numerusform>
-            <numerusform>Todas as %n análises salvas serão removidas. Esta ação não pode ser desfeita.</numerusform>
+            <numerusform>%n análise salva será removida. Isso não pode ser desfeito.</numerusform>
+            <numerusform>Todas as %n análises salvas serão removidas. Isso não pode ser desfeito.</numerusform>
         </translation>
     </message>
 </context>
@@ -2725,8 +2725,8 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message numerus="yes">
         <source>%n pages, US Letter</source>
         <translation>
-            <numerusform>%n página, Carta</numerusform>
-            <numerusform>%n páginas, Carta</numerusform>
+            <numerusform>%n página, Carta EUA</numerusform>
+            <numerusform>%n páginas, Carta EUA</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2781,7 +2781,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation>Cada recurso do seu hardware e sistema, com um status claro.</translation>
+        <translation>Cada recurso do seu hardware e do sistema, com um status claro.</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
@@ -2789,15 +2789,15 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation>Do processador e gráficos a codecs, telas e segurança.</translation>
+        <translation>De processador e gráficos a codecs, telas e segurança.</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation>Toda mudança é salva</translation>
+        <translation>Cada alteração é salva</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation>Compare duas análises e veja o que uma atualização mudou.</translation>
+        <translation>Compare duas análises quaisquer e veja o que uma atualização mudou.</translation>
     </message>
     <message>
         <source>Your data stays here</source>
@@ -2805,11 +2805,11 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>Nada sobre este Mac é enviado a lugar algum. O Quillmark só se conecta para buscar suas próprias atualizações.</translation>
+        <translation>Nada sobre este Mac é enviado a lugar nenhum. O Quillmark só acessa a internet para buscar suas próprias atualizações.</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>Nada sobre este computador é enviado a lugar algum. O Quillmark só se conecta para buscar suas próprias atualizações.</translation>
+        <translation>Nada sobre este computador é enviado a lugar nenhum. O Quillmark só acessa a internet para buscar suas próprias atualizações.</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
@@ -2826,7 +2826,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Mostrar o monitor ao vivo na área de status</translation>
+        <translation>Mostrar o monitor ao vivo na bandeja do sistema</translation>
     </message>
     <message>
         <source>Get started</source>
@@ -2841,7 +2841,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation>Histórico:</translation>
+        <translation>Histórico de análises:</translation>
     </message>
     <message>
         <source>Privacy:</source>
@@ -2869,7 +2869,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation>A única conexão que ele faz é a busca por atualizações.</translation>
+        <translation>A única conexão que ele faz é a busca de atualizações.</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
@@ -2933,7 +2933,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation>Pontuação de recursos %1</translation>
+        <translation>Pontuação de recursos: %1</translation>
     </message>
     <message>
         <source>%1 memory</source>
@@ -2981,7 +2981,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation>Isto está demorando mais que o normal</translation>
+        <translation>Está demorando mais do que o normal</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
@@ -3037,8 +3037,8 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message numerus="yes">
         <source>%n not supported</source>
         <translation>
-            <numerusform>%n incompatível</numerusform>
-            <numerusform>%n incompatíveis</numerusform>
+            <numerusform>%n não compatível</numerusform>
+            <numerusform>%n não compatíveis</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3057,23 +3057,23 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>Histórico</translation>
+        <translation>Histórico de análises</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>Uma análise é salva sempre que algo muda. As 200 mais recentes ficam neste Mac.</translation>
+        <translation>Uma análise é salva sempre que algo muda. As 200 mais recentes são mantidas neste Mac.</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>Uma análise é salva sempre que algo muda. As 200 mais recentes ficam neste computador.</translation>
+        <translation>Uma análise é salva sempre que algo muda. As 200 mais recentes são mantidas neste computador.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation>O Quillmark salva uma análise sempre que uma inspeção encontra algo novo. Inspecione este Mac para salvar a primeira.</translation>
+        <translation>O Quillmark salva uma análise toda vez que uma inspeção encontra algo novo. Inspecione este Mac para salvar a primeira.</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation>O Quillmark salva uma análise sempre que uma inspeção encontra algo novo. Inspecione este computador para salvar a primeira.</translation>
+        <translation>O Quillmark salva uma análise toda vez que uma inspeção encontra algo novo. Inspecione este computador para salvar a primeira.</translation>
     </message>
     <message>
         <source>Inspect now</source>
@@ -3129,13 +3129,13 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation>Limpar o histórico?</translation>
+        <translation>Limpar o histórico de análises?</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>%n análise salva será removida. Esta ação não pode ser desfeita.</numerusform>
-            <numerusform>Todas as %n análises salvas serão removidas. Esta ação não pode ser desfeita.</numerusform>
+            <numerusform>%n análise salva será removida. Isso não pode ser desfeito.</numerusform>
+            <numerusform>Todas as %n análises salvas serão removidas. Isso não pode ser desfeito.</numerusform>
         </translation>
     </message>
     <message>
@@ -3144,11 +3144,11 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation>Não foi possível salvar o histórico.</translation>
+        <translation>Não foi possível salvar o histórico de análises.</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>Outra cópia do Quillmark o está usando. As análises feitas aqui são mantidas até que ela termine.</translation>
+        <translation>Outra cópia do Quillmark está usando o histórico. As análises feitas aqui são mantidas até que ela seja encerrada.</translation>
     </message>
 </context>
 <context>
@@ -3176,13 +3176,6 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
         <translation>O novo idioma é usado imediatamente. Análises salvas em outro idioma ainda podem ser comparadas.</translation>
-    </message>
-</context>
-<context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>Licenças</translation>
     </message>
 </context>
 <context>
@@ -3262,19 +3255,19 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation>Área de status:</translation>
+        <translation>Bandeja do sistema:</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>Mostrar o monitor ao vivo na área de status</translation>
+        <translation>Mostrar o monitor ao vivo na bandeja do sistema</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation>O Quillmark permanece na área de status até você encerrá-lo</translation>
+        <translation>O Quillmark permanece na bandeja do sistema até você encerrá-lo</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation>Este ambiente não tem área de status.</translation>
+        <translation>Este ambiente de trabalho não tem bandeja do sistema.</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -3377,7 +3370,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Not charging</source>
-        <translation>Não está carregando</translation>
+        <translation>Sem carregar</translation>
     </message>
 </context>
 <context>
@@ -3391,7 +3384,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     <name>quillmark::app::OverviewPage</name>
     <message>
         <source>Overview</source>
-        <translation>Visão Geral</translation>
+        <translation>Visão geral</translation>
     </message>
     <message>
         <source>First scan saved</source>
@@ -3476,7 +3469,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>Filtro: %1</translation>
+        <translation>Filtrado por: %1</translation>
     </message>
     <message>
         <source>No rows match</source>
@@ -3484,7 +3477,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Nothing contains “%1”. Check the spelling or try a shorter word.</source>
-        <translation>Nada contém “%1”. Verifique a grafia ou tente uma palavra mais curta.</translation>
+        <translation>Nada contém “%1”. Verifique a ortografia ou tente uma palavra mais curta.</translation>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
@@ -3534,8 +3527,8 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message numerus="yes">
         <source>%n not supported</source>
         <translation>
-            <numerusform>%n incompatível</numerusform>
-            <numerusform>%n incompatíveis</numerusform>
+            <numerusform>%n não compatível</numerusform>
+            <numerusform>%n não compatíveis</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3570,7 +3563,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation>Nada nesta seção foi avaliado</translation>
+        <translation>Nada nesta seção é avaliado</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
@@ -3601,7 +3594,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Status area</source>
-        <translation>Área de status</translation>
+        <translation>Bandeja do sistema</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3634,7 +3627,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation>Visão Geral</translation>
+        <translation>Visão geral</translation>
     </message>
     <message>
         <source>Capabilities</source>
@@ -3646,7 +3639,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>Histórico</translation>
+        <translation>Histórico de análises</translation>
     </message>
     <message>
         <source>Battery health</source>
@@ -3669,7 +3662,34 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>All</source>
-        <translation>Tudo</translation>
+        <translation>Todos</translation>
+    </message>
+</context>
+<context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">Licenças</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">Novidades</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">Ajuda do Quillmark</translation>
     </message>
 </context>
 <context>
@@ -3677,7 +3697,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
-        <translation>O Quillmark pode perguntar a %1 se há uma versão mais nova?</translation>
+        <translation>O Quillmark pode perguntar a %1 se há uma versão mais recente?</translation>
     </message>
     <message>
         <source>Ask once a day</source>
@@ -3709,7 +3729,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Skip this version</source>
-        <translation>Ignorar esta versão</translation>
+        <translation>Pular esta versão</translation>
     </message>
     <message>
         <source>Download…</source>
@@ -3736,7 +3756,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation>Consulta %1 uma vez por dia, ao iniciar o Quillmark</translation>
+        <translation>Consulta %1 uma vez por dia, quando o Quillmark é iniciado</translation>
     </message>
     <message>
         <source>Checking…</source>
@@ -3748,7 +3768,7 @@ Tudo o que ele lê permanece neste computador.</translation>
     </message>
     <message>
         <source>Never checked</source>
-        <translation>Nunca buscado</translation>
+        <translation>Nenhuma busca feita</translation>
     </message>
 </context>
 </TS>

@@ -120,7 +120,7 @@
     </message>
     <message>
         <source>On battery, %1 left</source>
-        <translation>使用电池，剩余 %1</translation>
+        <translation>使用电池，还剩%1</translation>
     </message>
     <message>
         <source>On battery</source>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>Rated for %1 cycles</source>
-        <translation>额定 %1 次循环</translation>
+        <translation>设计循环 %1 次</translation>
     </message>
     <message>
         <source>Normal: 10 to 45&#xa0;°C</source>
@@ -149,12 +149,12 @@
     </message>
     <message>
         <source>Battery health not reported</source>
-        <translation>未报告电池健康</translation>
+        <translation>电池健康未报告</translation>
     </message>
     <message>
         <source>Battery health %1 percent, %2</source>
         <extracomment>For screen readers: &quot;Battery health 92 percent, Normal&quot;</extracomment>
-        <translation>电池健康百分之 %1，%2</translation>
+        <translation>电池健康 %1%，%2</translation>
     </message>
 </context>
 <context>
@@ -177,15 +177,15 @@
     </message>
     <message>
         <source>Designed pages, ready to print or send</source>
-        <translation>经过设计的页面，可直接打印或发送</translation>
+        <translation>排版好的页面，可直接打印或发送</translation>
     </message>
     <message>
         <source>Every value, for scripts and tools</source>
-        <translation>所有值，供脚本和工具使用</translation>
+        <translation>所有数值，供脚本和工具使用</translation>
     </message>
     <message>
         <source>Tables for notes, wikis and issues</source>
-        <translation>用于备忘录、Wiki 和问题单的表格</translation>
+        <translation>用于备忘录、维基和议题的表格</translation>
     </message>
     <message>
         <source>The same text as Copy as text</source>
@@ -1232,7 +1232,7 @@
     </message>
     <message>
         <source>Critical</source>
-        <translation>危急</translation>
+        <translation>严重</translation>
     </message>
     <message>
         <source>System</source>
@@ -1322,7 +1322,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation>充电状态</translation>
+        <translation type="unfinished">正在充电</translation>
     </message>
 </context>
 <context>
@@ -1372,32 +1372,32 @@
     </message>
     <message>
         <source>Last checked today at %1</source>
-        <translation>上次检查更新：今天 %1</translation>
+        <translation>上次检查：今天 %1</translation>
     </message>
     <message>
         <source>Last checked yesterday at %1</source>
-        <translation>上次检查更新：昨天 %1</translation>
+        <translation>上次检查：昨天 %1</translation>
     </message>
     <message>
         <source>Last checked on %1</source>
-        <translation>上次检查更新：%1</translation>
+        <translation>上次检查：%1</translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected today at %1.</source>
         <translation>
-            <numerusform>全部 %n 个部分，检查于今天 %1。</numerusform>
+            <numerusform>全部 %n 个类别，检查于今天 %1。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected yesterday at %1.</source>
         <translation>
-            <numerusform>全部 %n 个部分，检查于昨天 %1。</numerusform>
+            <numerusform>全部 %n 个类别，检查于昨天 %1。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>All %n sections, as inspected on %1.</source>
         <translation>
-            <numerusform>全部 %n 个部分，检查于 %1。</numerusform>
+            <numerusform>全部 %n 个类别，检查于 %1。</numerusform>
         </translation>
     </message>
 </context>
@@ -1446,7 +1446,7 @@
     </message>
     <message>
         <source>Pressure critical</source>
-        <translation>压力危急</translation>
+        <translation>压力严重</translation>
     </message>
     <message>
         <source>Normal</source>
@@ -1462,7 +1462,7 @@
     </message>
     <message>
         <source>Critical</source>
-        <translation>危急</translation>
+        <translation>严重</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -1493,7 +1493,7 @@
     </message>
     <message>
         <source>Slightly warm, no limits</source>
-        <translation>略热，不受限制</translation>
+        <translation>略微偏热，性能不受限制</translation>
     </message>
     <message>
         <source>Performance is reduced</source>
@@ -1505,17 +1505,17 @@
     </message>
     <message>
         <source>%1 percent, between %2 and %3 percent in the last 2 minutes</source>
-        <translation>百分之 %1，过去 2 分钟内介于百分之 %2 和 %3 之间</translation>
+        <translation>%1%，最近 2 分钟介于 %2% 与 %3% 之间</translation>
     </message>
     <message numerus="yes">
         <source>%n core(s), the busiest at %1 percent</source>
         <translation>
-            <numerusform>%n 个核心，最繁忙的为百分之 %1</numerusform>
+            <numerusform>%n 个核心，最忙的核心为 %1%</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 percent. Pressure %4 percent, %5</source>
-        <translation>已用 %1，共 %2，百分之 %3。压力百分之 %4，%5</translation>
+        <translation>%2 中已使用 %1，%3%。压力 %4%，%5</translation>
     </message>
     <message>
         <source>In %1, out %2</source>
@@ -1774,55 +1774,55 @@
     </message>
     <message>
         <source>ai, ml, machine learning, npu, llm</source>
-        <translation>ai, ml, 人工智能, 机器学习, npu, llm</translation>
+        <translation>ai, ml, 机器学习, npu, llm, 大模型</translation>
     </message>
     <message>
         <source>screen, monitor</source>
-        <translation>屏幕, 显示器</translation>
+        <translation>屏幕, 显示屏, 监视器</translation>
     </message>
     <message>
         <source>video, codec</source>
-        <translation>视频, 编解码器</translation>
+        <translation>视频, 编解码器, codec</translation>
     </message>
     <message>
         <source>energy, battery</source>
-        <translation>能源, 电池</translation>
+        <translation>能源, 节能, 电池</translation>
     </message>
     <message>
         <source>internet, online</source>
-        <translation>互联网, 在线</translation>
+        <translation>互联网, 因特网, 在线, 上网</translation>
     </message>
     <message>
         <source>safety, protection</source>
-        <translation>安全, 保护</translation>
+        <translation>安全, 防护, 保护</translation>
     </message>
     <message>
         <source>computer name, host name, hostname</source>
-        <translation>电脑名称, 主机名, hostname</translation>
+        <translation>电脑名称, 计算机名, 主机名, hostname</translation>
     </message>
     <message>
         <source>model</source>
-        <translation>型号, 机型</translation>
+        <translation>型号</translation>
     </message>
     <message>
         <source>os, system version, macos, linux, build</source>
-        <translation>os, 系统版本, macos, linux, 版本号</translation>
+        <translation>os, 系统版本, 版本, macos, linux, build, 版号</translation>
     </message>
     <message>
         <source>64 bit, arm, x86, rosetta</source>
-        <translation>64 位, arm, x86, rosetta</translation>
+        <translation>64 位, 64 bit, arm, x86, rosetta</translation>
     </message>
     <message>
         <source>running since, restart</source>
-        <translation>运行时间, 重新启动</translation>
+        <translation>开机时间, 开机时长, 重新启动, 重启</translation>
     </message>
     <message>
         <source>temperature, heat, throttling, fan</source>
-        <translation>温度, 发热, 降频, 风扇</translation>
+        <translation>温度, 发热, 散热, 降频, 风扇</translation>
     </message>
     <message>
         <source>vm, hypervisor</source>
-        <translation>vm, 虚拟机管理程序</translation>
+        <translation>vm, 虚拟机监控程序, hypervisor</translation>
     </message>
     <message>
         <source>cpu, chip, soc</source>
@@ -1830,19 +1830,19 @@
     </message>
     <message>
         <source>cpu cores</source>
-        <translation>cpu 核心</translation>
+        <translation>cpu 核心, 内核</translation>
     </message>
     <message>
         <source>cpu cores, threads, hyper-threading</source>
-        <translation>cpu 核心, 线程, hyper-threading</translation>
+        <translation>cpu 核心, 内核, 线程, 超线程</translation>
     </message>
     <message>
         <source>clock speed, ghz, mhz</source>
-        <translation>时钟速度, 主频, ghz, mhz</translation>
+        <translation>时钟频率, 主频, ghz, mhz</translation>
     </message>
     <message>
         <source>ram, main memory</source>
-        <translation>ram, 主内存</translation>
+        <translation>ram, 主内存, 运行内存</translation>
     </message>
     <message>
         <source>vram, video memory</source>
@@ -1854,11 +1854,11 @@
     </message>
     <message>
         <source>ane, npu, ai</source>
-        <translation>ane, npu, ai</translation>
+        <translation>ane, npu, ai, 神经网络引擎</translation>
     </message>
     <message>
         <source>vrr, adaptive sync, refresh rate</source>
-        <translation>vrr, adaptive sync, 刷新率</translation>
+        <translation>vrr, adaptive sync, 刷新率, 自适应同步</translation>
     </message>
     <message>
         <source>hdr, edr, brightness</source>
@@ -1874,7 +1874,7 @@
     </message>
     <message>
         <source>retina, hidpi</source>
-        <translation>retina, hidpi, 视网膜</translation>
+        <translation>视网膜, retina, hidpi</translation>
     </message>
     <message>
         <source>avc, h264, video decoding</source>
@@ -1882,7 +1882,7 @@
     </message>
     <message>
         <source>avc, h264, video encoding</source>
-        <translation>avc, h264, 视频编码</translation>
+        <translation>avc, h264, 视频编码, 录制</translation>
     </message>
     <message>
         <source>h.265, h265, video decoding</source>
@@ -1890,7 +1890,7 @@
     </message>
     <message>
         <source>h.265, h265, video encoding</source>
-        <translation>h.265, h265, 视频编码</translation>
+        <translation>h.265, h265, 视频编码, 录制</translation>
     </message>
     <message>
         <source>heif, photos, pictures</source>
@@ -1898,23 +1898,23 @@
     </message>
     <message>
         <source>webcam, facetime</source>
-        <translation>网络摄像头, webcam, facetime</translation>
+        <translation>相机, 网络摄像头, facetime</translation>
     </message>
     <message>
         <source>loudspeakers, sound, audio</source>
-        <translation>扬声器, 声音, 音频</translation>
+        <translation>喇叭, 音箱, 声音, 音频</translation>
     </message>
     <message>
         <source>mic, sound, audio</source>
-        <translation>麦克风, 声音, 音频</translation>
+        <translation>话筒, mic, 声音, 音频</translation>
     </message>
     <message>
         <source>mic, permission, privacy</source>
-        <translation>麦克风, 权限, 隐私</translation>
+        <translation>话筒, mic, 权限, 隐私</translation>
     </message>
     <message>
         <source>webcam, permission, privacy</source>
-        <translation>网络摄像头, webcam, 权限, 隐私</translation>
+        <translation>相机, 网络摄像头, 权限, 隐私</translation>
     </message>
     <message>
         <source>audio, speakers, headphones</source>
@@ -1926,11 +1926,11 @@
     </message>
     <message>
         <source>audio</source>
-        <translation>音频, 声音</translation>
+        <translation>音频</translation>
     </message>
     <message>
         <source>sample rate, hi-res</source>
-        <translation>采样率, 高解析度</translation>
+        <translation>采样率, 高清音频, hi-res</translation>
     </message>
     <message>
         <source>disk space, disk size</source>
@@ -1938,11 +1938,11 @@
     </message>
     <message>
         <source>free space, disk space, full</source>
-        <translation>可用空间, 磁盘空间, 已满</translation>
+        <translation>剩余空间, 磁盘空间, 已满</translation>
     </message>
     <message>
         <source>ssd, nvme, drive, hard disk, hdd</source>
-        <translation>ssd, nvme, 驱动器, 硬盘, hdd</translation>
+        <translation>ssd, nvme, 驱动器, 硬盘, 固态硬盘, hdd</translation>
     </message>
     <message>
         <source>partition, drive</source>
@@ -1950,11 +1950,11 @@
     </message>
     <message>
         <source>plugged in, mains</source>
-        <translation>已插电, 市电</translation>
+        <translation>插电, 接通电源, 市电</translation>
     </message>
     <message>
         <source>charger, power supply, watt</source>
-        <translation>充电器, 电源, 瓦</translation>
+        <translation>充电器, 电源, 瓦, 瓦数</translation>
     </message>
     <message>
         <source>maximum capacity, wear, ageing</source>
@@ -1962,7 +1962,7 @@
     </message>
     <message>
         <source>battery life, runtime</source>
-        <translation>电池续航</translation>
+        <translation>续航, 使用时间</translation>
     </message>
     <message>
         <source>energy saver, power saving</source>
@@ -1970,11 +1970,11 @@
     </message>
     <message>
         <source>wlan, wireless, wifi</source>
-        <translation>wlan, 无线, wifi, 无线局域网</translation>
+        <translation>wlan, 无线, wifi</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, reception</source>
-        <translation>wlan, 无线, wifi, 信号</translation>
+        <translation>wlan, 无线, wifi, 信号, 接收</translation>
     </message>
     <message>
         <source>wlan, wireless, wifi, speed</source>
@@ -1982,23 +1982,23 @@
     </message>
     <message>
         <source>wifi, wlan, ethernet, lan</source>
-        <translation>wifi, wlan, ethernet, lan, 以太网</translation>
+        <translation>wifi, wlan, 以太网, ethernet, 局域网, lan</translation>
     </message>
     <message>
         <source>ip address</source>
-        <translation>ip 地址</translation>
+        <translation>ip 地址, ip地址</translation>
     </message>
     <message>
         <source>luks, encrypted</source>
-        <translation>luks, 已加密</translation>
+        <translation>luks, 加密, 已加密</translation>
     </message>
     <message>
         <source>encryption, encrypted, disk encryption</source>
-        <translation>加密, 磁盘加密</translation>
+        <translation>加密, 已加密, 磁盘加密</translation>
     </message>
     <message>
         <source>fingerprint, biometrics</source>
-        <translation>指纹, 生物识别</translation>
+        <translation>指纹, 触控 id, 生物识别</translation>
     </message>
     <message>
         <source>sip, rootless</source>
@@ -2006,23 +2006,23 @@
     </message>
     <message>
         <source>t2, security chip</source>
-        <translation>t2, 安全芯片</translation>
+        <translation>t2, 安全芯片, 安全隔区</translation>
     </message>
     <message>
         <source>uefi, start-up security</source>
-        <translation>uefi, 启动安全, secure boot</translation>
+        <translation>uefi, 启动安全性, 安全启动, secure boot</translation>
     </message>
     <message>
         <source>virus, malware, antivirus</source>
-        <translation>病毒, 恶意软件, 杀毒</translation>
+        <translation>病毒, 恶意软件, 杀毒软件, 防病毒</translation>
     </message>
     <message>
         <source>malware, notarization, app signing</source>
-        <translation>恶意软件, 公证, app 签名</translation>
+        <translation>恶意软件, 公证, app 签名, 应用签名</translation>
     </message>
     <message>
         <source>spectre, meltdown</source>
-        <translation>spectre, meltdown</translation>
+        <translation>spectre, meltdown, 幽灵, 熔断</translation>
     </message>
 </context>
 <context>
@@ -2130,7 +2130,7 @@
     </message>
     <message>
         <source>Quillmark has sent no request.</source>
-        <translation>Quillmark 未发送任何请求。</translation>
+        <translation>Quillmark 未发送过任何请求。</translation>
     </message>
     <message>
         <source>Date</source>
@@ -2272,11 +2272,11 @@
     <message>
         <source>%1 could not be reached: %2</source>
         <extracomment>%1 is a server, as in all of these: tarnwick.com; %2 is the reason, in English: Connection refused</extracomment>
-        <translation>无法连接 %1：%2</translation>
+        <translation>无法连接到 %1：%2</translation>
     </message>
     <message>
         <source>%1 could not prove that it is %1: %2</source>
-        <translation>%1 无法证明自己是 %1：%2</translation>
+        <translation>%1 无法证明自己就是 %1：%2</translation>
     </message>
     <message>
         <source>%1 did not answer in time.</source>
@@ -2284,49 +2284,49 @@
     </message>
     <message>
         <source>What %1 answered is longer than a feed may be.</source>
-        <translation>%1 的响应超过了源的长度上限。</translation>
+        <translation>%1 的响应超出了更新源允许的长度。</translation>
     </message>
     <message>
         <source>%1 leads to another address, which was not followed: %2</source>
         <extracomment>%2 is the address</extracomment>
-        <translation>%1 指向另一个地址，未跟随：%2</translation>
+        <translation>%1 指向另一个地址，未予访问：%2</translation>
     </message>
     <message>
         <source>%1 answered with status %2 instead of a feed.</source>
-        <translation>%1 返回了状态 %2，而不是源。</translation>
+        <translation>%1 返回了状态 %2，而不是更新源。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it declares a document type.</source>
-        <translation>%1 的响应不是源：它声明了文档类型。</translation>
+        <translation>%1 的响应不是更新源：它声明了文档类型。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is another kind of XML.</source>
-        <translation>%1 的响应不是源：它是另一种 XML。</translation>
+        <translation>%1 的响应不是更新源：它是另一种 XML。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: there is more in it than in any.</source>
-        <translation>%1 的响应不是源：内容过多。</translation>
+        <translation>%1 的响应不是更新源：它的内容多于任何更新源。</translation>
     </message>
     <message>
         <source>May Quillmark ask %1 for newer versions: now, and once a day at most when its window opens?</source>
-        <translation>是否允许 Quillmark 向 %1 询问新版本：现在，以及打开窗口时每天最多一次？</translation>
+        <translation>允许 Quillmark 现在以及此后打开窗口时（每天最多一次）向 %1 查询新版本吗？</translation>
     </message>
     <message>
         <source>The request carries Quillmark’s version and nothing about you or this computer. Nothing is installed.</source>
-        <translation>请求仅包含 Quillmark 的版本，不含任何关于你或这台电脑的信息。不会安装任何内容。</translation>
+        <translation>请求仅包含 Quillmark 的版本，不包含有关你或这台电脑的任何信息。不会安装任何内容。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, which you chose to skip. You have version %2.</source>
         <extracomment>%1 and %2 are versions, as in all of these: 1.2</extracomment>
-        <translation>Quillmark %1 可用，但你已选择跳过。当前版本为 %2。</translation>
+        <translation>Quillmark %1 可用，但你已选择跳过此版本。你的版本是 %2。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update. You have version %2.</source>
-        <translation>Quillmark %1 可用，这是一项重要更新。当前版本为 %2。</translation>
+        <translation>Quillmark %1 可用，这是重要更新。你的版本是 %2。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available. You have version %2.</source>
-        <translation>Quillmark %1 可用。当前版本为 %2。</translation>
+        <translation>Quillmark %1 可用。你的版本是 %2。</translation>
     </message>
     <message>
         <source>Quillmark %1 is up to date.</source>
@@ -2334,23 +2334,23 @@
     </message>
     <message>
         <source>Quillmark could not find out whether there is a newer version.</source>
-        <translation>无法确定是否有新版本的 Quillmark。</translation>
+        <translation>Quillmark 未能查明是否有新版本。</translation>
     </message>
     <message>
         <source>%1 was not asked, because you have not agreed to that.</source>
-        <translation>未询问 %1，因为你尚未同意。</translation>
+        <translation>未查询 %1，因为你尚未同意。</translation>
     </message>
     <message>
         <source>The address of the update feed is not one of https: %1</source>
-        <translation>更新源的地址不是 https：%1</translation>
+        <translation>更新源的地址不是 https 地址：%1</translation>
     </message>
     <message>
         <source>%1 was not asked, because the record of requests cannot be written.</source>
-        <translation>未询问 %1，因为无法写入请求记录。</translation>
+        <translation>未查询 %1，因为无法写入请求记录。</translation>
     </message>
     <message>
         <source>What %1 answered is not a feed: it is no XML, or a part of one.</source>
-        <translation>%1 的响应不是源：不是 XML，或只是其中一部分。</translation>
+        <translation>%1 的响应不是更新源：它不是 XML，或者只是 XML 的一部分。</translation>
     </message>
 </context>
 <context>
@@ -2367,14 +2367,14 @@
         <source>Tells you what your Mac can really do.
 Everything it reads stays on this Mac.</source>
         <extracomment>Two sentences, each in a line of its own</extracomment>
-        <translation>告诉你这台 Mac 的真正能力。
-读取的所有内容都留在这台 Mac 上。</translation>
+        <translation>了解你的 Mac 究竟能做什么。
+读取的所有内容都保留在这台 Mac 上。</translation>
     </message>
     <message>
         <source>Tells you what your computer can really do.
 Everything it reads stays on this computer.</source>
-        <translation>告诉你这台电脑的真正能力。
-读取的所有内容都留在这台电脑上。</translation>
+        <translation>了解你的电脑究竟能做什么。
+读取的所有内容都保留在这台电脑上。</translation>
     </message>
     <message>
         <source>Licences</source>
@@ -2425,7 +2425,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Inspect Again</source>
-        <translation>再次检查</translation>
+        <translation>重新检查</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -2461,7 +2461,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Scan History</source>
-        <translation>扫描历史</translation>
+        <translation>扫描历史记录</translation>
     </message>
     <message>
         <source>Battery Health</source>
@@ -2473,11 +2473,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Previous Section</source>
-        <translation>上一部分</translation>
+        <translation>上一类别</translation>
     </message>
     <message>
         <source>Next Section</source>
-        <translation>下一部分</translation>
+        <translation>下一类别</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -2524,7 +2524,7 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::BatteryPanel</name>
     <message>
         <source>of design capacity</source>
-        <translation>设计容量</translation>
+        <translation>占设计容量</translation>
     </message>
     <message>
         <source>Present capacity</source>
@@ -2571,7 +2571,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>One cycle is one full discharge, even when it is spread over several days.</source>
-        <translation>一次循环是一次完整的放电，即使分散在数天内。</translation>
+        <translation>一次循环指一次完整的放电，即使分散在数天之内。</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -2579,11 +2579,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Heat ages a battery faster than use does. Keep it out of the sun.</source>
-        <translation>高温比使用更容易使电池老化。请避免日晒。</translation>
+        <translation>高温比使用更容易使电池老化。请避免阳光直射。</translation>
     </message>
     <message>
         <source>Read today at %1. Figures come from the battery’s own controller and can differ slightly between readings.</source>
-        <translation>读取于今天 %1。数值来自电池自身的控制器，每次读取可能略有不同。</translation>
+        <translation>读取于今天 %1。数值来自电池自身的控制器，各次读取之间可能略有差异。</translation>
     </message>
 </context>
 <context>
@@ -2630,12 +2630,12 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1, %2</source>
         <extracomment>A value and its status, for screen readers: &quot;Turned off, Warning&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%1，%2</translation>
     </message>
     <message>
         <source>Changed: %1, from %2, to %3</source>
         <extracomment>For screen readers: &quot;Changed: Metal 4, from Requires macOS 26, Not supported, to Supported&quot;</extracomment>
-        <translation>已更改：%1，从 %2 到 %3</translation>
+        <translation>已更改：%1，从 %2 更改为 %3</translation>
     </message>
     <message>
         <source>Added: %1, %2</source>
@@ -2684,23 +2684,23 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>All changes</source>
-        <translation>所有更改</translation>
+        <translation>全部更改</translation>
     </message>
 </context>
 <context>
     <name>quillmark::app::Dialogs</name>
     <message>
         <source>Clear the scan history?</source>
-        <translation>要清除扫描历史吗？</translation>
+        <translation>要清除扫描历史记录吗？</translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation>清除历史</translation>
+        <translation>清除历史记录</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>全部 %n 次已存储的扫描都将被移除。此操作无法撤销。</numerusform>
+            <numerusform>将移除全部 %n 次已存储的扫描。此操作无法撤销。</numerusform>
         </translation>
     </message>
 </context>
@@ -2724,7 +2724,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Leave out names and addresses</source>
-        <translation>略去名称和地址</translation>
+        <translation>省略名称和地址</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -2755,31 +2755,31 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>See what this Mac can really do</source>
-        <translation>看看这台 Mac 的真正能力</translation>
+        <translation>看看这台 Mac 究竟能做什么</translation>
     </message>
     <message>
         <source>See what this computer can really do</source>
-        <translation>看看这台电脑的真正能力</translation>
+        <translation>看看这台电脑究竟能做什么</translation>
     </message>
     <message>
         <source>Every capability of your hardware and system, with a clear status.</source>
-        <translation>你的硬件和系统的每一项能力，状态一目了然。</translation>
+        <translation>硬件和系统的每一项能力，状态一目了然。</translation>
     </message>
     <message>
         <source>Eleven sections, one score</source>
-        <translation>十一个部分，一个评分</translation>
+        <translation>十一个类别，一个评分</translation>
     </message>
     <message>
         <source>From processor and graphics to codecs, displays and security.</source>
-        <translation>从处理器和图形到编解码器、显示器和安全性。</translation>
+        <translation>从处理器和图形，到编解码器、显示器和安全性。</translation>
     </message>
     <message>
         <source>Every change is saved</source>
-        <translation>每项变化都会存储</translation>
+        <translation>每次更改都会存储</translation>
     </message>
     <message>
         <source>Compare any two scans and see what an update changed.</source>
-        <translation>比较任意两次扫描，看看更新带来了什么变化。</translation>
+        <translation>比较任意两次扫描，看看更新改变了什么。</translation>
     </message>
     <message>
         <source>Your data stays here</source>
@@ -2787,11 +2787,11 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Nothing about this Mac is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>不会发送任何关于这台 Mac 的信息。Quillmark 仅在查找自身更新时联网。</translation>
+        <translation>有关这台 Mac 的任何信息都不会发送出去。Quillmark 仅在查找自身更新时联网。</translation>
     </message>
     <message>
         <source>Nothing about this computer is sent anywhere. Quillmark goes online only to look for its own updates.</source>
-        <translation>不会发送任何关于这台电脑的信息。Quillmark 仅在查找自身更新时联网。</translation>
+        <translation>有关这台电脑的任何信息都不会发送出去。Quillmark 仅在查找自身更新时联网。</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
@@ -2800,7 +2800,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Asks %1 once a day at most, and tells it Quillmark’s version only.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation>每天最多询问 %1 一次，且只告知 Quillmark 的版本。</translation>
+        <translation>每天最多向 %1 查询一次，并且仅告知 Quillmark 的版本。</translation>
     </message>
     <message>
         <source>Show the live monitor in the menu bar</source>
@@ -2808,7 +2808,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>在状态区域中显示实时监视</translation>
+        <translation>在系统托盘中显示实时监视</translation>
     </message>
     <message>
         <source>Get started</source>
@@ -2819,11 +2819,11 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::GeneralPane</name>
     <message>
         <source>When Quillmark opens:</source>
-        <translation>打开 Quillmark 时：</translation>
+        <translation>Quillmark 打开时：</translation>
     </message>
     <message>
         <source>Scan history:</source>
-        <translation>扫描历史：</translation>
+        <translation>扫描历史记录：</translation>
     </message>
     <message>
         <source>Privacy:</source>
@@ -2835,23 +2835,23 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Show the screen I used last</source>
-        <translation>显示上次使用的屏幕</translation>
+        <translation>显示上次使用的界面</translation>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation>清除历史…</translation>
+        <translation>清除历史记录…</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this Mac.</source>
-        <translation>Quillmark 读取的所有内容都留在这台 Mac 上。</translation>
+        <translation>Quillmark 读取的所有内容都保留在这台 Mac 上。</translation>
     </message>
     <message>
         <source>Everything Quillmark reads stays on this computer.</source>
-        <translation>Quillmark 读取的所有内容都留在这台电脑上。</translation>
+        <translation>Quillmark 读取的所有内容都保留在这台电脑上。</translation>
     </message>
     <message>
         <source>The only connection it makes is the check for updates.</source>
-        <translation>它建立的唯一连接是检查更新。</translation>
+        <translation>它仅在检查更新时建立连接。</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved, %1 at most</source>
@@ -2881,7 +2881,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Inspect again</source>
-        <translation>再次检查</translation>
+        <translation>重新检查</translation>
     </message>
     <message>
         <source>Copy as text</source>
@@ -2898,7 +2898,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>Menu (F10)</source>
         <extracomment>Tool tip of the button that opens the menus, with its key</extracomment>
-        <translation>菜单（F10）</translation>
+        <translation>菜单 (F10)</translation>
     </message>
 </context>
 <context>
@@ -2914,7 +2914,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Capability score %1</source>
-        <translation>能力评分 %1</translation>
+        <translation>能力评分：%1</translation>
     </message>
     <message>
         <source>%1 memory</source>
@@ -2940,14 +2940,14 @@ Everything it reads stays on this computer.</source>
         <source>%1 of %n capabilities</source>
         <extracomment>%1 is how many of them are supported: &quot;35 of 41 capabilities&quot;</extracomment>
         <translation>
-            <numerusform>%n 项能力中的 %1 项</numerusform>
+            <numerusform>%1/%n 项能力</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 percent, %2 of %n capabilities supported</source>
         <extracomment>For screen readers: &quot;85 percent, 35 of 41 capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>百分之 %1，支持 %n 项能力中的 %2 项</numerusform>
+            <numerusform>%1%，支持 %n 项能力中的 %2 项</numerusform>
         </translation>
     </message>
     <message>
@@ -2960,7 +2960,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>This is taking longer than usual</source>
-        <translation>用时比平常更长</translation>
+        <translation>用时比平常长</translation>
     </message>
     <message>
         <source>Reading hardware and system settings</source>
@@ -2990,16 +2990,16 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Other Mac</source>
-        <translation>另一台 Mac</translation>
+        <translation>其他 Mac</translation>
     </message>
     <message>
         <source>Other computer</source>
-        <translation>另一台电脑</translation>
+        <translation>其他电脑</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Two items of a list: &quot;3 changed, 1 added&quot;</extracomment>
-        <translation>%1 %2</translation>
+        <translation>%1，%2</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4, %5, %6</source>
@@ -3033,23 +3033,23 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>扫描历史</translation>
+        <translation>扫描历史记录</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this Mac.</source>
-        <translation>每当有变化时都会存储一次扫描。最新的 200 次保留在这台 Mac 上。</translation>
+        <translation>每当有内容发生更改时，都会存储一次扫描。最新的 200 次保留在这台 Mac 上。</translation>
     </message>
     <message>
         <source>A scan is saved whenever something has changed. The newest 200 are kept on this computer.</source>
-        <translation>每当有变化时都会存储一次扫描。最新的 200 次保留在这台电脑上。</translation>
+        <translation>每当有内容发生更改时，都会存储一次扫描。最新的 200 次保留在这台电脑上。</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this Mac to save the first one.</source>
-        <translation>每当检查发现新内容时，Quillmark 都会存储一次扫描。检查这台 Mac 以存储第一次扫描。</translation>
+        <translation>每当检查发现新内容时，Quillmark 都会存储一次扫描。检查这台 Mac 即可存储首次扫描。</translation>
     </message>
     <message>
         <source>Quillmark saves a scan each time an inspection finds something new. Inspect this computer to save the first one.</source>
-        <translation>每当检查发现新内容时，Quillmark 都会存储一次扫描。检查这台电脑以存储第一次扫描。</translation>
+        <translation>每当检查发现新内容时，Quillmark 都会存储一次扫描。检查这台电脑即可存储首次扫描。</translation>
     </message>
     <message>
         <source>Inspect now</source>
@@ -3061,7 +3061,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Clear selection</source>
-        <translation>清除选择</translation>
+        <translation>取消选择</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -3069,7 +3069,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Clear history…</source>
-        <translation>清除历史…</translation>
+        <translation>清除历史记录…</translation>
     </message>
     <message numerus="yes">
         <source>%n scans saved</source>
@@ -3079,7 +3079,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>1 scan selected · choose one more</source>
-        <translation>已选择 1 次扫描 · 请再选一次</translation>
+        <translation>已选择 1 次扫描 · 请再选择一次</translation>
     </message>
     <message>
         <source>2 scans selected</source>
@@ -3088,7 +3088,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation>%1和%2</translation>
+        <translation>%1 和 %2</translation>
     </message>
     <message>
         <source>Delete this scan?</source>
@@ -3096,7 +3096,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The scan of %1 will be removed from the history.</source>
-        <translation>%1的扫描将从历史中移除。</translation>
+        <translation>将从历史记录中移除 %1 的扫描。</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3104,25 +3104,25 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Clear the scan history?</source>
-        <translation>要清除扫描历史吗？</translation>
+        <translation>要清除扫描历史记录吗？</translation>
     </message>
     <message numerus="yes">
         <source>All %n saved scans will be removed. This can’t be undone.</source>
         <translation>
-            <numerusform>全部 %n 次已存储的扫描都将被移除。此操作无法撤销。</numerusform>
+            <numerusform>将移除全部 %n 次已存储的扫描。此操作无法撤销。</numerusform>
         </translation>
     </message>
     <message>
         <source>Clear history</source>
-        <translation>清除历史</translation>
+        <translation>清除历史记录</translation>
     </message>
     <message>
         <source>The scan history couldn’t be saved.</source>
-        <translation>无法存储扫描历史。</translation>
+        <translation>未能存储扫描历史记录。</translation>
     </message>
     <message>
         <source>Another copy of Quillmark is using it. Scans made here are kept until it ends.</source>
-        <translation>另一个 Quillmark 正在使用它。此处进行的扫描会保留到它退出为止。</translation>
+        <translation>另一个 Quillmark 正在使用历史记录。在它退出前，此处的扫描会保留在这里。</translation>
     </message>
 </context>
 <context>
@@ -3130,7 +3130,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>%1 (%2)</source>
         <extracomment>Tool tip of a button: its name and its shortcut, &quot;Inspect again (Ctrl+R)&quot;</extracomment>
-        <translation>%1（%2）</translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -3149,14 +3149,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The new language is used at once. Scans saved in another language can still be compared.</source>
-        <translation>新语言会立即使用。以其他语言存储的扫描仍可比较。</translation>
-    </message>
-</context>
-<context>
-    <name>quillmark::app::LicencesDialog</name>
-    <message>
-        <source>Licences</source>
-        <translation>许可证</translation>
+        <translation>新语言会立即生效。以其他语言存储的扫描仍可进行比较。</translation>
     </message>
 </context>
 <context>
@@ -3197,7 +3190,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Every second</source>
-        <translation>每秒</translation>
+        <translation>每秒更新</translation>
     </message>
     <message>
         <source>Collecting samples…</source>
@@ -3232,23 +3225,23 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Quillmark stays in the menu bar until you quit it</source>
-        <translation>Quillmark 会留在菜单栏中，直到你将其退出</translation>
+        <translation>退出前，Quillmark 会一直留在菜单栏中</translation>
     </message>
     <message>
         <source>Status area:</source>
-        <translation>状态区域：</translation>
+        <translation>系统托盘：</translation>
     </message>
     <message>
         <source>Show the live monitor in the status area</source>
-        <translation>在状态区域中显示实时监视</translation>
+        <translation>在系统托盘中显示实时监视</translation>
     </message>
     <message>
         <source>Quillmark stays in the status area until you quit it</source>
-        <translation>Quillmark 会留在状态区域中，直到你将其退出</translation>
+        <translation>退出前，Quillmark 会一直留在系统托盘中</translation>
     </message>
     <message>
         <source>This desktop has no status area.</source>
-        <translation>此桌面没有状态区域。</translation>
+        <translation>此桌面环境没有系统托盘。</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -3283,7 +3276,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>The first reading arrives in about a second.</source>
-        <translation>第一个读数将在约一秒后显示。</translation>
+        <translation>首个读数约一秒后到达。</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -3326,7 +3319,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>of %1</source>
         <extracomment>after the memory in use: &quot;29.4 GB of 48 GB&quot;</extracomment>
-        <translation>共 %1</translation>
+        <translation>/ %1</translation>
     </message>
     <message>
         <source>Used</source>
@@ -3350,7 +3343,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Not charging</source>
-        <translation>未充电</translation>
+        <translation>未在充电</translation>
     </message>
 </context>
 <context>
@@ -3372,30 +3365,30 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Later scans are compared with it</source>
-        <translation>之后的扫描会与它比较</translation>
+        <translation>之后的扫描将与其比较</translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
         <translation>
-            <numerusform>%n 项已更改</numerusform>
+            <numerusform>%n 项更改</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n added</source>
         <translation>
-            <numerusform>%n 项已添加</numerusform>
+            <numerusform>%n 项添加</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n removed</source>
         <translation>
-            <numerusform>%n 项已移除</numerusform>
+            <numerusform>%n 项移除</numerusform>
         </translation>
     </message>
     <message>
         <source>Since %1</source>
         <extracomment>%1 is a day, or the time of a scan of today</extracomment>
-        <translation>自%1</translation>
+        <translation>自 %1 以来</translation>
     </message>
     <message>
         <source>No differences</source>
@@ -3414,7 +3407,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Report saved.</source>
-        <translation>已存储报告。</translation>
+        <translation>报告已存储。</translation>
     </message>
     <message>
         <source>Choose another place…</source>
@@ -3425,26 +3418,26 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::ResultsPage</name>
     <message>
         <source>Results for “%1”</source>
-        <translation>“%1”的结果</translation>
+        <translation>“%1”的搜索结果</translation>
     </message>
     <message numerus="yes">
         <source>%n sections</source>
         <extracomment>Stands in &quot;9 rows in 2 sections&quot;</extracomment>
         <translation>
-            <numerusform>%n 个部分</numerusform>
+            <numerusform>%n 个类别</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n rows in %1</source>
         <extracomment>%1 is &quot;2 sections&quot;</extracomment>
         <translation>
-            <numerusform>%1中有 %n 行</numerusform>
+            <numerusform>%1中的 %n 行</numerusform>
         </translation>
     </message>
     <message>
         <source>Filtered by %1</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>过滤：%1</translation>
+        <translation>过滤条件：%1</translation>
     </message>
     <message>
         <source>No rows match</source>
@@ -3456,12 +3449,12 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>No row that contains “%1” has the status %2.</source>
-        <translation>包含“%1”的行中没有状态为“%2”的行。</translation>
+        <translation>包含“%1”的行中，没有状态为“%2”的行。</translation>
     </message>
     <message numerus="yes">
         <source>%n rows match with other statuses.</source>
         <translation>
-            <numerusform>有 %n 行以其他状态匹配。</numerusform>
+            <numerusform>其他状态中有 %n 个匹配的行。</numerusform>
         </translation>
     </message>
     <message>
@@ -3478,7 +3471,7 @@ Everything it reads stays on this computer.</source>
     <message>
         <source>No row here has the status %1.</source>
         <extracomment>%1 is a status: &quot;Warning&quot;</extracomment>
-        <translation>这里没有状态为“%1”的行。</translation>
+        <translation>此处没有状态为“%1”的行。</translation>
     </message>
     <message>
         <source>Capabilities</source>
@@ -3533,13 +3526,13 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Nothing in this section is rated</source>
-        <translation>此部分没有已评定的项目</translation>
+        <translation>此类别中没有评定项</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n rated capabilities supported</source>
         <extracomment>%1 is how many of them are supported: &quot;4 of 5 rated capabilities supported&quot;</extracomment>
         <translation>
-            <numerusform>支持 %n 项已评定能力中的 %1 项</numerusform>
+            <numerusform>%n 项评定能力中支持 %1 项</numerusform>
         </translation>
     </message>
 </context>
@@ -3563,7 +3556,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Status area</source>
-        <translation>状态区域</translation>
+        <translation>系统托盘</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3607,7 +3600,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Scan history</source>
-        <translation>扫描历史</translation>
+        <translation>扫描历史记录</translation>
     </message>
     <message>
         <source>Battery health</source>
@@ -3633,27 +3626,54 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
+    <name>quillmark::app::TextDialog</name>
+    <message>
+        <source>Licences</source>
+        <translation type="unfinished">许可证</translation>
+    </message>
+    <message>
+        <source>What’s New</source>
+        <translation type="unfinished">新功能</translation>
+    </message>
+    <message>
+        <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillmark Help</source>
+        <translation type="unfinished">Quillmark 帮助</translation>
+    </message>
+</context>
+<context>
     <name>quillmark::app::UpdateNotices</name>
     <message>
         <source>May Quillmark ask %1 whether there is a newer version?</source>
         <extracomment>%1 is the name of a server %1 is the name of a server</extracomment>
-        <translation>是否允许 Quillmark 向 %1 询问是否有新版本？</translation>
+        <translation>允许 Quillmark 向 %1 查询是否有新版本吗？</translation>
     </message>
     <message>
         <source>Ask once a day</source>
-        <translation>每天询问一次</translation>
+        <translation>每天查询一次</translation>
     </message>
     <message>
         <source>Ask this once</source>
-        <translation>仅询问这一次</translation>
+        <translation>仅查询这一次</translation>
     </message>
     <message>
         <source>Couldn’t check for updates.</source>
-        <translation>无法检查更新。</translation>
+        <translation>未能检查更新。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available, an important update.</source>
-        <translation>Quillmark %1 可用，这是一项重要更新。</translation>
+        <translation>Quillmark %1 可用，这是重要更新。</translation>
     </message>
     <message>
         <source>Quillmark %1 is available.</source>
@@ -3661,7 +3681,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>You have version %1.</source>
-        <translation>当前版本为 %1。</translation>
+        <translation>你的版本是 %1。</translation>
     </message>
     <message>
         <source>What’s new</source>
@@ -3696,7 +3716,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Asks %1 once a day, when Quillmark starts</source>
-        <translation>Quillmark 启动时每天询问 %1 一次</translation>
+        <translation>Quillmark 启动时，每天向 %1 查询一次</translation>
     </message>
     <message>
         <source>Checking…</source>
