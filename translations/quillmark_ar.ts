@@ -3829,27 +3829,27 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">التراخيص</translation>
+        <translation>التراخيص</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">ما الجديد</translation>
+        <translation>ما الجديد</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>يمكن الوصول إلى كل شيء في النافذة بالمفاتيح: ينقل Tab من جزء إلى جزء، وتتحرك الأسهم داخل الجزء، وتختار المسافة وReturn، ويعود Esc.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>في سطر الأوامر</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>كل ما تعرضه النافذة يمكن طلبه من الأمر quillmark أيضًا: انظر quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">مساعدة Quillmark</translation>
+        <translation>مساعدة Quillmark</translation>
     </message>
 </context>
 <context>

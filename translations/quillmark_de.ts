@@ -3669,27 +3669,27 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">Lizenzen</translation>
+        <translation>Lizenzen</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">Neue Funktionen</translation>
+        <translation>Neue Funktionen</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles im Fenster ist mit Tasten erreichbar: Tab führt von Teil zu Teil, die Pfeiltasten bewegen sich innerhalb, Leertaste und Eingabetaste wählen aus, Esc führt zurück.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf der Befehlszeile</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was das Fenster zeigt, lässt sich auch vom Befehl quillmark erfragen: siehe quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Quillmark-Hilfe</translation>
+        <translation>Quillmark-Hilfe</translation>
     </message>
 </context>
 <context>

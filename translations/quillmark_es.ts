@@ -3669,27 +3669,27 @@ Todo lo que lee se queda en este ordenador.</translation>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">Licencias</translation>
+        <translation>Licencias</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">Novedades</translation>
+        <translation>Novedades</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo en la ventana se alcanza con el teclado: Tab pasa de una parte a otra, las flechas se mueven dentro de ella, Espacio e Intro eligen y Esc vuelve atrás.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>En la línea de órdenes</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que muestra la ventana también se puede pedir a la orden quillmark: consulta quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Ayuda de Quillmark</translation>
+        <translation>Ayuda de Quillmark</translation>
     </message>
 </context>
 <context>

@@ -3669,27 +3669,27 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">Licences</translation>
+        <translation>Licences</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">Nouveautés</translation>
+        <translation>Nouveautés</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout dans la fenêtre est accessible au clavier : Tab passe d’une partie à l’autre, les flèches se déplacent à l’intérieur, Espace et Retour choisissent, Échap revient en arrière.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>En ligne de commande</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce que montre la fenêtre peut aussi être demandé à la commande quillmark : voir quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Aide Quillmark</translation>
+        <translation>Aide Quillmark</translation>
     </message>
 </context>
 <context>

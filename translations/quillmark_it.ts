@@ -3669,27 +3669,27 @@ Tutto ciò che legge resta su questo computer.</translation>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">Licenze</translation>
+        <translation>Licenze</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">Novità</translation>
+        <translation>Novità</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto nella finestra si raggiunge da tastiera: Tab passa da una parte all’altra, le frecce si muovono al suo interno, Spazio e Invio scelgono, Esc torna indietro.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalla riga di comando</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto ciò che mostra la finestra si può chiedere anche al comando quillmark: vedi quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Aiuto Quillmark</translation>
+        <translation>Aiuto Quillmark</translation>
     </message>
 </context>
 <context>

@@ -1322,7 +1322,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation type="unfinished">充電中</translation>
+        <translation>充電中</translation>
     </message>
 </context>
 <context>
@@ -3629,27 +3629,27 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">ライセンス</translation>
+        <translation>ライセンス</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">新機能</translation>
+        <translation>新機能</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>ウインドウのすべてにキーで移動できます。Tabで部分から部分へ、矢印キーでその中を移動し、スペースとReturnで選択し、Escで戻ります。</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドライン</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>ウインドウに表示されるものはすべてコマンドquillmarkでも確認できます。quillmark --helpを参照してください。</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Quillmarkヘルプ</translation>
+        <translation>Quillmarkヘルプ</translation>
     </message>
 </context>
 <context>

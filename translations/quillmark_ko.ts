@@ -1322,7 +1322,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation type="unfinished">충전 중</translation>
+        <translation>충전 중</translation>
     </message>
 </context>
 <context>
@@ -3629,27 +3629,27 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">라이선스</translation>
+        <translation>라이선스</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">새로운 기능</translation>
+        <translation>새로운 기능</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>창의 모든 항목을 키보드로 사용할 수 있습니다. Tab으로 부분 사이를, 화살표로 부분 안을 이동하고, 스페이스와 Return으로 선택하며, Esc로 돌아갑니다.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>명령어 라인</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>창에 표시되는 모든 것은 quillmark 명령어로도 확인할 수 있습니다. quillmark --help를 참고하십시오.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Quillmark 도움말</translation>
+        <translation>Quillmark 도움말</translation>
     </message>
 </context>
 <context>

@@ -3669,27 +3669,27 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">Licenties</translation>
+        <translation>Licenties</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">Wat is er nieuw</translation>
+        <translation>Wat is er nieuw</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles in het venster is met toetsen bereikbaar: Tab gaat van deel naar deel, de pijltoetsen bewegen binnen een deel, spatiebalk en Return kiezen en Esc gaat terug.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Op de opdrachtregel</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wat het venster toont, kan ook aan de opdracht quillmark worden gevraagd: zie quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Quillmark Help</translation>
+        <translation>Quillmark Help</translation>
     </message>
 </context>
 <context>

@@ -3709,27 +3709,27 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">Licencje</translation>
+        <translation>Licencje</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">Co nowego</translation>
+        <translation>Co nowego</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do wszystkiego w oknie można dotrzeć klawiszami: Tab przechodzi między częściami, strzałki poruszają się w ich obrębie, spacja i Return wybierają, a Esc wraca.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>W wierszu poleceń</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>O wszystko, co pokazuje okno, można też zapytać polecenie quillmark: zobacz quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Pomoc Quillmark</translation>
+        <translation>Pomoc Quillmark</translation>
     </message>
 </context>
 <context>

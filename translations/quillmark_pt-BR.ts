@@ -1327,7 +1327,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation type="unfinished">Carregando</translation>
+        <translation>Carregando</translation>
     </message>
 </context>
 <context>
@@ -3669,27 +3669,27 @@ Tudo o que é lido permanece neste computador.</translation>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">Licenças</translation>
+        <translation>Licenças</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">Novidades</translation>
+        <translation>Novidades</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tudo na janela pode ser alcançado pelo teclado: Tab passa de uma parte a outra, as setas se movem dentro dela, Espaço e Return escolhem e Esc volta.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Na linha de comando</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tudo o que a janela mostra também pode ser pedido ao comando quillmark: veja quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Ajuda do Quillmark</translation>
+        <translation>Ajuda do Quillmark</translation>
     </message>
 </context>
 <context>

@@ -1322,7 +1322,7 @@
     <message>
         <source>Charging</source>
         <comment>heading</comment>
-        <translation type="unfinished">正在充电</translation>
+        <translation>正在充电</translation>
     </message>
 </context>
 <context>
@@ -3629,27 +3629,27 @@ Everything it reads stays on this computer.</source>
     <name>quillmark::app::TextDialog</name>
     <message>
         <source>Licences</source>
-        <translation type="unfinished">许可证</translation>
+        <translation>许可证</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished">新功能</translation>
+        <translation>新功能</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>窗口中的一切都可用键盘操作：Tab 键在各部分之间移动，箭头键在部分内移动，空格键和回车键选择，Esc 键返回。</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>命令行</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>窗口显示的一切也可以通过 quillmark 命令查询：请参阅 quillmark --help。</translation>
     </message>
     <message>
         <source>Quillmark Help</source>
-        <translation type="unfinished">Quillmark 帮助</translation>
+        <translation>Quillmark 帮助</translation>
     </message>
 </context>
 <context>
