@@ -6,6 +6,7 @@
 #include "app/views/BatteryView.h"
 #include "support/AppStage.h"
 #include "support/ChangedMachine.h"
+#include "support/offscreen.h"
 
 #include <QLabel>
 #include <QSignalSpy>
@@ -79,6 +80,8 @@ class BatteryPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { support::failOnWarnings(); }
+
     void figures_data()
     {
         using battery::ChargeState;

@@ -18,6 +18,7 @@
 #include "app/widgets/TextLabel.h"
 #include "inspection/DeviceProbe.h"
 #include "support/AppStage.h"
+#include "support/offscreen.h"
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
@@ -89,6 +90,8 @@ class InspectionPagesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { support::failOnWarnings(); }
+
     void finds_data()
     {
         QTest::addColumn<QString>("search");

@@ -12,6 +12,7 @@
 #include "app/widgets/ChartView.h"
 #include "app/widgets/MonitorRowView.h"
 #include "support/AppStage.h"
+#include "support/offscreen.h"
 
 #include <QLabel>
 #include <QSet>
@@ -29,6 +30,8 @@ class MonitorTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { support::failOnWarnings(); }
+
     void countsWhoeverSees()
     {
         AppStage stage(recordingText(u"macbook-pro-m3-max"_s));

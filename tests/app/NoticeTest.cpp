@@ -4,6 +4,7 @@
 #include "app/views/ContentView.h"
 #include "app/widgets/NoticeBar.h"
 #include "support/AppStage.h"
+#include "support/offscreen.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -59,6 +60,8 @@ class NoticeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { support::failOnWarnings(); }
+
     void successLeavesByItselfAndOthersStay()
     {
         Window stage(20ms);

@@ -5,6 +5,7 @@
 #include "app/models/SidebarModel.h"
 #include "app/views/ContentView.h"
 #include "support/AppStage.h"
+#include "support/offscreen.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
@@ -23,6 +24,8 @@ class WindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { support::failOnWarnings(); }
+
     void opensEveryPlaceOfEveryMachine_data()
     {
         QTest::addColumn<QString>("recording");
