@@ -72,6 +72,8 @@ class ChartViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { quillmark::support::failOnWarnings(); }
+
     void movesOnAsIfItWereDrawnAnew_data()
     {
         QTest::addColumn<QSize>("plot");
@@ -246,3 +248,4 @@ private Q_SLOTS:
 
 QTEST_MAIN(ChartViewTest)
 #include "ChartViewTest.moc"
+#include "support/offscreen.h"
