@@ -7,6 +7,7 @@
 #include "app/widgets/ChartTrace.h"
 #include "app/widgets/CoreBars.h"
 #include "app/widgets/FigureLine.h"
+#include "support/offscreen.h"
 
 #include <QImage>
 #include <QTest>
@@ -248,4 +249,3 @@ private Q_SLOTS:
 
 QTEST_MAIN(ChartViewTest)
 #include "ChartViewTest.moc"
-#include "support/offscreen.h"
