@@ -13,6 +13,8 @@
 #include <CLI/Formatter.hpp>
 
 #include <algorithm>
+#include <cstdlib>
+#include <vector>
 
 namespace quillmark::cli {
 
@@ -120,6 +122,17 @@ void addCommonOptions(CLI::App &program, CommonOptions &options)
     program.add_flag("--no-color", options.noColor, "No colours, even on a terminal");
 }
 
+/// Where nothing was typed, the command that the environment names: a Mac's Finder can pass no arguments, but
+/// what Info.plist says goes into the environment.
+std::vector<const char *> typedWords(int argumentCount, const char *const *arguments)
+{
+    std::vector<const char *> words(arguments, arguments + argumentCount);
+    const char *command = std::getenv("QUILLMARK_COMMAND");
+    if (words.size() == 1 && command && *command)
+        words.push_back(command);
+    return words;
+}
+
 } // namespace
 
 int run(int argumentCount, const char *const *arguments, const Output &output,
@@ -148,7 +161,8 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     addApp(program, command);
 
     try {
-        program.parse(argumentCount, arguments);
+        const auto words = typedWords(argumentCount, arguments);
+        program.parse(static_cast<int>(words.size()), words.data());
     } catch (const CLI::Success &request) { // --help and --version
         program.exit(request, output.out, output.err);
         return Done;

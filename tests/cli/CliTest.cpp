@@ -358,6 +358,12 @@ void CliTest::environment()
     qputenv("QUILLMARK_MACHINE", "/no/such/file");
     QCOMPARE(runWith(u"inspect"_s).err, u"quillmark: /no/such/file: No such file or directory\n"_s);
     QCOMPARE(runWith(u"--version"_s).status, 0);
+
+    qunsetenv("QUILLMARK_MACHINE");
+    qputenv("QUILLMARK_COMMAND", "inspect");
+    QCOMPARE(name({}), u"Test Mac"_s);
+    QVERIFY(runWith(u"battery"_s).out != runWith({}).out); // what is typed comes first
+    qunsetenv("QUILLMARK_COMMAND");
 }
 
 void CliTest::terminal_data()
