@@ -135,7 +135,6 @@ void MenuBarMonitorView::openBelow(const QRect &item)
     move(std::clamp(left, room.left(), std::max(room.left(), room.right() - width())),
          std::clamp(top, room.top(), std::max(room.top(), room.bottom() - height())));
     show();
-    raise();
     activateWindow();
     m_open->setFocus(Qt::PopupFocusReason);
 }
