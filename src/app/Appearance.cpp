@@ -113,13 +113,15 @@ Appearance &Appearance::current()
 
 Appearance::Appearance()
     : QObject(qApp)
+    , m_isPaletteDark(app::isDark(QGuiApplication::palette()))
+    , m_desktop(DesktopChoices::ofSystem())
 {
     Q_ASSERT(qApp);
-    m_isDark = app::isDark(QGuiApplication::palette());
     if (!hasNativeControls())
         QApplication::setStyle(new Style);
-    followSystem();
+    update(isSystemDark());
     qApp->installEventFilter(this);
+    connect(m_desktop.get(), &DesktopChoices::changed, this, [this] { update(isSystemDark()); });
 }
 
 Appearance::~Appearance() = default;
@@ -152,7 +154,8 @@ void Appearance::paintIcon(QPainter &painter, const QRectF &place, const QString
 
 bool Appearance::isAnimated() const
 {
-    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    return !m_desktop->reducesMotion() &&
+           QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
 }
 
 void Appearance::setDark(bool dark)
@@ -164,16 +167,22 @@ bool Appearance::eventFilter(QObject *object, QEvent *event)
 {
     if (object == qApp && !m_isApplying) {
         if (event->type() == QEvent::ApplicationPaletteChange)
-            update(app::isDark(QGuiApplication::palette()));
+            followPalette();
         else if (event->type() == QEvent::ApplicationFontChange)
             update(m_isDark);
     }
     return QObject::eventFilter(object, event);
 }
 
-void Appearance::followSystem()
+void Appearance::followPalette()
 {
-    update(m_isDark);
+    m_isPaletteDark = app::isDark(QGuiApplication::palette());
+    update(isSystemDark());
+}
+
+bool Appearance::isSystemDark() const
+{
+    return m_desktop->prefersDark().value_or(m_isPaletteDark);
 }
 
 void Appearance::update(bool dark)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "app/DesktopChoices.h"
 #include "design/Icons.h"
 #include "design/Theme.h"
 
@@ -11,6 +12,8 @@
 #include <QObject>
 #include <QPixmap>
 #include <QString>
+
+#include <memory>
 
 class QPainter;
 class QRectF;
@@ -81,14 +84,17 @@ protected:
 
 private:
     Appearance();
-    void followSystem();
+    void followPalette();
+    bool isSystemDark() const;
     void update(bool dark);
     void applyPalette();
 
     bool m_isDark = false;
+    bool m_isPaletteDark;      ///< that of the system, without ours
     bool m_isApplying = false; ///< what we change ourselves comes back as an event
     qreal m_scale = 1;
     design::Icons m_icons;
+    std::unique_ptr<DesktopChoices> m_desktop;
 };
 
 } // namespace quillmark::app
