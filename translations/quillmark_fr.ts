@@ -3677,7 +3677,7 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation>Tout dans la fenêtre est accessible au clavier : Tab passe d’une partie à l’autre, les flèches se déplacent à l’intérieur, Espace et Retour choisissent, Échap revient en arrière.</translation>
+        <translation>Tout dans la fenêtre est accessible au clavier&#xa0;: Tab passe d’une partie à l’autre, les flèches se déplacent à l’intérieur, Espace et Retour choisissent, Échap revient en arrière.</translation>
     </message>
     <message>
         <source>On the command line</source>
@@ -3685,7 +3685,7 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation>Tout ce que montre la fenêtre peut aussi être demandé à la commande quillmark : voir quillmark --help.</translation>
+        <translation>Tout ce que montre la fenêtre peut aussi être demandé à la commande quillmark&#xa0;: voir quillmark --help.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>

@@ -211,6 +211,13 @@ void HistoryCommandTest::removeAndClear()
     QCOMPARE(historyJson(u"list"_s).array().size(), 1);
     QCOMPARE(history(u"clear --yes"_s, {.columns = 80, .ask = refuse}).status, 0);
     QCOMPARE(stored(), "[]");
+
+    const auto agree = [](const QString &) { return u"Tak "_s; };
+    for (const auto &[command, left] : {std::pair(u"clear"_s, 1), std::pair(u"clear --language pl"_s, 0)}) {
+        history(u"record"_s);
+        history(command, {.columns = 80, .ask = agree});
+        QCOMPARE(historyJson(u"list"_s).array().size(), left);
+    }
     QVERIFY(history(u"list"_s).out.startsWith(u"No saved scans yet"));
 }
 
