@@ -38,6 +38,7 @@ GeneralPane::GeneralPane(const AppContext &context, QWidget *parent)
     buttons->addWidget(m_show);
     buttons->addWidget(m_clear);
     buttons->addStretch();
+    history->addSpacing(5);
     history->addLayout(buttons);
 
     auto *privacy = addRow();

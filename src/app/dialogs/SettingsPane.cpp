@@ -52,7 +52,7 @@ QVBoxLayout *SettingsPane::addRow()
     label->setWordWrap(true);
     label->setAlignment(labelAlignment() | Qt::AlignTop);
     auto *column = new QVBoxLayout;
-    column->setSpacing(6);
+    column->setSpacing(3);
     const int row = static_cast<int>(m_rows.size());
     m_grid->addWidget(label, row, 0);
     m_grid->addLayout(column, row, 1, Qt::AlignTop);
@@ -90,8 +90,9 @@ void SettingsPane::alignLabels()
 {
     m_grid->setColumnMinimumWidth(0, Appearance::current().scaled(labelColumn));
     for (const auto &[label, column] : m_rows) {
-        const auto *first = column->itemAt(0);
-        const int above = (first->sizeHint().height() - label->fontMetrics().height()) / 2;
+        const auto *control = column->itemAt(0)->widget();
+        const bool isText = !control || qobject_cast<const QLabel *>(control);
+        const int above = isText ? 0 : (control->sizeHint().height() - label->fontMetrics().height()) / 2;
         label->setContentsMargins(0, std::max(0, above), 0, 0);
     }
 }
