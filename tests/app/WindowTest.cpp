@@ -4,11 +4,13 @@
 #include "app/models/Place.h"
 #include "app/models/SidebarModel.h"
 #include "app/views/ContentView.h"
+#include "app/widgets/NoticeBar.h"
 #include "support/AppStage.h"
 #include "support/offscreen.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
+#include <QDir>
 #include <QLineEdit>
 #include <QListView>
 #include <QSet>
@@ -143,6 +145,17 @@ private Q_SLOTS:
         QCOMPARE(window.currentPage(), section);
         QVERIFY(search->text().isEmpty());
         QVERIFY(window.findChild<QListView *>()->selectionModel()->hasSelection());
+    }
+
+    void tellsThatTheHistoryIsNotSaved()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        app::ContentView window(stage.context);
+        QVERIFY(QDir().mkpath(stage.history.file())); // where the file should be
+        QVERIFY(!window.notices().isShown());
+        stage.inspect();
+        QTRY_VERIFY(window.notices().isShown());
+        QCOMPARE(stage.history.snapshots().size(), 1);
     }
 
     void goesBackTheWayItCame()

@@ -94,6 +94,9 @@ ContentView::ContentView(const AppContext &context, QWidget *parent)
             m_searchPause->start();
     });
     connect(&m_context.inspection, &inspection::Quillmark::refreshed, this, &ContentView::inspectionDone);
+    // The history's page tells of it, and may not have been made yet.
+    connect(&m_context.history, &history::ScanHistory::saveFailed, this,
+            [this](const history::SaveError &error) { historyPage()->tellFailure(error); });
     // The rows are in the language that they were made in.
     connect(&m_context.language, &language::LanguageManager::languageChanged, this, [this] {
         if (m_context.inspection.lastUpdated())
@@ -200,6 +203,13 @@ Kind *ContentView::page(const std::function<void(Kind &)> &connectPage)
     return static_cast<Kind *>(slot);
 }
 
+HistoryView *ContentView::historyPage()
+{
+    return page<HistoryView>([this](HistoryView &view) {
+        connect(&view, &HistoryView::inspectionAsked, this, &ContentView::inspect);
+    });
+}
+
 Page *ContentView::pageAt(const QString &place)
 {
     if (const auto key = place::sectionKey(place); !key.isEmpty()) {
@@ -207,23 +217,18 @@ Page *ContentView::pageAt(const QString &place)
         section->setSection(key);
         return section;
     }
-    const auto history = [this] {
-        return page<HistoryView>([this](HistoryView &view) {
-            connect(&view, &HistoryView::inspectionAsked, this, &ContentView::inspect);
-        });
-    };
     if (place == place::history)
-        return history();
+        return historyPage();
     if (place == place::battery)
         return page<BatteryView>();
     if (place == place::monitor)
         return page<MonitorView>();
-    return page<OverviewPage>([this, history](OverviewPage &overview) {
+    return page<OverviewPage>([this](OverviewPage &overview) {
         connect(&overview, &OverviewPage::sectionChosen, this,
                 [this](const QString &key) { showPlace(place::ofSection(key)); });
-        connect(&overview, &OverviewPage::comparisonAsked, this, [this, history] {
+        connect(&overview, &OverviewPage::comparisonAsked, this, [this] {
             showPlace(place::history);
-            history()->compareNewest();
+            historyPage()->compareNewest();
         });
     });
 }

@@ -20,6 +20,7 @@ class QTimer;
 namespace quillmark::app {
 
 class Header;
+class HistoryView;
 class NoticeBar;
 class OverviewPage;
 class ResultsPage;
@@ -79,6 +80,7 @@ private:
     /// The page of a kind, which is made when it is first shown.
     template <typename Kind>
     Kind *page(const std::function<void(Kind &)> &connectPage = {});
+    HistoryView *historyPage();
     Page *pageAt(const QString &place);
     void show(Page *page);
     void searchFor(const QString &text);

@@ -372,7 +372,7 @@ void HistoryView::askToClear()
         });
 }
 
-/// Once, until someone changes something by hand: each inspection would fail alike.
+/// Again once someone has changed something by hand.
 void HistoryView::tellFailure(const history::SaveError &error)
 {
     if (m_toldFailure == error)

@@ -47,6 +47,8 @@ public:
     void compare();
     /// Shows what differs between the newest two scans.
     void compareNewest();
+    /// Asks for a notice of it, once: each inspection would fail alike.
+    void tellFailure(const history::SaveError &error);
     bool isComparing() const;
 
 Q_SIGNALS:
@@ -67,7 +69,6 @@ private:
     void showComparison(bool isShown);
     void askToDelete(const QModelIndex &index);
     void askToClear();
-    void tellFailure(const history::SaveError &error);
     int pageHeight() const;
 
     const AppContext &m_context;
