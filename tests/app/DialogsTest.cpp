@@ -13,6 +13,7 @@
 #include "app/views/ContentView.h"
 #include "app/widgets/NoticeBar.h"
 #include "support/AppStage.h"
+#include "support/offscreen.h"
 #include "update/UpdateChecker.h"
 
 #include <QAbstractButton>
@@ -140,6 +141,8 @@ class DialogsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { failOnWarnings(); }
+
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
     void onlyGetStartedAgreesToUpdates_data()
