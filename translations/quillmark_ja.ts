@@ -3637,7 +3637,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation>ウインドウのすべてにキーで移動できます。Tabで部分から部分へ、矢印キーでその中を移動し、スペースとReturnで選択し、Escで戻ります。</translation>
+        <translation>ウインドウ内のすべての項目はキーボードで操作できます。Tabキーで領域間を、矢印キーで領域内を移動し、スペースキーとReturnキーで選択し、Escキーで戻ります。</translation>
     </message>
     <message>
         <source>On the command line</source>
@@ -3645,7 +3645,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation>ウインドウに表示されるものはすべてコマンドquillmarkでも確認できます。quillmark --helpを参照してください。</translation>
+        <translation>ウインドウに表示される内容はすべて、quillmarkコマンドでも確認できます。quillmark --helpを参照してください。</translation>
     </message>
     <message>
         <source>Quillmark Help</source>

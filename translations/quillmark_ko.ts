@@ -3637,15 +3637,15 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation>창의 모든 항목을 키보드로 사용할 수 있습니다. Tab으로 부분 사이를, 화살표로 부분 안을 이동하고, 스페이스와 Return으로 선택하며, Esc로 돌아갑니다.</translation>
+        <translation>윈도우의 모든 항목을 키보드로 사용할 수 있습니다. Tab 키로 영역 사이를, 화살표 키로 영역 안을 이동하고, 스페이스바와 Return 키로 선택하며, Esc 키로 돌아갑니다.</translation>
     </message>
     <message>
         <source>On the command line</source>
-        <translation>명령어 라인</translation>
+        <translation>명령어 라인에서</translation>
     </message>
     <message>
         <source>All that the window shows can be asked of the command quillmark as well: see quillmark --help.</source>
-        <translation>창에 표시되는 모든 것은 quillmark 명령어로도 확인할 수 있습니다. quillmark --help를 참고하십시오.</translation>
+        <translation>윈도우에 표시되는 모든 것은 quillmark 명령어로도 확인할 수 있습니다. quillmark --help를 참고하십시오.</translation>
     </message>
     <message>
         <source>Quillmark Help</source>

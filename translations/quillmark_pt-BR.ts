@@ -3677,7 +3677,7 @@ Tudo o que é lido permanece neste computador.</translation>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation>Tudo na janela pode ser alcançado pelo teclado: Tab passa de uma parte a outra, as setas se movem dentro dela, Espaço e Return escolhem e Esc volta.</translation>
+        <translation>Tudo na janela pode ser acessado pelo teclado: Tab passa de uma parte a outra, as setas navegam dentro de cada uma, Espaço e Return escolhem e Esc volta.</translation>
     </message>
     <message>
         <source>On the command line</source>

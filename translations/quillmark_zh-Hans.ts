@@ -3637,7 +3637,7 @@ Everything it reads stays on this computer.</source>
     </message>
     <message>
         <source>Everything in the window can be reached by keys: Tab moves from part to part, the arrows move within one, Space and Return choose, and Esc goes back.</source>
-        <translation>窗口中的一切都可用键盘操作：Tab 键在各部分之间移动，箭头键在部分内移动，空格键和回车键选择，Esc 键返回。</translation>
+        <translation>窗口中的一切都可用键盘操作：Tab 键在各部分之间移动，箭头键在部分内移动，空格键和 Return 键选择，Esc 键返回。</translation>
     </message>
     <message>
         <source>On the command line</source>
