@@ -34,6 +34,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         return 0;
     for (const auto &item : feed->items) {
         require(isOneLine(item.title) && isOneLine(item.channel), "a title is one line");
+        for (const auto &enclosure : item.enclosures)
+            require(isOneLine(enclosure.title), "a title is one line");
         require(isOneLine(QString(item.notes).remove(QLatin1Char('\n'))), "notes are lines of text");
         require(isFit(item.downloadPage) && isFit(item.releaseNotes), "an address is https");
     }

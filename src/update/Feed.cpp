@@ -172,7 +172,7 @@ private:
         else if (isSparkle("shortVersionString"_L1))
             item.title = titleOf(text());
         else if (isSparkle("channel"_L1))
-            item.channel = text().trimmed();
+            readChannel(item);
         else if (isSparkle("minimumSystemVersion"_L1))
             readRequirement(item.minimumSystem, item);
         else if (isSparkle("maximumSystemVersion"_L1))
@@ -187,6 +187,14 @@ private:
             readTags(item);
         else
             skip();
+    }
+
+    /// A name of which nothing can be shown is one all the same: the item is not for everybody.
+    void readChannel(FeedItem &item)
+    {
+        const auto name = text().trimmed();
+        item.channel = titleOf(name);
+        item.isUnusable |= item.channel.isEmpty() && !name.isEmpty();
     }
 
     void readRequirement(std::optional<Version> &version, FeedItem &item)
