@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 
 Catalogue::Catalogue(const QString &language)
     : m_formats(language)
+    , m_hasPluralsAlone(language == "en"_L1)
 {
     loadCatalogues();
     // By its bytes: by a name, Qt would look for it in a dozen places.
@@ -27,8 +28,7 @@ Catalogue::Catalogue(const QString &language)
 
 QString Catalogue::translate(const char *context, const char *source, const char *comment, int count) const
 {
-    // English has plural forms alone: its other texts are the sources.
-    if (count < 0 && m_formats.language() == "en"_L1)
+    if (m_hasPluralsAlone && count < 0)
         return {};
     auto text = QTranslator::translate(context, source, comment, count);
     return count < 0 ? text : text.replace("%n"_L1, m_formats.count(count));

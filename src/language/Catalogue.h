@@ -26,6 +26,7 @@ public:
 
 private:
     Formats m_formats;
+    bool m_hasPluralsAlone; ///< the English one: its other texts are the sources
 };
 
 /// Makes it the one that translated() reads.

@@ -77,6 +77,8 @@ QString LanguageManager::match(const QString &tag)
 {
     // "de_CH.UTF-8@euro" → "de-CH", then "de"
     QString wanted = tag.section(u'.', 0, 0).section(u'@', 0, 0);
+    if (wanted.isEmpty())
+        return {};
     wanted.replace(u'_', u'-');
     const auto languages = available();
     for (auto shorter = wanted; !shorter.isEmpty();
