@@ -45,10 +45,10 @@ void ask(QWidget *asker, const Question &question, const std::function<void()> &
 void ask(QWidget *asker, const Question &question, const QList<Answer> &answers)
 {
     auto *box = makeBox(asker, question);
-    for (const auto &[verb, run] : answers) {
-        auto *button = box->addButton(verb, QMessageBox::AcceptRole);
+    for (const auto &answer : answers) {
+        auto *button = box->addButton(answer.verb, QMessageBox::AcceptRole);
         QObject::connect(
-            button, &QAbstractButton::clicked, asker, [run = run] { run(); }, Qt::QueuedConnection);
+            button, &QAbstractButton::clicked, asker, [run = answer.run] { run(); }, Qt::QueuedConnection);
     }
     box->open();
 }

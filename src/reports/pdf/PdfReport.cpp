@@ -161,9 +161,10 @@ private:
     {
         const language::Formats formats(m_document.language);
         const auto madeWith = m_typesetter.set(m_document.madeWith, styles::footer);
-        const auto number = m_typesetter.set(
-            m_document.pageOf.arg(formats.count(static_cast<qsizetype>(page)), formats.count(m_pages.size())),
-            styles::footer);
+        const auto number =
+            m_typesetter.set(m_document.pageOf.arg(formats.count(static_cast<qsizetype>(page)),
+                                                   formats.count(static_cast<qsizetype>(m_pages.size()))),
+                             styles::footer);
         canvas.rule(m_sheet.left(), m_sheet.right(), m_sheet.footerRule(), 0.5, design::Role::CardBorder);
         const qreal top = m_sheet.footerRule() + 8.5;
         canvas.text(*madeWith, m_sheet.left(), top);
