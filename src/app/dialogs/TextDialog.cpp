@@ -36,15 +36,19 @@ QString verbatim(const QString &text)
     return u"```\n%1\n```\n"_s.arg(text.trimmed());
 }
 
-void addRows(QString &table, const QMenu &menu)
+/// A row for each command that has keys.
+QString rows(const QMenu &menu)
 {
+    QString text;
     for (const auto *action : menu.actions()) {
         if (action->menu())
-            addRows(table, *action->menu());
+            text += rows(*action->menu());
         const auto keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
         if (!keys.isEmpty())
-            table += u"| %1 | %2 |\n"_s.arg(action->text(), keys.toHtmlEscaped().replace(u'[', "\\["_L1));
+            text += u"<tr><td width='300'>%1</td><td>%2</td></tr>"_s.arg(action->text().toHtmlEscaped(),
+                                                                         keys.toHtmlEscaped());
     }
+    return text;
 }
 
 } // namespace
@@ -81,7 +85,10 @@ void TextDialog::retranslate()
     setWindowTitle(content.title);
     m_text->setAccessibleName(content.title);
     m_text->setLayoutDirection(content.isTranslated ? layoutDirection() : Qt::LeftToRight);
-    m_text->setMarkdown(content.text);
+    if (content.format == Qt::RichText)
+        m_text->setHtml(content.text);
+    else
+        m_text->setMarkdown(content.text);
 }
 
 TextDialog::Content licences()
@@ -100,20 +107,23 @@ TextDialog::Content whatsNew()
 
 TextDialog::Content help(const Actions &actions)
 {
-    auto text =
+    auto text = u"<p>%1</p>"_s.arg(
         TextDialog::tr("Everything in the window can be reached by keys: Tab moves from part to part, the "
-                       "arrows move within one, Space and Return choose, and Esc goes back.");
+                       "arrows move within one, Space and Return choose, and Esc goes back."));
     for (const auto *menu : actions.menus()) {
-        QString table;
-        addRows(table, *menu);
-        if (!table.isEmpty())
-            text += u"\n\n## %1\n\n| | |\n|---|---|\n"_s.arg(menu->title()) + table;
+        if (const auto table = rows(*menu); !table.isEmpty())
+            text +=
+                u"<h3>%1</h3><table cellpadding='3'>%2</table>"_s.arg(menu->title().toHtmlEscaped(), table);
     }
-    text += u"\n\n## %1\n\n"_s.arg(TextDialog::tr("On the command line"));
-    text += TextDialog::tr(
-        "All that the window shows can be asked of the command quillmark as well: see quillmark "
-        "--help.");
-    return {TextDialog::tr("Quillmark Help"), text, true};
+    text += u"<h3>%1</h3><p>%2</p>"_s.arg(
+        TextDialog::tr("On the command line"),
+        TextDialog::tr(
+            "All that the window shows can be asked of the command quillmark as well: see quillmark "
+            "--help."));
+    return {.title = TextDialog::tr("Quillmark Help"),
+            .text = text,
+            .format = Qt::RichText,
+            .isTranslated = true};
 }
 
 } // namespace quillmark::app

@@ -21,8 +21,9 @@ public:
     struct Content
     {
         QString title;
-        QString text;              ///< Markdown
-        bool isTranslated = false; ///< else it is in English, whatever language the window has
+        QString text;
+        Qt::TextFormat format = Qt::MarkdownText; ///< or Qt::RichText
+        bool isTranslated = false;                ///< else it is in English, whatever language the window has
     };
 
     /// `content` is asked again when the language changes.
