@@ -42,16 +42,6 @@ public:
     void setText(const QString &text) override { QApplication::clipboard()->setText(text); }
 };
 
-/// The report of an inspection as text, for the clipboard.
-inspection::Quillmark::ReportText reportText(const inspection::Quillmark *&inspection,
-                                             const language::LanguageManager &language)
-{
-    return [&](const QList<inspection::CapabilitySection> &sections, const std::optional<QDateTime> &date) {
-        return reports::plainText({date, language.language(),
-                                   inspection->summary().value_or(inspection::DeviceSummary()), sections});
-    };
-}
-
 /// Where the scans of this launch are kept.
 QString historyFile(const Launch &launch, const QTemporaryDir &passing)
 {
@@ -118,9 +108,12 @@ int run(const Launch &launch, QString &)
     history::ScanHistory history(language, historyFile(launch, passing));
     monitor::LiveMonitor::setSharedMachine(launch.machine);
     Clipboard clipboard;
-    const inspection::Quillmark *inspected = nullptr;
-    inspection::Quillmark inspection(launch.machine, language, clipboard, reportText(inspected, language));
-    inspected = &inspection;
+    inspection::Quillmark inspection(
+        launch.machine, language, clipboard,
+        [&](const QList<inspection::CapabilitySection> &sections, const std::optional<QDateTime> &date) {
+            const auto summary = inspection.summary().value_or(inspection::DeviceSummary());
+            return reports::plainText({date, language.language(), summary, sections});
+        });
     update::UpdateChecker updates(settings, surroundings(launch.machine),
                                   std::make_unique<update::NetworkFeedSource>());
 

@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QListView>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
@@ -153,6 +154,7 @@ private Q_SLOTS:
         app::ContentView window(stage.context);
         QVERIFY(QDir().mkpath(stage.history.file())); // where the file should be
         QVERIFY(!window.notices().isShown());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"could not save snapshots"_s));
         stage.inspect();
         QTRY_VERIFY(window.notices().isShown());
         QCOMPARE(stage.history.snapshots().size(), 1);

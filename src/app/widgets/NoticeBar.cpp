@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QStyle>
 #include <QTimer>
 
@@ -98,7 +99,10 @@ NoticeBar::NoticeBar(QWidget *parent, std::chrono::milliseconds stay)
     m_slide.setDuration(slideTime);
     m_slide.setEasingCurve(QEasingCurve::OutCubic);
     connect(&m_slide, &QVariantAnimation::valueChanged, this, &QWidget::updateGeometry);
-    connect(&m_slide, &QVariantAnimation::finished, this, [this] { setVisible(m_isShown); });
+    connect(&m_slide, &QVariantAnimation::finished, this, [this] {
+        setVisible(m_isShown);
+        updateGeometry();
+    });
     applyAppearance();
     retranslate();
     hide();
@@ -284,8 +288,11 @@ void NoticeBar::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-void NoticeBar::resizeEvent(QResizeEvent *)
+void NoticeBar::resizeEvent(QResizeEvent *event)
 {
+    // The height that a layout remembers is that for another width.
+    if (event->size().width() != event->oldSize().width())
+        QMetaObject::invokeMethod(this, &QWidget::updateGeometry, Qt::QueuedConnection);
     putInPlace();
 }
 
