@@ -153,8 +153,9 @@ private Q_SLOTS:
         page.show();
         QTRY_COMPARE(ringNames(page), QStringList({u"Battery health 91 percent, Normal"_s,
                                                    u"Battery health 40 percent, Worn"_s}));
+        QTRY_VERIFY(shownTexts(page).contains(u"BAT1"_s)); // once it is laid out
         const auto texts = shownTexts(page);
-        QVERIFY(texts.contains(u"BAT0"_s) && texts.contains(u"BAT1"_s));
+        QVERIFY(texts.contains(u"BAT0"_s));
         QVERIFY(texts.contains(u"52.1\u00a0Wh"_s) && texts.contains(u"23\u00a0Wh"_s));
         QVERIFY(texts.contains(u"This battery is worn."_s));
     }
@@ -165,7 +166,7 @@ private Q_SLOTS:
         BatteryView page(stage.context);
         page.show();
         QTRY_VERIFY(shownTexts(page).contains(u"macOS reports 90\u00a0%"_s));
-        QCOMPARE(ringNames(page), QStringList({u"Battery health 88 percent, Normal"_s}));
+        QTRY_COMPARE(ringNames(page), QStringList({u"Battery health 88 percent, Normal"_s}));
     }
 
     void explainsThatThereIsNone()
