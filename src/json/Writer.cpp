@@ -126,30 +126,14 @@ void Writer::open(char bracket)
 void Writer::close(char bracket)
 {
     --m_depth;
-    if (!m_first)
+    if (m_layout == Layout::Indented && !m_first)
         newLine();
     append(bracket);
     m_first = false;
 }
 
-/// Separates the value (or the name of a member) from what stands before it.
-void Writer::beforeValue()
-{
-    if (m_afterKey) {
-        m_afterKey = false;
-        return;
-    }
-    if (!m_first)
-        append(',');
-    if (m_depth > 0)
-        newLine();
-    m_first = false;
-}
-
 void Writer::newLine()
 {
-    if (m_layout == Layout::Compact)
-        return;
     append('\n');
     append(std::string(2 * m_depth, ' '));
 }

@@ -67,10 +67,23 @@ public:
 private:
     void open(char bracket);
     void close(char bracket);
-    void beforeValue();
-    void newLine();
     void quoted(std::string_view text);
     void appendSpecial(std::string_view character);
+
+    /// Separates the value (or the name of a member) from what stands before it.
+    void beforeValue()
+    {
+        if (m_afterKey) {
+            m_afterKey = false;
+            return;
+        }
+        if (!m_first)
+            append(',');
+        m_first = false;
+        if (m_layout == Layout::Indented && m_depth > 0)
+            newLine();
+    }
+    void newLine();
     void append(std::string_view text) { text.copy(room(text.size()), text.size()); }
     void append(char c) { *room(1) = c; }
 
