@@ -241,10 +241,12 @@ void SnapshotTest::newestFirst()
     text += ']';
     const auto decoded = decodeHistory(text);
     QVERIFY(decoded);
+    const auto digests = decodeDigests(text);
+    QVERIFY(digests);
     QString order;
     for (const auto &stored : *decoded)
         order += stored.snapshot.chip;
-    for (const auto &digest : decodeDigests(text).value())
+    for (const auto &digest : *digests)
         order += digest.chip;
     QCOMPARE(order, u"bdcabdca"_s);
 }
