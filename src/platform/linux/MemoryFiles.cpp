@@ -26,10 +26,10 @@ constexpr std::int32_t levelWarning = 2;
 constexpr std::int32_t levelCritical = 4;
 
 /// The lines that are wanted; from firstWired on they are added up.
-constexpr std::array<std::string_view, 10> wantedLabels = {
-    "MemTotal",    "SwapTotal",  "SwapFree",    "Active",     "Zswap",
-    "Unevictable", "SUnreclaim", "KernelStack", "PageTables", "Percpu"};
-constexpr std::ptrdiff_t firstWired = 5;
+constexpr std::array<std::string_view, 11> wantedLabels = {
+    "MemTotal",    "SwapTotal",  "SwapFree",    "Active(anon)", "Inactive(anon)", "Zswap",
+    "Unevictable", "SUnreclaim", "KernelStack", "PageTables",   "Percpu"};
+constexpr std::ptrdiff_t firstWired = 6;
 
 bool isWired(std::string_view label)
 {
@@ -56,8 +56,8 @@ MemoryInfo parseMemInfo(std::string_view text)
             memory.swapTotal = bytes;
         else if (label == "SwapFree")
             memory.swapFree = bytes;
-        else if (label == "Active")
-            memory.active = bytes;
+        else if (label == "Active(anon)" || label == "Inactive(anon)")
+            memory.active = memory.active.value_or(0) + bytes;
         else if (label == "Zswap")
             memory.compressed = bytes;
         else if (isWired(label))

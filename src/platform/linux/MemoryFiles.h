@@ -18,6 +18,8 @@ struct MemoryInfo
         total; ///< without what the kernel's image and the firmware keep for themselves
     std::optional<std::uint64_t> swapTotal;
     std::optional<std::uint64_t> swapFree;
+    /// What programs hold and share, used lately or not: a kernel without swap may count all of it as
+    /// inactive. Without the files that are kept at hand, which give way.
     std::optional<std::uint64_t> active;
     std::uint64_t wired = 0; ///< what can be neither moved nor swapped out: locked pages and the kernel's own
     std::uint64_t compressed = 0; ///< memory that zswap takes

@@ -115,7 +115,7 @@ void LinuxCountersTest::devicesComeAndGo()
     QFETCH(QString, path);
     QFETCH(QByteArray, content);
     QFETCH(std::function<bool(const CounterReading &)>, isThere);
-    const Counted counted("/proc/meminfo: Active: 4 kB\n");
+    const Counted counted("/proc/meminfo: Active(anon): 4 kB\n");
     QVERIFY(!isThere(counted.reader->read()));
     counted.files.write(path.section(u'/', 0, -2) + u"/trip_point_0_type"_s, "critical\n");
     counted.files.write(path.section(u'/', 0, -2) + u"/trip_point_0_temp"_s, "90000\n");

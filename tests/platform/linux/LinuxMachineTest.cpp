@@ -228,6 +228,8 @@ flags		: fpu
 MemTotal:         380000 kB
 Active:           102400 kB
 Active(anon):      51200 kB
+Inactive(anon):    20480 kB
+Inactive:          99999 kB
 Unevictable:        4096 kB
 SwapTotal:       2097152 kB
 SwapFree:        1572864 kB
@@ -446,7 +448,7 @@ graphics: AMD (amdgpu)
 graphics: NVIDIA
 ticks: user 100 nice 10 system 36 idle 1520
 ticks: user 100 nice 10 system 36 idle 4
-memory: active 102400 wired 8192 compressed 14336
+memory: active 71680 wired 8192 compressed 14336
 swap: total 2048 available 1536 used 512
 pressure: 2)");
     row("Intel hybrid laptop", hybridLaptop, R"(
@@ -791,7 +793,7 @@ void LinuxMachineTest::countersFollowTheirFiles()
     QCOMPARE(lines.last(), u"pressure: 2"_s);
 
     files.write(u"/proc/stat"_s, "");
-    files.write(u"/proc/meminfo"_s, "Active: 1024 kB\nSwapTotal: 4096 kB\nSwapFree: 9999999 kB\n");
+    files.write(u"/proc/meminfo"_s, "Active(anon): 1024 kB\nSwapTotal: 4096 kB\nSwapFree: 9999999 kB\n");
     QCOMPARE(counters(*machine, *reader),
              QStringList({u"memory: active 1024 wired 0 compressed 0"_s,
                           u"swap: total 4 available 4 used 0"_s, u"pressure: 2"_s}));
