@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
 
 #include <cerrno>
 #include <filesystem>
@@ -19,6 +20,8 @@
 namespace quillmark::history {
 
 namespace {
+
+Q_LOGGING_CATEGORY(log, "com.tarnwick.Quillmark.ScanHistory")
 
 QString messageOf(int error)
 {
@@ -74,6 +77,13 @@ QString freeNameAside(const QString &path)
     }
 }
 
+/// Why it cannot be told what stands there. Empty where that can be told, and where there is nothing.
+QString faultInReaching(const QString &path)
+{
+    const auto found = platform::exists(pathOf(path));
+    return found ? QString() : messageOf(found.error().number);
+}
+
 QByteArray arrayOf(const QList<QByteArray> &elements)
 {
     qsizetype size = 2;
@@ -104,8 +114,10 @@ HistoryFile::Contents HistoryFile::read()
     m_version = versionOf(m_path);
     m_isUnreadable = false;
     Contents contents;
-    if (!m_version)
+    if (!m_version) {
+        contents.fault = faultInReaching(m_path);
         return contents;
+    }
     m_isUnreadable = true;
     auto text = readText();
     if (!text) {
@@ -124,8 +136,10 @@ HistoryFile::Contents HistoryFile::read()
 
 std::expected<std::vector<ScanDigest>, QString> HistoryFile::readDigests() const
 {
-    if (!versionOf(m_path))
-        return {};
+    if (!versionOf(m_path)) {
+        const auto fault = faultInReaching(m_path);
+        return fault.isEmpty() ? std::expected<std::vector<ScanDigest>, QString>() : std::unexpected(fault);
+    }
     const auto text = readText();
     return text ? decodeDigests(*text) : std::unexpected(text.error());
 }
@@ -218,8 +232,12 @@ std::expected<void, SaveError> HistoryFile::keepAside() const
     const auto text = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return failure(file.errorString());
-    const auto kept = replace(freeNameAside(m_path), text);
-    return kept ? kept : failure(kept.error().reason);
+    const auto aside = freeNameAside(m_path);
+    const auto kept = replace(aside, text);
+    if (!kept)
+        return failure(kept.error().reason);
+    qCInfo(log).noquote() << "ScanHistory: kept what could not be read as" << aside;
+    return {};
 }
 
 } // namespace quillmark::history

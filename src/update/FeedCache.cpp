@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 std::optional<CachedFeed> readFeedCache(const QString &file, const QUrl &url)
 {
-    const auto kept = QCborValue::fromCbor(readPrivateFile(file)).toMap();
+    const auto kept = QCborValue::fromCbor(readPrivateFile(file).value_or(QByteArray())).toMap();
     const CachedFeed feed{.url = QUrl(kept["url"_L1].toString()),
                           .etag = kept["etag"_L1].toByteArray(),
                           .lastModified = kept["lastModified"_L1].toByteArray(),

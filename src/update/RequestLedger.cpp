@@ -47,10 +47,18 @@ Exchange fromJson(const QJsonObject &object)
 
 } // namespace
 
-QList<Exchange> RequestLedger::exchanges() const
+std::expected<QList<Exchange>, QString> RequestLedger::exchanges() const
 {
+    const auto text = readPrivateFile(m_file);
+    if (!text)
+        return std::unexpected(text.error());
     QList<Exchange> exchanges;
-    for (const auto &entry : QJsonDocument::fromJson(readPrivateFile(m_file)).array())
+    if (text->isEmpty())
+        return exchanges;
+    const auto document = QJsonDocument::fromJson(*text);
+    if (!document.isArray())
+        return std::unexpected(u"not a list of requests"_s);
+    for (const auto &entry : document.array())
         exchanges.append(fromJson(entry.toObject()));
     return exchanges;
 }
@@ -75,12 +83,22 @@ bool RequestLedger::change(const std::function<void(QList<Exchange> &)> &change)
     if (!makePrivateFolder(m_file) ||
         !lock.take(QFile::encodeName(m_file + ".lock"_L1).toStdString(), patience))
         return false;
-    auto all = exchanges();
+    const auto kept = exchanges();
+    if (!kept && !putAside())
+        return false;
+    auto all = kept.value_or(QList<Exchange>());
     change(all);
     QJsonArray array;
     for (const auto &exchange : all.last(std::min(all.size(), mostExchanges)))
         array.append(toJson(exchange));
     return writePrivateFile(m_file, QJsonDocument(array).toJson());
+}
+
+/// Fails rather than replace a file.
+bool RequestLedger::putAside() const
+{
+    const auto time = QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-HHmmss"_s);
+    return QFile::rename(m_file, u"%1.unreadable-%2"_s.arg(m_file, time));
 }
 
 } // namespace quillmark::update

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QString>
 
+#include <expected>
 #include <functional>
 
 namespace quillmark::update {
@@ -23,17 +24,19 @@ public:
 
     const QString &file() const { return m_file; }
 
-    /// The oldest first. Empty when there are none, or what stands there is no ledger. One with neither
-    /// status nor failure was sent, and the program ended before it knew what came of it.
-    QList<Exchange> exchanges() const;
+    /// The oldest first, none where there is no file; or why it cannot be read. One with neither status nor
+    /// failure was sent, and the program ended before it knew what came of it.
+    std::expected<QList<Exchange>, QString> exchanges() const;
 
-    /// Enters a request that is about to be sent. False: that could not be written.
+    /// Enters a request that is about to be sent. False: that could not be written. A file that cannot be
+    /// read is put aside first, under a name with the time.
     bool begin(const Exchange &exchange);
     /// What came of the one that was begun last, in its place; the further ones, after it.
     bool complete(const Exchange &begun, const QList<Exchange> &exchanges);
 
 private:
     bool change(const std::function<void(QList<Exchange> &)> &change);
+    bool putAside() const;
 
     QString m_file;
 };

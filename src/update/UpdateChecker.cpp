@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 secondsOfDay = 24 * 60 * 60;
+constexpr qint64 secondsOfDay = qint64{24} * 60 * 60;
 
 } // namespace
 

@@ -18,12 +18,19 @@ constexpr qint64 longest = 4 << 20;
 
 } // namespace
 
-QByteArray readPrivateFile(const QString &path)
+std::expected<QByteArray, QString> readPrivateFile(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > longest)
+    if (platform::exists(QFile::encodeName(path).toStdString()) == false)
         return {};
-    return file.read(longest);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::unexpected(file.errorString());
+    if (file.size() > longest)
+        return std::unexpected(QStringLiteral("longer than any that Quillmark writes"));
+    auto bytes = file.read(longest);
+    if (file.error() != QFileDevice::NoError)
+        return std::unexpected(file.errorString());
+    return bytes;
 }
 
 bool writePrivateFile(const QString &path, const QByteArray &bytes)

@@ -240,6 +240,15 @@ void HistoryCommandTest::failures()
     QCOMPARE(folder.status, 1);
     QVERIFY2(folder.err.contains(u"directory"), qPrintable(folder.err));
 
+    // What cannot be looked at is not an empty history.
+    m_file = m_folder->filePath(u"broken.json/inside.json"_s);
+    write(m_folder->filePath(u"broken.json"_s), "");
+    for (const auto &command : {u"list"_s, u"list --json"_s, u"show 0"_s}) {
+        const auto unreachable = history(command);
+        QCOMPARE(unreachable.status, 1);
+        QVERIFY2(unreachable.err.contains(u"Not a directory"), qPrintable(unreachable.err));
+    }
+
     m_file = m_folder->filePath(u"broken.json"_s);
     write(m_file, R"([{"id": 7}])");
     const auto broken = history(u"list"_s);

@@ -159,6 +159,12 @@ void SaveFileTest::modes()
     QByteArray bytes(3, 0);
     QCOMPARE(::read(reader, bytes.data(), 3), 3);
     ::close(reader);
+    int unnamed[2] = {};
+    QVERIFY(::pipe(unnamed) == 0);
+    QVERIFY(saveFile("/dev/fd/" + std::to_string(unnamed[1]), "new", Existing::Keep));
+    QCOMPARE(::read(unnamed[0], bytes.data(), 3), 3);
+    ::close(unnamed[0]);
+    ::close(unnamed[1]);
     QVERIFY(isSaved && bytes == "new");
     QCOMPARE(mode(u"fresh.txt"_s), 0640u);
     QCOMPARE(mode(u"old.txt"_s), 0604u);

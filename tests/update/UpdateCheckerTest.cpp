@@ -7,6 +7,7 @@
 #include "support/FeedServer.h"
 #include "update/network/NetworkFeedSource.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTest>
@@ -92,7 +93,7 @@ public:
     }
 
     QString folder() const { return m_folder.filePath(u"a/b"_s); }
-    QList<Exchange> ledger() const { return UpdateChecker::ledger(folder()).exchanges(); }
+    QList<Exchange> ledger() const { return UpdateChecker::ledger(folder()).exchanges().value(); }
 
 private:
     QTemporaryDir m_folder;
@@ -448,8 +449,22 @@ void UpdateCheckerTest::ledger()
     auto ledger = UpdateChecker::ledger(desk.folder());
     for (int i = 0; i < 60; ++i)
         QVERIFY(ledger.begin({.date = desk.now, .url = server.url(QString::number(i).prepend(u'/'))}));
-    QCOMPARE(ledger.exchanges().size(), 50);
-    QCOMPARE(ledger.exchanges().last().url, server.url(u"/59"_s));
+    QCOMPARE(ledger.exchanges().value().size(), 50);
+    QCOMPARE(ledger.exchanges().value().last().url, server.url(u"/59"_s));
+
+    // What cannot be read is not taken for no requests, and stays.
+    const QByteArray damaged("[{\"date\":");
+    QFile file(ledger.file());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(damaged) == damaged.size());
+    file.close();
+    QVERIFY(!ledger.exchanges());
+    QVERIFY(ledger.begin({.date = desk.now, .url = server.url()}));
+    QCOMPARE(ledger.exchanges().value().size(), 1);
+    const auto aside = QDir(desk.folder()).entryList({u"requests.json.unreadable-*"_s});
+    QCOMPARE(aside.size(), 1);
+    QFile kept(desk.folder() + u'/' + aside.first());
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), damaged);
 }
 
 void UpdateCheckerTest::noLedgerNoRequest()

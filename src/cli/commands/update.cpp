@@ -134,11 +134,14 @@ QString ledgerText(const QList<update::Exchange> &exchanges, const language::For
 
 std::expected<void, Failure> showLedger(const Session &session, bool asJson)
 {
-    const auto exchanges = UpdateChecker::ledger().exchanges();
+    const auto ledger = UpdateChecker::ledger();
+    const auto exchanges = ledger.exchanges();
+    if (!exchanges)
+        return std::unexpected(Failure{u"%1: %2"_s.arg(ledger.file(), exchanges.error())});
     if (asJson)
-        session.output().write(ledgerJson(exchanges));
+        session.output().write(ledgerJson(*exchanges));
     else
-        session.output().write(ledgerText(exchanges, session.language().formats(), session.terminalStyle()));
+        session.output().write(ledgerText(*exchanges, session.language().formats(), session.terminalStyle()));
     return {};
 }
 

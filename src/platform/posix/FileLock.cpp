@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <thread>
 
@@ -45,7 +46,9 @@ void signLock(int descriptor)
 int signatureOf(int descriptor)
 {
     std::array<char, 16> text{};
-    return pread(descriptor, text.data(), text.size() - 1, 0) > 0 ? std::atoi(text.data()) : 0;
+    const int process = pread(descriptor, text.data(), text.size() - 1, 0) > 0 ? std::atoi(text.data()) : 0;
+    // Whoever locks it without signing it holds it under the name of one that has ended.
+    return process > 0 && (kill(process, 0) == 0 || errno == EPERM) ? process : 0;
 }
 
 } // namespace

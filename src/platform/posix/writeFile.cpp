@@ -66,6 +66,11 @@ int writeBeside(const std::filesystem::path &file, std::string_view bytes, Exist
     return error;
 }
 
+bool isStream(const struct stat &there)
+{
+    return !S_ISDIR(there.st_mode) && !S_ISREG(there.st_mode);
+}
+
 int write(const std::filesystem::path &file, std::string_view bytes, Existing existing,
           std::optional<mode_t> permissions)
 {
@@ -74,8 +79,6 @@ int write(const std::filesystem::path &file, std::string_view bytes, Existing ex
         return errno == ENOENT ? writeBeside(file, bytes, existing, permissions, nullptr) : errno;
     if (S_ISDIR(there.st_mode))
         return EISDIR;
-    if (!S_ISREG(there.st_mode))
-        return writeInto(file, bytes);
     if (existing == Existing::Keep)
         return EEXIST;
     // A folder in which one may write would let a protected file be replaced.
@@ -113,6 +116,10 @@ std::expected<void, FileError> writeFile(const std::filesystem::path &file, std:
 {
     if (!file.has_filename())
         return outcome(EISDIR, file);
+    // Not through its links: that of an open pipe (/dev/stdout, /proc/self/fd/1) names nothing that has a
+    // path.
+    if (struct stat there = {}; ::stat(file.c_str(), &there) == 0 && isStream(there))
+        return outcome(writeInto(file, bytes), file);
     const auto target = withLinksResolved(file);
     return target ? outcome(write(*target, bytes, existing, permissions), file)
                   : std::unexpected(target.error());
@@ -129,6 +136,16 @@ std::expected<std::filesystem::path, FileError> withLinksResolved(const std::fil
         file = file.parent_path() / std::filesystem::read_symlink(file, ignored);
     }
     return std::unexpected(FileError{.number = ELOOP, .file = path});
+}
+
+std::expected<bool, FileError> exists(const std::filesystem::path &path)
+{
+    struct stat there = {};
+    if (::stat(path.c_str(), &there) == 0)
+        return true;
+    if (errno == ENOENT)
+        return false;
+    return std::unexpected(FileError{.number = errno, .file = path});
 }
 
 std::expected<void, FileError> makeFolder(const std::filesystem::path &path, mode_t permissions)

@@ -38,6 +38,9 @@ std::expected<void, FileError> writeFile(const std::filesystem::path &file, std:
 /// The file that the path leads to through symbolic links, be it there or not. ELOOP where they go round.
 std::expected<std::filesystem::path, FileError> withLinksResolved(const std::filesystem::path &path);
 
+/// Whether something stands there, at the end of links; what the system refused where that cannot be told.
+std::expected<bool, FileError> exists(const std::filesystem::path &path);
+
 /// Makes the folder and those above it that are missing, with these permissions. One that is there is fine.
 std::expected<void, FileError> makeFolder(const std::filesystem::path &path, mode_t permissions);
 
