@@ -4,6 +4,9 @@
 #include "settings/Settings.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
 namespace quillmark::settings {
 
@@ -32,11 +35,25 @@ void Settings::store(QLatin1StringView name, const QVariant &value)
 {
     if (m_store.value(name) == value && m_store.contains(name) == value.isValid())
         return;
+    keepPrivate();
     if (value.isValid())
         m_store.setValue(name, value);
     else
         m_store.remove(name);
     Q_EMIT changed(name);
+}
+
+/// A file that exists keeps its permissions when it is written, so that a new one has to begin with them.
+void Settings::keepPrivate()
+{
+#ifndef Q_OS_MACOS // where the system keeps the user defaults
+    const QFileInfo kept(m_store.fileName());
+    if (kept.exists() || !QDir().mkpath(kept.path()))
+        return;
+    QFile file(kept.filePath());
+    static_cast<void>(
+        file.open(QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)); // saving will tell
+#endif
 }
 
 } // namespace quillmark::settings

@@ -67,6 +67,7 @@ Q_SIGNALS:
 private:
     /// An invalid value is removed.
     void store(QLatin1StringView name, const QVariant &value);
+    void keepPrivate();
 
     QSettings m_store;
 };

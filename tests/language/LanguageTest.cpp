@@ -361,6 +361,8 @@ void LanguageTest::choice()
     QCOMPARE(manager.direction(), Qt::LeftToRight);
 
     settings.setValue(languageKey, u"ar"_s);
+    QVERIFY(
+        !(QFile::permissions(folder.filePath(u"settings.conf"_s)) & (QFile::ReadGroup | QFile::ReadOther)));
     QCOMPARE(manager.language(), u"ar"_s);
     QCOMPARE(manager.direction(), Qt::RightToLeft);
     QCOMPARE(LanguageManager(settings, {u"de"_s}).language(), u"ar"_s);
@@ -383,7 +385,8 @@ void LanguageTest::texts_data()
     QTest::newRow("English") << u"en"_s << u"1 saved scan"_s << u"1,234 saved scans"_s << u"Cancel"_s;
     QTest::newRow("German") << u"de"_s << u"1 gesicherte Untersuchung"_s
                             << u"1.234 gesicherte Untersuchungen"_s << u"Abbrechen"_s;
-    QTest::newRow("Chinese") << u"zh-Hans"_s << u"1 次已存储的扫描"_s << u"1,234 次已存储的扫描"_s << u"取消"_s;
+    QTest::newRow("Chinese") << u"zh-Hans"_s << u"1 次已存储的扫描"_s << u"1,234 次已存储的扫描"_s
+                             << u"取消"_s;
     QTest::newRow("Arabic") << u"ar"_s << u"فحص محفوظ واحد"_s << u"١٬٢٣٤ فحصًا محفوظًا"_s << u"ألغِ"_s;
 }
 
