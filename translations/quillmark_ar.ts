@@ -2763,28 +2763,6 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>هل تريد مسح سجل الفحوصات؟</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>مسح السجل</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>لن يُزال أي فحص.</numerusform>
-            <numerusform>سيُزال فحص محفوظ واحد. لا يمكن التراجع عن ذلك.</numerusform>
-            <numerusform>سيُزال الفحصان المحفوظان. لا يمكن التراجع عن ذلك.</numerusform>
-            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
-            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
-            <numerusform>ستُزال جميع الفحوصات المحفوظة، وعددها %n. لا يمكن التراجع عن ذلك.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -2703,24 +2703,6 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>Verlauf löschen?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>Verlauf löschen</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n gesicherte Untersuchung wird entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
-            <numerusform>Alle %n gesicherten Untersuchungen werden entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

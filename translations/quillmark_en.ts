@@ -132,16 +132,6 @@
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n saved scan will be removed. This can’t be undone.</numerusform>
-            <numerusform>All %n saved scans will be removed. This can’t be undone.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -2703,24 +2703,6 @@ Todo lo que lee se queda en este ordenador.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>¿Borrar el historial?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>Borrar historial</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>Se eliminará %n análisis guardado. Esta acción no se puede deshacer.</numerusform>
-            <numerusform>Se eliminarán los %n análisis guardados. Esta acción no se puede deshacer.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

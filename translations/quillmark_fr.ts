@@ -2703,24 +2703,6 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>Effacer l’historique&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>Effacer l’historique</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n analyse enregistrée sera supprimée. Cette action est irréversible.</numerusform>
-            <numerusform>Les %n analyses enregistrées seront supprimées. Cette action est irréversible.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -2703,24 +2703,6 @@ Tutto ciò che legge resta su questo computer.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>Cancellare la cronologia?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>Cancella cronologia</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n scansione salvata sarà rimossa. L’operazione non può essere annullata.</numerusform>
-            <numerusform>Tutte le %n scansioni salvate saranno rimosse. L’operazione non può essere annullata.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -2688,23 +2688,6 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>スキャン履歴を消去しますか？</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>履歴を消去</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>保存されたスキャン%n件をすべて削除します。この操作は取り消せません。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

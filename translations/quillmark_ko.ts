@@ -2688,23 +2688,6 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>검사 기록을 지우겠습니까?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>기록 지우기</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>저장된 검사 %n개를 모두 제거합니다. 이 작업은 취소할 수 없습니다.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -2703,24 +2703,6 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>Scangeschiedenis wissen?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>Wis geschiedenis</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n bewaarde scan wordt verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
-            <numerusform>Alle %n bewaarde scans worden verwijderd. Dit kan niet ongedaan worden gemaakt.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -2718,25 +2718,6 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>Wymazać historię sprawdzeń?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>Wymaż historię</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n zachowane sprawdzenie zostanie usunięte. Nie można tego cofnąć.</numerusform>
-            <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
-            <numerusform>Wszystkie zachowane sprawdzenia (%n) zostaną usunięte. Nie można tego cofnąć.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -2703,24 +2703,6 @@ Tudo o que é lido permanece neste computador.</translation>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>Limpar o histórico de análises?</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>Limpar histórico</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>%n análise salva será removida. Isso não pode ser desfeito.</numerusform>
-            <numerusform>Todas as %n análises salvas serão removidas. Isso não pode ser desfeito.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

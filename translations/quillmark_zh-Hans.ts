@@ -2688,23 +2688,6 @@ Everything it reads stays on this computer.</source>
     </message>
 </context>
 <context>
-    <name>quillmark::app::Dialogs</name>
-    <message>
-        <source>Clear the scan history?</source>
-        <translation>要清除扫描历史记录吗？</translation>
-    </message>
-    <message>
-        <source>Clear history</source>
-        <translation>清除历史记录</translation>
-    </message>
-    <message numerus="yes">
-        <source>All %n saved scans will be removed. This can’t be undone.</source>
-        <translation>
-            <numerusform>将移除全部 %n 次已存储的扫描。此操作无法撤销。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>quillmark::app::ExportDialog</name>
     <message numerus="yes">
         <source>%n pages, US Letter</source>

@@ -56,7 +56,11 @@ void endInOneLine(QtMsgType type, const QMessageLogContext &, const QString &mes
 {
     if (type != QtFatalMsg)
         return;
-    const auto reason = message.section(u'\n', 0, 0);
+    auto reason = message.section(u'\n', 0, 0);
+#ifndef Q_OS_MACOS
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        reason = u"there is no display"_s;
+#endif
     std::fprintf(stderr, "quillmark: no window can be opened: %s\n", qPrintable(reason));
     std::_Exit(1);
 }

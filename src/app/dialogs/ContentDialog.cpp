@@ -7,7 +7,9 @@
 #include "app/painting.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -28,21 +30,21 @@ constexpr int besideDialog = 80;
 ContentDialog::ContentDialog(int width, QWidget *parent)
     : QDialog(parent)
     , m_usualWidth(width)
+    , m_area(new QScrollArea(this))
     , m_content(new QWidget)
     , m_column(new QVBoxLayout(m_content))
     , m_frame(new QVBoxLayout(this))
 {
-    auto *area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->viewport()->setAutoFillBackground(false);
-    area->setWidget(m_content);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setWidgetResizable(true);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->viewport()->setAutoFillBackground(false);
+    m_area->setWidget(m_content);
     m_content->setAutoFillBackground(false); // setWidget() turned it on
     m_frame->setContentsMargins({});
     m_frame->setSpacing(0);
-    m_frame->addWidget(area, 1);
+    m_frame->addWidget(m_area, 1);
     connect(&Appearance::current(), &Appearance::changed, this, [this] {
         if (isVisible())
             fit();
@@ -76,17 +78,24 @@ void ContentDialog::setUp()
 void ContentDialog::fit()
 {
     const auto room = screen()->availableSize() - QSize(besideDialog, besideDialog);
-    const int width = std::min(Appearance::current().scaled(m_usualWidth), room.width());
     m_column->invalidate();
+    // Texts differ in length from language to language.
+    int width = std::max(Appearance::current().scaled(m_usualWidth), m_column->totalMinimumSize().width());
+    for (int row = 0; row < m_frame->count(); ++row)
+        width = std::max(width, m_frame->itemAt(row)->minimumSize().width());
+    width = std::min(width, room.width());
     int height = m_column->totalHeightForWidth(width);
     if (height < 0)
         height = m_column->totalSizeHint().height();
     for (int row = 0; row < m_frame->count(); ++row) {
         auto *beside = m_frame->itemAt(row)->widget();
-        if (!qobject_cast<QScrollArea *>(beside))
+        if (beside != m_area)
             height +=
                 beside->hasHeightForWidth() ? beside->heightForWidth(width) : beside->sizeHint().height();
     }
+    // One that was needed for a moment would take the width that the content needs, and so stay.
+    m_area->setVerticalScrollBarPolicy(height > room.height() ? Qt::ScrollBarAsNeeded
+                                                              : Qt::ScrollBarAlwaysOff);
     setFixedSize(width, std::min(height, room.height()));
 }
 
@@ -98,6 +107,16 @@ void ContentDialog::changeEvent(QEvent *event)
     retranslate();
     if (isVisible())
         fit();
+}
+
+/// A button that has the focus is what Return means, not the dialog's.
+void ContentDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (auto *button = qobject_cast<QPushButton *>(focusWidget()); isReturn && button)
+        button->click();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void ContentDialog::showEvent(QShowEvent *event)

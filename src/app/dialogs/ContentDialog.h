@@ -7,12 +7,13 @@
 
 #include <QDialog>
 
+class QScrollArea;
 class QVBoxLayout;
 
 namespace quillmark::app {
 
-/// A dialog of a fixed width that is as tall as its content, in any language and size of text. Where the
-/// screen is too low for that, the content scrolls and what stands above and below it stays.
+/// A dialog that is as wide as is usual for it, or as its longest words need, and as tall as its content.
+/// Where the screen is too low for that, the content scrolls and what stands above and below it stays.
 class ContentDialog : public QDialog
 {
     Q_OBJECT
@@ -37,12 +38,14 @@ protected:
     void fit();
 
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     int m_usualWidth;
     design::Role m_ground = design::Role::Window;
+    QScrollArea *m_area;
     QWidget *m_content;
     QVBoxLayout *m_column;
     QVBoxLayout *m_frame;

@@ -107,7 +107,8 @@ SettingsDialog *Dialogs::showSettings()
         auto *dialog = new SettingsDialog(m_context, m_updates, &m_window);
         connect(dialog, &SettingsDialog::historyFolderAsked, this,
                 [this] { showInFolder(m_context.history.file()); });
-        connect(dialog, &SettingsDialog::clearingAsked, this, &Dialogs::askToClearHistory);
+        connect(dialog, &SettingsDialog::clearingAsked, this,
+                [this] { m_window.askToClearHistory(activeWindow()); });
         connect(dialog, &SettingsDialog::updateCheckAsked, this, &Dialogs::checkForUpdates);
         return dialog;
     });
@@ -116,16 +117,6 @@ SettingsDialog *Dialogs::showSettings()
 void Dialogs::checkForUpdates()
 {
     m_updateNotices->checkNow(activeWindow());
-}
-
-void Dialogs::askToClearHistory()
-{
-    const auto scans = static_cast<int>(m_context.history.snapshots().size());
-    ask(activeWindow(),
-        {.sentence = tr("Clear the scan history?"),
-         .consequence = tr("All %n saved scans will be removed. This can’t be undone.", nullptr, scans),
-         .verb = tr("Clear history")},
-        [this] { m_context.history.clear(); });
 }
 
 } // namespace quillmark::app

@@ -42,7 +42,6 @@ public:
 private:
     void begin();
     void welcome();
-    void askToClearHistory();
     /// Shows the dialog, or brings it forward; makes it where it is not there yet.
     template <typename Dialog, typename Make>
     Dialog *open(QPointer<Dialog> &dialog, const Make &make);

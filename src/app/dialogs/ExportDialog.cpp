@@ -63,6 +63,7 @@ ExportDialog::ExportDialog(const AppContext &context, QWidget *parent)
         choices->addSpacing(10);
     }
     choices->addSpacing(4);
+    m_leaveOut->setChecked(true); // as on the command line: a report is made to be passed on
     choices->addWidget(m_leaveOut);
     choices->addStretch();
 

@@ -179,9 +179,10 @@ void FirstRunDialog::retranslate()
     //: %1 is the name of a server
     m_asked->setText(
         tr("Asks %1 once a day at most, and tells it Quillmark’s version only.").arg(m_updates.host()));
-    m_asked->setContentsMargins(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
-                                    style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing),
-                                0, 0, 0);
+    const int indent = style()->pixelMetric(QStyle::PM_IndicatorWidth) +
+                       style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    m_asked->setContentsMargins(isMirrored ? 0 : indent, 0, isMirrored ? indent : 0, 0);
     m_showMonitor->setText(QGuiApplication::platformName() == "cocoa"_L1
                                ? tr("Show the live monitor in the menu bar")
                                : tr("Show the live monitor in the status area"));

@@ -54,7 +54,7 @@ SettingsDialog::SettingsDialog(const AppContext &context, update::UpdateChecker 
         m_panes->setCurrentIndex(index);
         retranslate();
     });
-    const auto addKey = [this](const QKeySequence &keys, int by) {
+    const auto addKey = [this](QKeySequence::StandardKey keys, int by) {
         auto *shortcut = new QShortcut(keys, this);
         connect(shortcut, &QShortcut::activated, this, [this, by] { step(by); });
     };

@@ -28,6 +28,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
@@ -76,7 +77,7 @@ ContentView::ContentView(const AppContext &context, QWidget *parent)
 {
     setWindowTitle(u"Quillmark"_s);
     setMinimumSize(leastSize);
-    resize(usualSize);
+    resize(usualSize.boundedTo(screen()->availableSize()).expandedTo(leastSize));
     buildWindow();
     connectActions();
     connectFilters();
@@ -317,6 +318,11 @@ void ContentView::inspect()
     m_sidebar->setInspecting(true);
     // Once that is on the screen.
     QTimer::singleShot(0, this, [this] { m_context.inspection.refresh(); });
+}
+
+void ContentView::askToClearHistory(QWidget *asker)
+{
+    historyPage()->askToClear(asker);
 }
 
 void ContentView::inspectionDone()

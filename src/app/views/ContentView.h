@@ -49,6 +49,8 @@ public:
     Page *currentPage() const;
 
     void inspect();
+    /// Asks in front of that widget's window, and clears the history.
+    void askToClearHistory(QWidget *asker);
     /// Shows the window in front of all others.
     void bringForward();
     /// Back to where it was when it was closed the last time, as far as the screens allow.

@@ -130,7 +130,7 @@ HistoryView::HistoryView(const AppContext &context, QWidget *parent)
     });
     connect(m_model, &HistoryModel::tickedChanged, this, &HistoryView::updateSelection);
     connect(delegate, &HistoryDelegate::removalAsked, this, &HistoryView::askToDelete);
-    connect(m_clear, &QAction::triggered, this, &HistoryView::askToClear);
+    connect(m_clear, &QAction::triggered, this, [this] { askToClear(this); });
     connect(m_inspect, &QAbstractButton::clicked, this, &HistoryView::inspectionAsked);
     connect(m_bar->compare, &QAbstractButton::clicked, this, &HistoryView::compare);
     connect(m_bar->clear, &QAbstractButton::clicked, this, [this] {
@@ -339,7 +339,7 @@ void HistoryView::askToDelete(const QModelIndex &index)
     const auto *scan = m_model->scanAt(index);
     if (!scan)
         return;
-    const auto moment = momentText(scan->date.toLocalTime(), m_context.language.formats());
+    const auto moment = shortMomentText(scan->date.toLocalTime(), m_context.language.formats());
     const auto remove = [this, id = scan->id] {
         const int row = m_model->indexOf(id).row();
         m_toldFailure.reset();
@@ -358,10 +358,10 @@ void HistoryView::askToDelete(const QModelIndex &index)
         remove);
 }
 
-void HistoryView::askToClear()
+void HistoryView::askToClear(QWidget *asker)
 {
     const auto count = static_cast<int>(m_context.history.snapshots().size());
-    ask(this,
+    ask(asker,
         {tr("Clear the scan history?"),
          tr("All %n saved scans will be removed. This can’t be undone.", nullptr, count),
          tr("Clear history")},

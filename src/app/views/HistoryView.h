@@ -47,6 +47,8 @@ public:
     void compare();
     /// Shows what differs between the newest two scans.
     void compareNewest();
+    /// Asks in front of the widget's window, and clears the history.
+    void askToClear(QWidget *asker);
     /// Asks for a notice of it, once: each inspection would fail alike.
     void tellFailure(const history::SaveError &error);
     bool isComparing() const;
@@ -68,7 +70,6 @@ private:
     void updateSelection();
     void showComparison(bool isShown);
     void askToDelete(const QModelIndex &index);
-    void askToClear();
     int pageHeight() const;
 
     const AppContext &m_context;

@@ -66,13 +66,19 @@ void IconButton::setAction(QAction *action, const QString &name)
 void IconButton::setMenu(QMenu *menu)
 {
     m_menu = menu;
-    connect(this, &QAbstractButton::clicked, this, &IconButton::openMenu);
+    connect(this, &QAbstractButton::clicked, this, &IconButton::popUpMenu);
 }
 
 void IconButton::openMenu()
 {
     if (!m_menu)
         return;
+    popUpMenu();
+    m_menu->setActiveAction(m_menu->actions().value(0));
+}
+
+void IconButton::popUpMenu()
+{
     const auto size = m_menu->sizeHint();
     const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
     m_menu->popup(mapToGlobal(QPoint(rightToLeft ? 0 : width() - size.width(), height() + 4)));

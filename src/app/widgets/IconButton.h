@@ -29,6 +29,7 @@ public:
     void setAction(QAction *action, const QString &name);
     /// Opens the menu below the button.
     void setMenu(QMenu *menu);
+    /// The same for a key: the first entry is ready to be chosen.
     void openMenu();
     QSize sizeHint() const override;
 
@@ -37,6 +38,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void popUpMenu();
+
     QString m_symbol;
     int m_iconSize = 18;
     design::Role m_role = design::Role::Text2;

@@ -23,7 +23,7 @@ QMessageBox *makeBox(QWidget *asker, const Question &question)
     auto *box = new QMessageBox(asker);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
-    box->setIcon(QMessageBox::Question);
+    box->setWindowTitle(QStringLiteral("Quillmark"));
     box->setText(question.sentence);
     box->setInformativeText(question.consequence);
     auto *cancel = box->addButton(Text::tr("Cancel"), QMessageBox::RejectRole);
