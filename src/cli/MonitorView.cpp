@@ -253,7 +253,7 @@ void MonitorView::drawCoreColumns(Screen &screen, Area area) const
     const int height = area.height / bands;
     const int step = 2 * perBand - 1 <= area.width ? 2 : 1;
     for (int column = 0; column < columns; ++column) {
-        const auto first = m_model.perCore.begin() + column * group;
+        const auto first = m_model.perCore.begin() + std::ptrdiff_t{column} * group;
         const double load = *std::max_element(first, first + std::min(group, cores - column * group));
         const int bottom = area.row + (column / perBand + 1) * height - 1;
         drawUprightBar(screen, bottom, area.column + column % perBand * step, height, load, Role::Processor);
@@ -295,12 +295,17 @@ void MonitorView::drawMemory(Screen &screen, Area area) const
 void MonitorView::drawNetwork(Screen &screen, Area area) const
 {
     const auto rate = [this](double value) { return monitor::rateText(value, m_formats); };
+    const auto heading = Text::tr("Network");
     //: Network traffic that comes in; the next: that goes out.
-    const std::array<Words, 4> figures = {{{u"↓ "_s + Text::tr("In"), Role::NetworkIn},
-                                           {u" "_s + rate(m_model.networkIn), Role::Text},
-                                           {u"  ↑ "_s + Text::tr("Out"), Role::NetworkOut},
-                                           {u" "_s + rate(m_model.networkOut), Role::Text}}};
-    putTitle(screen, area.row, area.column, area.width, Text::tr("Network"), figures);
+    std::array<Words, 4> figures = {{{u"↓ "_s + Text::tr("In"), Role::NetworkIn},
+                                     {u" "_s + rate(m_model.networkIn), Role::Text},
+                                     {u"  ↑ "_s + Text::tr("Out"), Role::NetworkOut},
+                                     {u" "_s + rate(m_model.networkOut), Role::Text}}};
+    if (textWidth(heading) + 1 + widthOf(figures) > area.width) { // the arrows say it too
+        figures[0].text = u"↓"_s;
+        figures[2].text = u"  ↑"_s;
+    }
+    putTitle(screen, area.row, area.column, area.width, heading, figures);
     const auto topLabel = rate(m_networkTop);
     const std::array<Curve, 2> curves = {
         {{&MonitorModel::Point::networkIn, m_networkTop, topLabel, Role::NetworkIn},

@@ -3,6 +3,7 @@
 
 #include "cli/TerminalReport.h"
 
+#include "inspection/rows.h"
 #include "language/texts.h"
 
 namespace quillmark::cli {
@@ -22,8 +23,10 @@ void addHeadline(TerminalPage &page, const inspection::DeviceSummary &summary)
 {
     page.addParagraph(summary.deviceName, TerminalPage::Weight::Bold);
     page.addParagraph(reports::hardwareLine(summary));
-    page.addParagraph(u"%1 · %2"_s.arg(summary.osVersion, summary.modelIdentifier),
-                      TerminalPage::Weight::Faint);
+    QStringList system = {summary.osVersion};
+    if (summary.modelIdentifier != inspection::missing())
+        system += summary.modelIdentifier;
+    page.addParagraph(system.join(u" · "_s), TerminalPage::Weight::Faint);
 }
 
 void addScore(TerminalPage &page, const reports::Report &report)

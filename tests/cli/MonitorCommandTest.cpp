@@ -232,6 +232,8 @@ void MonitorCommandTest::sizes()
         for (const auto &words : {u"Processor"_s, u"Per core"_s, u"Memory"_s, u"Network"_s,
                                   u"Pressure normal"_s, u"Thermal state"_s})
             QVERIFY2(whole.text().contains(words), qPrintable(whole.text()));
+        // Both rates with their units, whatever else there is room for.
+        QCOMPARE(whole.text().count(u"B/s"_s) >= 2, true);
     }
 }
 
