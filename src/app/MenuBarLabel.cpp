@@ -51,7 +51,7 @@ QString MenuBarLabel::figure() const
 
 QString MenuBarLabel::toolTip() const
 {
-    const auto name = tr("Quillmark live monitor");
+    auto name = tr("Quillmark live monitor");
     const auto shown = figure();
     if (shown.isEmpty())
         return name;

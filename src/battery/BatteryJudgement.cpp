@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 
 namespace quillmark::battery {
@@ -20,7 +21,7 @@ std::optional<int> healthPercentOf(const BatteryReading &reading)
     const auto present = static_cast<double>(reading.presentCapacity.value_or(0));
     if (design <= 0 || present <= 0 || present * 100 > design * mostOfAWorkingGauge)
         return std::nullopt;
-    return std::min(static_cast<int>(present * 100 / design + 0.5), 100);
+    return std::min(static_cast<int>(std::lround(present * 100 / design)), 100);
 }
 
 Health healthOf(std::optional<int> percent)

@@ -27,8 +27,9 @@ std::optional<std::int64_t> numberOf(const PropertyMap &supply, std::string_view
 {
     const std::string_view text = textOf(supply, property);
     std::int64_t number = 0;
-    const auto end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
+    const char *const begin = text.data();
+    const char *const end = begin + text.size();
+    const auto result = std::from_chars(begin, end, number);
     const bool isNumber = result.ec == std::errc() && result.ptr == end;
     return isNumber ? std::optional(number) : std::nullopt;
 }

@@ -55,7 +55,7 @@ private:
     void write(inspection::CapabilityStatus status) { m_json.string(statusText(status)); }
     void write(bool value) { m_json.boolean(value); }
 
-    static constexpr std::size_t usualSize = 16 * 1024; ///< of a laptop's scan, and some
+    static constexpr std::size_t usualSize = std::size_t{16} * 1024; ///< of a laptop's scan, and some
     json::Writer m_json{json::Writer::Layout::Compact, usualSize};
 };
 

@@ -47,10 +47,10 @@ std::optional<Verdict> sealVerdict(const platform::PropertyValue &sealed)
 {
     const auto *flag = std::get_if<bool>(&sealed.value);
     const auto *word = std::get_if<std::string>(&sealed.value);
-    if ((flag && *flag) || (word && *word == "Yes"))
+    if ((flag != nullptr && *flag) || (word && *word == "Yes"))
         //: Of the system volume, which is signed.
         return Verdict{Text::tr("Sealed"), CapabilityStatus::Supported};
-    if (flag || (word && *word == "No"))
+    if (flag != nullptr || (word && *word == "No"))
         return Verdict{Text::tr("Not sealed"), CapabilityStatus::Warning};
     if (word && *word == "Broken")
         return Verdict{Text::tr("Broken"), CapabilityStatus::Warning};

@@ -232,7 +232,7 @@ std::optional<QString> Formats::uptime(std::optional<double> seconds) const
         parts.push_back(formatter.formatDouble(static_cast<double>(amount), status).toString(status));
     };
     const auto minutes = static_cast<std::int64_t>(*seconds) / 60;
-    if (const auto days = minutes / (24 * 60))
+    if (const auto days = minutes / 60 / 24)
         add(days, icu::MeasureUnit::getDay());
     if (const auto hours = minutes / 60 % 24)
         add(hours, icu::MeasureUnit::getHour());

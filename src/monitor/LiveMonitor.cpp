@@ -123,9 +123,11 @@ void LiveMonitor::start()
 
 void LiveMonitor::stop()
 {
-    if (m_clients < 1 || --m_clients > 0)
+    if (m_clients < 1)
         return;
-    Q_EMIT endAsked(QPrivateSignal());
+    --m_clients;
+    if (m_clients == 0)
+        Q_EMIT endAsked(QPrivateSignal());
 }
 
 void LiveMonitor::appendTaken()

@@ -59,13 +59,14 @@ std::vector<std::optional<double>> columns(std::span<const ChartPoint> series, s
     for (std::size_t i = 0; i < series.size(); ++i) {
         const double place = placeOf(series[i]);
         if (place > -0.5)
-            raise(highest[static_cast<std::size_t>(place + 0.5)], series[i].value);
+            raise(highest[static_cast<std::size_t>(std::lround(place))], series[i].value);
         if (!series[i].joinsPrevious)
             continue;
         const double from = placeOf(series[i - 1]);
         const double rise = (series[i].value - series[i - 1].value) / std::max(place - from, 1e-9);
-        for (double at = std::max(std::ceil(from), 0.0); at < place; ++at)
-            raise(highest[static_cast<std::size_t>(at)], series[i - 1].value + (at - from) * rise);
+        const auto first = static_cast<std::size_t>(std::max(std::ceil(from), 0.0));
+        for (auto at = first; static_cast<double>(at) < place; ++at)
+            raise(highest[at], series[i - 1].value + (static_cast<double>(at) - from) * rise);
     }
     return highest;
 }

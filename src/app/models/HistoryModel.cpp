@@ -197,7 +197,7 @@ QString HistoryModel::dateOf(const ScanSnapshot &scan) const
 {
     const auto &formats = m_context.language.formats();
     const auto moment = scan.date.toLocalTime();
-    const auto time = timeText(moment, formats);
+    auto time = timeText(moment, formats);
     const auto group = scanGroup(moment.date(), QDate::currentDate());
     if (group == ScanGroup::Today || group == ScanGroup::Yesterday)
         return time;

@@ -20,7 +20,6 @@ namespace quillmark::app {
 
 using namespace Qt::StringLiterals;
 using design::Role;
-using inspection::CapabilityStatus;
 
 namespace {
 

@@ -210,6 +210,7 @@ void MenuBarMonitorView::follow()
         view.setBeginsGroup(i > 0 && rows[i - 1].kind == MonitorRow::Kind::Swap);
         if (rows[i].kind == MonitorRow::Kind::Processor) {
             std::vector<double> loads;
+            loads.reserve(static_cast<std::size_t>(model.points.size()));
             for (const auto &point : model.points)
                 loads.push_back(point.cpu);
             view.setHistory(std::move(loads));

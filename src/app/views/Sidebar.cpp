@@ -170,7 +170,7 @@ Sidebar::Sidebar(const AppContext &context, QWidget *parent)
             [this] { m_footer->retranslate(); });
     connect(&Appearance::current(), &Appearance::changed, this, &Sidebar::applyAppearance);
     applyAppearance();
-    changeEvent(std::make_unique<QEvent>(QEvent::LanguageChange).get());
+    retranslate();
 }
 
 void Sidebar::setPlace(const QString &place)
@@ -232,8 +232,12 @@ bool Sidebar::eventFilter(QObject *object, QEvent *event)
 void Sidebar::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange)
-        return;
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void Sidebar::retranslate()
+{
     m_model->retranslate();
     m_footer->retranslate();
     m_list->setAccessibleName(tr("Sidebar"));

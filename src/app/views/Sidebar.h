@@ -46,6 +46,7 @@ protected:
 private:
     class Footer;
     class Strip;
+    void retranslate();
     void applyAppearance();
 
     SidebarModel *m_model;

@@ -123,11 +123,12 @@ std::vector<int> ChartTrace::tops() const
 
 void ChartTrace::scroll(int columns)
 {
-    constexpr int pixelBytes = 4;
-    const auto kept = static_cast<std::size_t>((m_picture.width() - columns) * pixelBytes);
+    constexpr std::size_t pixelBytes = 4;
+    const auto gone = static_cast<std::size_t>(columns) * pixelBytes;
+    const auto kept = static_cast<std::size_t>(m_picture.width()) * pixelBytes - gone;
     for (int row = 0; row < m_picture.height(); ++row) {
         auto *pixels = m_picture.scanLine(row);
-        std::memmove(pixels, pixels + columns * pixelBytes, kept);
+        std::memmove(pixels, pixels + gone, kept);
     }
 }
 

@@ -32,6 +32,7 @@ std::vector<std::string> numberedNames(const Files &files, std::string_view fold
     }
     std::ranges::sort(numbered);
     std::vector<std::string> names;
+    names.reserve(numbered.size());
     for (auto &[number, name] : numbered)
         names.push_back(std::move(name));
     return names;

@@ -161,7 +161,7 @@ std::unique_ptr<PathWatch> startPathWatch(const Files &files, Network::PathHandl
         watch =
             std::make_unique<LinuxPathWatch>(files, std::move(handler), std::move(notices), std::move(stop));
     } catch (const std::system_error &) {
-        // No thread to be had: no watch.
+        watch.reset(); // there is no thread to be had
     }
     ::pthread_sigmask(SIG_SETMASK, &previous, nullptr);
     return watch;

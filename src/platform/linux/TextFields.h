@@ -41,8 +41,9 @@ template <typename Number>
 std::optional<Number> parseNumber(std::string_view text, int base = 10)
 {
     Number number = 0;
-    const char *end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number, base);
+    const char *const begin = text.data();
+    const char *const end = begin + text.size();
+    const auto [stop, error] = std::from_chars(begin, end, number, base);
     return error == std::errc() && stop == end ? std::optional<Number>(number) : std::nullopt;
 }
 

@@ -27,6 +27,7 @@ constexpr std::size_t outputLimit = std::size_t{1024} * 1024;
 std::vector<char *> pointers(const std::vector<std::string> &texts)
 {
     std::vector<char *> result;
+    result.reserve(texts.size() + 1);
     for (const std::string &text : texts)
         result.push_back(const_cast<char *>(text.c_str()));
     result.push_back(nullptr);

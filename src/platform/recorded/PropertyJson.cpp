@@ -76,8 +76,9 @@ private:
     {
         const std::string_view digits = m_reader.text();
         std::uint64_t whole = 0;
-        const auto end = digits.data() + digits.size();
-        const auto result = std::from_chars(digits.data(), end, whole);
+        const char *const begin = digits.data();
+        const char *const end = begin + digits.size();
+        const auto result = std::from_chars(begin, end, whole);
         if (result.ec == std::errc() && result.ptr == end)
             return {whole};
         return {m_reader.number()};

@@ -15,7 +15,7 @@
 namespace quillmark::platform {
 
 /// The largest recording that is read, in bytes. Real ones have a few thousand.
-inline constexpr std::size_t maximumRecordingSize = 16 * 1024 * 1024;
+inline constexpr std::size_t maximumRecordingSize = std::size_t{16} * 1024 * 1024;
 
 /// Why a recording cannot stand in for a machine: one line that names the file and, where there is one, the
 /// member.

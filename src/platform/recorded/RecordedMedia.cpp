@@ -51,6 +51,7 @@ std::optional<std::uint32_t> codeFromText(std::string_view text)
 std::vector<VideoEncoder> readEncoders(const std::vector<Members> &list)
 {
     std::vector<VideoEncoder> encoders;
+    encoders.reserve(list.size());
     for (const auto &encoder : list) {
         encoders.push_back(
             {.codecType = encoder.required(encoder.fourCharacterCode("codecType"), "codecType"),
