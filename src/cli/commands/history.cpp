@@ -25,7 +25,6 @@ namespace {
 
 using history::HistoryFile;
 using history::ScanHistory;
-using history::ScanSnapshot;
 using history::StoredSnapshot;
 
 using Result = std::expected<void, Failure>;
