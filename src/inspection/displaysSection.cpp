@@ -44,7 +44,7 @@ bool isVariable(const Display &display)
 
 QString resolutionText(const Display &display, const language::Formats &formats)
 {
-    const auto size = sizeText(*display.pixels);
+    auto size = sizeText(*display.pixels);
     if (!display.rate)
         return size;
     const auto rate = shortNumber(*display.rate, 2, formats);

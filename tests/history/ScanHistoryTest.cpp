@@ -299,18 +299,26 @@ void ScanHistoryTest::keepsTheUnreadableAside()
     const auto aside = [this](const QString &name) {
         return m_folder->filePath(u"History/snapshots.unreadable%1.json"_s.arg(name));
     };
-    for (const QByteArray text : {"first", "second"}) {
+    const QByteArray first(100'000, '1');
+    const QByteArray second(100'000, '2');
+    for (const auto &text : {first, second}) {
         write(m_path, text);
         ScanHistory history(m_language, m_path);
         QVERIFY(history.snapshots().isEmpty());
-        QVERIFY(!QFileInfo::exists(aside(text == "first" ? u""_s : u"-2"_s)));
-        record(history, u"a"_s);
+        {
+            const FileSizeLimit noRoom;
+            expectLogged(u"the unreadable history could not be copied aside: File too large"_s);
+            record(history, u"a"_s);
+            QVERIFY(!history.flush());
+        }
+        QCOMPARE(contents(m_path), text);
+        QVERIFY(!QFileInfo::exists(aside(text == first ? u""_s : u"-2"_s)));
         record(history, u"b"_s);
         QVERIFY(history.flush());
         QCOMPARE(values(snapshotsIn(m_path)), u"b a"_s);
     }
-    QCOMPARE(contents(aside({})), QByteArray("first"));
-    QCOMPARE(contents(aside(u"-2"_s)), QByteArray("second"));
+    QCOMPARE(contents(aside({})), first);
+    QCOMPARE(contents(aside(u"-2"_s)), second);
     QVERIFY(!QFileInfo::exists(aside(u"-3"_s)));
 }
 

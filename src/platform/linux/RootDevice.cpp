@@ -47,7 +47,7 @@ std::optional<std::string> encryptionOf(const Files &files, const std::string &d
 std::optional<std::string> rootDevice(const Files &files, const MountTable &mountTable)
 {
     const auto root = mountTable.root();
-    const std::string name = root ? deviceName(files, *root) : std::string();
+    std::string name = root ? deviceName(files, *root) : std::string();
     if (name.empty() || !files.exists(std::string(deviceFolder) + name))
         return std::nullopt;
     return name;

@@ -121,12 +121,12 @@ Block counts(const ReportDocument &document, Typesetter &typesetter, qreal x)
     for (std::size_t i = 0; i < cells.size(); i += 2)
         columns[1] = std::max(columns[1], wordAt + cells[i].word->width() + 24);
 
-    const auto lineOf = [](std::size_t cell) { return static_cast<qreal>(cell / 2); };
-    const qreal lines = lineOf(cells.size() + 1);
-    return {pitch * lines, [=](Canvas &canvas, qreal top) {
+    const std::size_t lines = (cells.size() + 1) / 2;
+    return {pitch * static_cast<qreal>(lines), [=](Canvas &canvas, qreal top) {
                 for (std::size_t i = 0; i < cells.size(); ++i) {
                     const qreal left = x + columns[i % 2];
-                    const qreal lineTop = top + pitch * lineOf(i);
+                    const std::size_t line = i / 2;
+                    const qreal lineTop = top + pitch * static_cast<qreal>(line);
                     const auto &[look, figure, word] = cells[i];
                     const qreal textTop = lineTop + (pitch - word->height()) / 2;
                     canvas.icon({left, lineTop + (pitch - mark) / 2, mark, mark}, look.symbol, look.mark);
