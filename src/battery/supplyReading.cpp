@@ -4,9 +4,9 @@
 #include "battery/supplyReading.h"
 
 #include "battery/figures.h"
+#include "platform/parseNumber.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <string_view>
 
@@ -25,13 +25,7 @@ std::string_view textOf(const PropertyMap &supply, std::string_view property)
 
 std::optional<std::int64_t> numberOf(const PropertyMap &supply, std::string_view property)
 {
-    const std::string_view text = textOf(supply, property);
-    std::int64_t number = 0;
-    const char *const begin = text.data();
-    const char *const end = begin + text.size();
-    const auto result = std::from_chars(begin, end, number);
-    const bool isNumber = result.ec == std::errc() && result.ptr == end;
-    return isNumber ? std::optional(number) : std::nullopt;
+    return platform::parseNumber<std::int64_t>(textOf(supply, property));
 }
 
 /// The kernel counts in millionths, this program in thousandths.

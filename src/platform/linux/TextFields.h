@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <charconv>
+#include "platform/parseNumber.h" // the fields are numbers as often as words
+
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -35,16 +36,5 @@ LabelledValue splitLabel(std::string_view line, char separator);
 
 /// The value of the first line "label=value", as in a uevent file; none when there is no such line.
 std::optional<std::string_view> assignedValue(std::string_view lines, std::string_view label);
-
-/// The number if all of the text is one that the type holds.
-template <typename Number>
-std::optional<Number> parseNumber(std::string_view text, int base = 10)
-{
-    Number number = 0;
-    const char *const begin = text.data();
-    const char *const end = begin + text.size();
-    const auto [stop, error] = std::from_chars(begin, end, number, base);
-    return error == std::errc() && stop == end ? std::optional<Number>(number) : std::nullopt;
-}
 
 } // namespace quillmark::platform

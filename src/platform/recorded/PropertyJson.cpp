@@ -3,7 +3,8 @@
 
 #include "platform/recorded/PropertyJson.h"
 
-#include <charconv>
+#include "platform/parseNumber.h"
+
 #include <utility>
 
 namespace quillmark::platform {
@@ -17,11 +18,10 @@ std::optional<Bytes> parseHexadecimal(std::string_view text)
     Bytes bytes;
     bytes.reserve(text.size() / 2);
     for (std::size_t i = 0; i < text.size(); i += 2) {
-        unsigned byte = 0;
-        const auto result = std::from_chars(text.data() + i, text.data() + i + 2, byte, 16);
-        if (result.ec != std::errc() || result.ptr != text.data() + i + 2)
+        const auto byte = parseNumber<unsigned char>(text.substr(i, 2), 16);
+        if (!byte)
             return std::nullopt;
-        bytes.push_back(static_cast<std::byte>(byte));
+        bytes.push_back(std::byte(*byte));
     }
     return bytes;
 }
@@ -74,14 +74,8 @@ private:
     /// A negative number that was printed as an unsigned one is still whole.
     PropertyValue number() const
     {
-        const std::string_view digits = m_reader.text();
-        std::uint64_t whole = 0;
-        const char *const begin = digits.data();
-        const char *const end = begin + digits.size();
-        const auto result = std::from_chars(begin, end, whole);
-        if (result.ec == std::errc() && result.ptr == end)
-            return {whole};
-        return {m_reader.number()};
+        const auto whole = parseNumber<std::uint64_t>(m_reader.text());
+        return whole ? PropertyValue{*whole} : PropertyValue{m_reader.number()};
     }
 
     std::optional<PropertyValue> object()
