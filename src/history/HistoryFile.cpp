@@ -77,13 +77,6 @@ QString freeNameAside(const QString &path)
     }
 }
 
-/// Why it cannot be told what stands there. Empty where that can be told, and where there is nothing.
-QString faultInReaching(const QString &path)
-{
-    const auto found = platform::exists(pathOf(path));
-    return found ? QString() : messageOf(found.error().number);
-}
-
 QByteArray arrayOf(const QList<QByteArray> &elements)
 {
     qsizetype size = 2;
@@ -111,13 +104,14 @@ HistoryFile::HistoryFile(const QString &path, std::chrono::milliseconds patience
 HistoryFile::Contents HistoryFile::read()
 {
     // Asked before reading: a file that is replaced in between counts as changed, and is read once more.
-    m_version = versionOf(m_path);
+    const auto version = versionOf(m_path);
+    m_version = version.value_or(std::nullopt);
     m_isUnreadable = false;
     Contents contents;
-    if (!m_version) {
-        contents.fault = faultInReaching(m_path);
+    if (!version)
+        contents.fault = version.error();
+    if (!m_version)
         return contents;
-    }
     m_isUnreadable = true;
     auto text = readText();
     if (!text) {
@@ -136,10 +130,11 @@ HistoryFile::Contents HistoryFile::read()
 
 std::expected<std::vector<ScanDigest>, QString> HistoryFile::readDigests() const
 {
-    if (!versionOf(m_path)) {
-        const auto fault = faultInReaching(m_path);
-        return fault.isEmpty() ? std::expected<std::vector<ScanDigest>, QString>() : std::unexpected(fault);
-    }
+    const auto version = versionOf(m_path);
+    if (!version)
+        return std::unexpected(version.error());
+    if (!*version)
+        return {};
     const auto text = readText();
     return text ? decodeDigests(*text) : std::unexpected(text.error());
 }
@@ -165,7 +160,7 @@ std::expected<void, SaveError> HistoryFile::claim()
 
 bool HistoryFile::hasChanged() const
 {
-    return versionOf(m_path) != m_version;
+    return versionOf(m_path).value_or(std::nullopt) != m_version;
 }
 
 std::expected<void, SaveError> HistoryFile::write(const QList<QByteArray> &snapshots)
@@ -186,16 +181,17 @@ std::expected<void, SaveError> HistoryFile::write(const QList<QByteArray> &snaps
     }
     if (const auto replaced = replace(m_path, arrayOf(snapshots)); !replaced)
         return replaced;
-    m_version = versionOf(m_path);
+    m_version = versionOf(m_path).value_or(std::nullopt);
     return {};
 }
 
-std::optional<HistoryFile::Version> HistoryFile::versionOf(const QString &path)
+std::expected<std::optional<HistoryFile::Version>, QString> HistoryFile::versionOf(const QString &path)
 {
     const auto name = pathOf(path);
     struct stat found = {};
     if (stat(name.c_str(), &found) != 0)
-        return std::nullopt;
+        return errno == ENOENT ? std::expected<std::optional<Version>, QString>()
+                               : std::unexpected(messageOf(errno));
     std::error_code error;
     const auto modified = std::filesystem::last_write_time(name, error).time_since_epoch();
     return Version{.device = static_cast<quint64>(found.st_dev),

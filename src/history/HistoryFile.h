@@ -79,7 +79,8 @@ private:
     };
 
     std::expected<QByteArray, QString> readText() const;
-    static std::optional<Version> versionOf(const QString &path);
+    /// None: there is no file. Otherwise why it cannot be told what stands there.
+    static std::expected<std::optional<Version>, QString> versionOf(const QString &path);
     std::expected<bool, SaveError> takeLock();
     std::expected<void, SaveError> keepAside() const;
 
