@@ -2990,14 +2990,6 @@ Everything it reads stays on this computer.</source>
         <translation>درجة القدرات %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 ذاكرة</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 تخزين</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>نسبة القدرات المقيّمة التي يدعمها هذا الـ Mac</translation>
     </message>

@@ -2918,14 +2918,6 @@ Alles, was gelesen wird, bleibt auf diesem Computer.</translation>
         <translation>Fähigkeitswert %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 Arbeitsspeicher</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 Speicherplatz</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>Anteil der bewerteten Fähigkeiten, die dieser Mac unterstützt</translation>
     </message>

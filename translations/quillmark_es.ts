@@ -2918,14 +2918,6 @@ Todo lo que lee se queda en este ordenador.</translation>
         <translation>Puntuación de capacidades %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 de memoria</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 de almacenamiento</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>Parte de las capacidades valoradas que este Mac admite</translation>
     </message>

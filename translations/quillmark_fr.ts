@@ -2918,14 +2918,6 @@ Tout ce qui est lu reste sur cet ordinateur.</translation>
         <translation>Score de capacités %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 de mémoire</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 de stockage</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>Part des capacités évaluées que ce Mac prend en charge</translation>
     </message>

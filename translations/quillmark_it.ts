@@ -2918,14 +2918,6 @@ Tutto ciò che legge resta su questo computer.</translation>
         <translation>Punteggio delle capacità %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 di memoria</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 di archiviazione</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>Parte delle capacità valutate che questo Mac supporta</translation>
     </message>

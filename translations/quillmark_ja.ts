@@ -2900,14 +2900,6 @@ Everything it reads stays on this computer.</source>
         <translation>機能スコア: %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>メモリ%1</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>ストレージ%1</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>評価対象の機能のうち、このMacが対応する割合</translation>
     </message>

@@ -2900,14 +2900,6 @@ Everything it reads stays on this computer.</source>
         <translation>기능 점수: %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>메모리 %1</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>저장 공간 %1</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>평가 대상 기능 중 이 Mac이 지원하는 비율</translation>
     </message>

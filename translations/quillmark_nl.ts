@@ -2918,14 +2918,6 @@ Alles wat wordt gelezen, blijft op deze computer.</translation>
         <translation>Capaciteitsscore %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 geheugen</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 opslag</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>Deel van de beoordeelde mogelijkheden dat deze Mac ondersteunt</translation>
     </message>

@@ -2936,14 +2936,6 @@ Wszystkie odczytane dane pozostają na tym komputerze.</translation>
         <translation>Ocena możliwości %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 pamięci</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 pamięci masowej</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>Część ocenianych możliwości, które obsługuje ten Mac</translation>
     </message>

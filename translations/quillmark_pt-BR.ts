@@ -2918,14 +2918,6 @@ Tudo o que é lido permanece neste computador.</translation>
         <translation>Pontuação de recursos: %1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 de memória</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 de armazenamento</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>Parcela dos recursos avaliados que este Mac oferece</translation>
     </message>

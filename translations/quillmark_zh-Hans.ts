@@ -2900,14 +2900,6 @@ Everything it reads stays on this computer.</source>
         <translation>能力评分：%1</translation>
     </message>
     <message>
-        <source>%1 memory</source>
-        <translation>%1 内存</translation>
-    </message>
-    <message>
-        <source>%1 storage</source>
-        <translation>%1 储存空间</translation>
-    </message>
-    <message>
         <source>Share of rated capabilities that this Mac supports</source>
         <translation>这台 Mac 所支持的评定能力的比例</translation>
     </message>

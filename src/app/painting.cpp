@@ -209,4 +209,11 @@ QString isolated(const QString &machineText)
     return firstStrongIsolate + machineText + popDirectionalIsolate;
 }
 
+QStringList isolated(QStringList machineTexts)
+{
+    for (auto &text : machineTexts)
+        text = isolated(text);
+    return machineTexts;
+}
+
 } // namespace quillmark::app

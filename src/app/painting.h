@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 #include <Qt>
 
 class QFont;
@@ -19,6 +20,7 @@ namespace quillmark::app {
 /// Radii of corners, in logical pixels.
 inline constexpr qreal cardRadius = 12;
 inline constexpr qreal buttonRadius = 8;
+inline constexpr int buttonPadding = 12; ///< between a button's word and its edge
 
 /// Begins to remember how the focus came to where it is. Once there is a QApplication; more calls do nothing.
 void watchFocus();
@@ -59,5 +61,6 @@ QRectF placed(const QRectF &rectangle, const QRectF &bounds, Qt::LayoutDirection
 
 /// What the machine calls something, kept from being reordered by a text around it that runs the other way.
 QString isolated(const QString &machineText);
+QStringList isolated(QStringList machineTexts); ///< each of them
 
 } // namespace quillmark::app

@@ -3,7 +3,6 @@
 
 #include "cli/TerminalReport.h"
 
-#include "inspection/rows.h"
 #include "language/texts.h"
 
 namespace quillmark::cli {
@@ -23,10 +22,7 @@ void addHeadline(TerminalPage &page, const inspection::DeviceSummary &summary)
 {
     page.addParagraph(summary.deviceName, TerminalPage::Weight::Bold);
     page.addParagraph(reports::hardwareLine(summary));
-    QStringList system = {summary.osVersion};
-    if (summary.modelIdentifier != inspection::missing())
-        system += summary.modelIdentifier;
-    page.addParagraph(system.join(u" · "_s), TerminalPage::Weight::Faint);
+    page.addParagraph(reports::systemFacts(summary).join(u" · "_s), TerminalPage::Weight::Faint);
 }
 
 void addScore(TerminalPage &page, const reports::Report &report)

@@ -86,8 +86,8 @@ QString scoreLine(const Report &report)
              formats.count(rated));
 }
 
-QString hardwareLine(const inspection::DeviceSummary &summary,
-                     const std::function<QString(const QString &)> &shown)
+QStringList hardwareFacts(const inspection::DeviceSummary &summary,
+                          const std::function<QString(const QString &)> &shown)
 {
     const auto text = [&shown](const QString &raw) { return shown ? shown(raw) : raw; };
     QStringList parts;
@@ -97,15 +97,30 @@ QString hardwareLine(const inspection::DeviceSummary &summary,
         parts += Text::tr("%1 memory").arg(text(summary.memory));
     if (isKnown(summary.storage))
         parts += Text::tr("%1 storage").arg(text(summary.storage));
-    return parts.join(QStringLiteral(" · "));
+    return parts;
+}
+
+QStringList systemFacts(const inspection::DeviceSummary &summary)
+{
+    QStringList parts;
+    for (const auto &fact : {summary.osVersion, summary.modelIdentifier}) {
+        if (isKnown(fact))
+            parts += singleLine(fact);
+    }
+    return parts;
+}
+
+QString hardwareLine(const inspection::DeviceSummary &summary,
+                     const std::function<QString(const QString &)> &shown)
+{
+    return hardwareFacts(summary, shown).join(QStringLiteral(" · "));
 }
 
 QString machineLine(const inspection::DeviceSummary &summary)
 {
-    QStringList parts = {hardwareLine(summary)};
+    auto parts = hardwareFacts(summary);
     if (isKnown(summary.osVersion))
         parts += singleLine(summary.osVersion);
-    parts.removeAll(QString());
     return parts.join(QStringLiteral(" · "));
 }
 

@@ -53,8 +53,13 @@ QString suggestedFileName(const Report &report, const QString &extension);
 /// The version of this program, "1.0.0".
 QString applicationVersion();
 
-/// "Apple M2 · 16 GB memory · 494.38 GB storage"; what is not known is left out. `shown` may change the
+/// "Apple M2", "16 GB memory", "494.38 GB storage"; what is not known is left out. `shown` may change the
 /// machine's own texts before they stand among others.
+QStringList hardwareFacts(const inspection::DeviceSummary &summary,
+                          const std::function<QString(const QString &)> &shown = {});
+/// "macOS 15.3.1 Sequoia (24D70)", "Mac15,10"; likewise.
+QStringList systemFacts(const inspection::DeviceSummary &summary);
+/// The facts of the hardware in a line, a dot between them.
 QString hardwareLine(const inspection::DeviceSummary &summary,
                      const std::function<QString(const QString &)> &shown = {});
 

@@ -10,6 +10,7 @@
 #include "app/widgets/IconTile.h"
 #include "app/widgets/ScoreRing.h"
 #include "inspection/Quillmark.h"
+#include "reports/Report.h"
 
 #include <QHelpEvent>
 #include <QLocale>
@@ -53,12 +54,6 @@ constexpr auto patience = 8s;
 
 /// Stands between facts in a line.
 constexpr QStringView parted = u"\u2002·\u2002";
-
-/// What has a value: unreadable facts are a dash.
-bool isKnown(const QString &fact)
-{
-    return !fact.isEmpty() && fact != u"—"_s;
-}
 
 } // namespace
 
@@ -104,7 +99,7 @@ void HeadlineCard::update()
     m_ring->setAccessibleDescription(scoreInWords());
     m_ring->setToolTip(m_isCompact ? scoreMeaning() + u'\n' + scoreCount() : QString());
     QStringList facts = {summary->deviceName};
-    facts += hardware();
+    facts += reports::hardwareFacts(*summary);
     facts += summary->osVersion;
     //: The overview's first card, for screen readers. %1 is the machine and its parts, %2 "Capability score
     //: 85 percent, 35 of 41 capabilities supported"
@@ -167,19 +162,6 @@ void HeadlineCard::watchProgress()
         m_patience.stop();
         m_takesLong = false;
     }
-}
-
-QStringList HeadlineCard::hardware() const
-{
-    const auto &summary = *m_context.inspection.summary();
-    QStringList parts;
-    if (isKnown(summary.chip))
-        parts += summary.chip;
-    if (isKnown(summary.memory))
-        parts += tr("%1 memory").arg(summary.memory);
-    if (isKnown(summary.storage))
-        parts += tr("%1 storage").arg(summary.storage);
-    return parts;
 }
 
 QString HeadlineCard::scoreMeaning() const
@@ -262,9 +244,7 @@ QList<HeadlineCard::Paragraph> HeadlineCard::machine() const
     if (m_isCompact)
         nameFont.setPointSizeF(nameFont.pointSizeF() * compactNameSize / 22);
     const auto factFont = appearance.font(TextRole::Heading, QFont::Normal);
-    auto parts = hardware();
-    for (auto &part : parts)
-        part = isolated(part);
+    auto parts = isolated(reports::hardwareFacts(summary));
     QList<Paragraph> paragraphs = {{isolated(summary.deviceName), nameFont, Role::Text}};
     const auto oneLine = parts.join(parted);
     constexpr qreal gap = 3;
@@ -274,10 +254,8 @@ QList<HeadlineCard::Paragraph> HeadlineCard::machine() const
     } else {
         paragraphs += {oneLine, factFont, Role::Text, gap};
     }
-    QStringList system = {isolated(summary.osVersion)};
-    if (isKnown(summary.modelIdentifier))
-        system += isolated(summary.modelIdentifier);
-    paragraphs += {system.join(u" · "_s), appearance.font(TextRole::Small), Role::Text3, gap};
+    paragraphs += {isolated(reports::systemFacts(summary)).join(u" · "_s), appearance.font(TextRole::Small),
+                   Role::Text3, gap};
     return paragraphs;
 }
 

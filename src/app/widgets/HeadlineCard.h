@@ -53,7 +53,6 @@ private:
 
     void arrange();
     void watchProgress();
-    QStringList hardware() const;
     QString scoreMeaning() const;
     QString scoreCount() const;
     QString scoreInWords() const;
