@@ -148,6 +148,34 @@ private Q_SLOTS:
         QVERIFY(window.findChild<QListView *>()->selectionModel()->hasSelection());
     }
 
+    void aSearchThatBeganElsewhereLeadsBackThere()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        stage.inspect();
+        app::ContentView window(stage.context);
+        window.QWidget::show();
+        auto *search = window.findChild<QLineEdit *>();
+        for (const auto *typed : {"", "metal"}) {
+            window.showPlace(app::place::history); // which has no search
+            auto *history = window.currentPage();
+            window.actions().find->trigger();
+            QVERIFY(search->isVisible());
+            search->setFocus();
+            QTRY_VERIFY(search->hasFocus());
+            QTest::keyClicks(search, QString::fromLatin1(typed));
+            QTest::keyClick(search, Qt::Key_Escape);
+            QCOMPARE(window.place(), app::place::history);
+            QCOMPARE(window.currentPage(), history);
+            QVERIFY(search->text().isEmpty());
+        }
+        // Having gone on from there, Esc has nothing to do with it any more.
+        window.actions().find->trigger();
+        window.showPlace(app::place::ofSection(u"graphics"_s));
+        QTest::keyClicks(search, u"metal"_s);
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(window.place(), app::place::ofSection(u"graphics"_s));
+    }
+
     void tellsThatTheHistoryIsNotSaved()
     {
         AppStage stage(recordingText(u"macbook-pro-m3-max"_s));

@@ -7,13 +7,10 @@
 #include "app/models/Place.h"
 #include "app/painting.h"
 #include "app/settingKeys.h"
-#include "app/views/BatteryView.h"
 #include "app/views/Header.h"
 #include "app/views/HistoryView.h"
-#include "app/views/MonitorView.h"
-#include "app/views/OverviewPage.h"
+#include "app/views/PageStack.h"
 #include "app/views/ResultsPage.h"
-#include "app/views/SectionPage.h"
 #include "app/views/Sidebar.h"
 #include "app/widgets/NoticeBar.h"
 #include "history/ScanHistory.h"
@@ -30,7 +27,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
-#include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -72,7 +68,7 @@ ContentView::ContentView(const AppContext &context, QWidget *parent)
     , m_sidebar(new Sidebar(context, this))
     , m_header(new Header(m_actions, !hasMenuBar(), this))
     , m_notices(new NoticeBar(this))
-    , m_stack(new QStackedWidget(this))
+    , m_pages(new PageStack(context, this))
     , m_searchPause(new QTimer(this))
 {
     setWindowTitle(u"Quillmark"_s);
@@ -81,6 +77,7 @@ ContentView::ContentView(const AppContext &context, QWidget *parent)
     buildWindow();
     connectActions();
     connectFilters();
+    connectPages();
 
     connect(m_sidebar, &Sidebar::placeChosen, this, &ContentView::showPlace);
     connect(m_sidebar, &Sidebar::pageAsked, this,
@@ -97,7 +94,7 @@ ContentView::ContentView(const AppContext &context, QWidget *parent)
     connect(&m_context.inspection, &inspection::Quillmark::refreshed, this, &ContentView::inspectionDone);
     // The history's page tells of it, and may not have been made yet.
     connect(&m_context.history, &history::ScanHistory::saveFailed, this,
-            [this](const history::SaveError &error) { historyPage()->tellFailure(error); });
+            [this](const history::SaveError &error) { m_pages->history()->tellFailure(error); });
     // The rows are in the language that they were made in.
     connect(&m_context.language, &language::LanguageManager::languageChanged, this, [this] {
         if (m_context.inspection.lastUpdated())
@@ -108,9 +105,7 @@ ContentView::ContentView(const AppContext &context, QWidget *parent)
 
 ContentView::~ContentView()
 {
-    // The pages go while what they are connected to is still whole.
-    for (const auto &[kind, page] : m_pages)
-        delete page;
+    delete m_pages; // while what the pages are connected to is still whole
 }
 
 void ContentView::buildWindow()
@@ -124,7 +119,7 @@ void ContentView::buildWindow()
     column->setSpacing(0);
     column->addWidget(m_header);
     column->addWidget(m_notices);
-    column->addWidget(m_stack, 1);
+    column->addWidget(m_pages, 1);
     row->addLayout(column, 1);
     setCentralWidget(center);
 
@@ -158,12 +153,7 @@ void ContentView::connectActions()
         if (currentPage()->canDelete())
             currentPage()->deleteSelected();
     });
-    connectTo(m_actions.find, [this] {
-        if (!currentPage()->isSearchable())
-            showPlace(place::overview);
-        m_header->search()->setFocus(Qt::ShortcutFocusReason);
-        m_header->search()->selectAll();
-    });
+    connectTo(m_actions.find, &ContentView::beginSearch);
     connectTo(m_actions.overview, [this] { showPlace(place::overview); });
     connectTo(m_actions.history, [this] { showPlace(place::history); });
     connectTo(m_actions.battery, [this] { showPlace(place::battery); });
@@ -186,57 +176,20 @@ void ContentView::connectFilters()
                 [this, filter] { currentPage()->setStatus(statusAt(filter)); });
 }
 
-template <typename Kind>
-Kind *ContentView::page(const std::function<void(Kind &)> &connectPage)
+void ContentView::connectPages()
 {
-    auto &slot = m_pages[&Kind::staticMetaObject];
-    if (!slot) {
-        auto *made = new Kind(m_context, m_stack);
-        slot = made;
-        m_stack->addWidget(made);
-        connect(made, &Page::headerChanged, this, &ContentView::updateHeader);
-        connect(made, &Page::statusChanged, this, &ContentView::updateActions);
-        connect(made, &Page::copied, m_header, &Header::showCopied);
-        connect(made, &Page::noticeAsked, m_notices, &NoticeBar::show);
-        if (connectPage)
-            connectPage(*made);
-    }
-    return static_cast<Kind *>(slot);
-}
-
-HistoryView *ContentView::historyPage()
-{
-    return page<HistoryView>([this](HistoryView &view) {
-        connect(&view, &HistoryView::inspectionAsked, this, &ContentView::inspect);
-    });
-}
-
-Page *ContentView::pageAt(const QString &place)
-{
-    if (const auto key = place::sectionKey(place); !key.isEmpty()) {
-        auto *section = page<SectionPage>();
-        section->setSection(key);
-        return section;
-    }
-    if (place == place::history)
-        return historyPage();
-    if (place == place::battery)
-        return page<BatteryView>();
-    if (place == place::monitor)
-        return page<MonitorView>();
-    return page<OverviewPage>([this](OverviewPage &overview) {
-        connect(&overview, &OverviewPage::sectionChosen, this,
-                [this](const QString &key) { showPlace(place::ofSection(key)); });
-        connect(&overview, &OverviewPage::comparisonAsked, this, [this] {
-            showPlace(place::history);
-            historyPage()->compareNewest();
-        });
-    });
+    connect(m_pages, &PageStack::headerChanged, this, &ContentView::updateHeader);
+    connect(m_pages, &PageStack::statusChanged, this, &ContentView::updateActions);
+    connect(m_pages, &PageStack::copied, m_header, &Header::showCopied);
+    connect(m_pages, &PageStack::noticeAsked, m_notices, &NoticeBar::show);
+    connect(m_pages, &PageStack::placeChosen, this, &ContentView::showPlace);
+    connect(m_pages, &PageStack::searchCleared, m_header->search(), &QLineEdit::clear);
+    connect(m_pages, &PageStack::inspectionAsked, this, &ContentView::inspect);
 }
 
 Page *ContentView::currentPage() const
 {
-    return static_cast<Page *>(m_stack->currentWidget());
+    return m_pages->current();
 }
 
 void ContentView::showPlace(const QString &place)
@@ -248,23 +201,28 @@ void ContentView::showPlace(const QString &place)
             m_visited.removeFirst();
     }
     m_place = target;
+    m_isHereToSearch = false;
     m_header->search()->clear();
     m_searchPause->stop();
     m_sidebar->setPlace(m_place);
-    show(pageAt(m_place));
+    show(m_pages->at(m_place));
 }
 
 void ContentView::show(Page *page)
 {
-    m_stack->setCurrentWidget(page);
+    m_pages->setCurrentWidget(page);
     updateHeader();
     updateActions();
 }
 
-bool ContentView::isSearching() const
+void ContentView::beginSearch()
 {
-    const auto results = m_pages.find(&ResultsPage::staticMetaObject);
-    return results != m_pages.end() && results->second == currentPage();
+    if (!currentPage()->isSearchable()) {
+        showPlace(place::overview);
+        m_isHereToSearch = true;
+    }
+    m_header->search()->setFocus(Qt::ShortcutFocusReason);
+    m_header->search()->selectAll();
 }
 
 void ContentView::searchFor(const QString &text)
@@ -272,18 +230,15 @@ void ContentView::searchFor(const QString &text)
     m_searchPause->stop();
     const auto wanted = text.trimmed();
     if (wanted.isEmpty()) {
-        if (isSearching()) {
+        if (m_pages->showsResults()) {
             m_sidebar->setPlace(m_place);
-            show(pageAt(m_place));
+            show(m_pages->at(m_place));
         }
         return;
     }
-    auto *results = page<ResultsPage>([this](ResultsPage &made) {
-        connect(&made, &ResultsPage::searchCleared, m_header->search(), &QLineEdit::clear);
-    });
-    results->setSearch(wanted);
+    m_pages->results()->setSearch(wanted);
     m_sidebar->setPlace({});
-    show(results);
+    show(m_pages->results());
 }
 
 void ContentView::updateHeader()
@@ -322,7 +277,7 @@ void ContentView::inspect()
 
 void ContentView::askToClearHistory(QWidget *asker)
 {
-    historyPage()->askToClear(asker);
+    m_pages->history()->askToClear(asker);
 }
 
 void ContentView::inspectionDone()
@@ -349,13 +304,41 @@ void ContentView::copyAsText()
 
 void ContentView::goBack()
 {
-    if (isSearching())
+    if (m_pages->showsResults())
+        leaveSearch();
+    else if (!currentPage()->goBack())
+        showLastVisited();
+}
+
+void ContentView::showLastVisited()
+{
+    if (m_visited.isEmpty())
+        return;
+    const auto before = m_visited.takeLast();
+    showPlace(before);
+    m_visited.removeLast(); // where one came back from
+}
+
+void ContentView::leaveSearch()
+{
+    if (!m_isHereToSearch) {
         m_header->search()->clear();
-    else if (!currentPage()->goBack() && !m_visited.isEmpty()) {
-        const auto before = m_visited.takeLast();
-        showPlace(before);
-        m_visited.removeLast(); // where one came back from
+        return;
     }
+    showLastVisited();
+    currentPage()->firstStop()->setFocus(Qt::OtherFocusReason);
+}
+
+/// Leaves what is in the way first.
+void ContentView::escape()
+{
+    const bool isSearching = !m_header->search()->text().isEmpty();
+    if (isSearching || (m_isHereToSearch && m_header->search()->hasFocus()))
+        leaveSearch();
+    else if (m_notices->isShown())
+        m_notices->dismiss();
+    else
+        currentPage()->goBack();
 }
 
 void ContentView::bringForward()
@@ -383,7 +366,7 @@ void ContentView::saveWindow()
     settings.setValue(keys::windowGeometry, saveGeometry());
     settings.setValue(keys::sidebarHidden, m_actions.hideSidebar->isChecked());
     settings.setValue(keys::lastPlace, m_place);
-    const auto status = isSearching() ? std::nullopt : currentPage()->status();
+    const auto status = m_pages->showsResults() ? std::nullopt : currentPage()->status();
     settings.setValue(keys::statusFilter, status ? inspection::rawValue(*status) : QString());
 }
 
@@ -404,16 +387,10 @@ void ContentView::closeEvent(QCloseEvent *event)
 
 void ContentView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Escape) {
-        QMainWindow::keyPressEvent(event);
-        return;
-    }
-    if (!m_header->search()->text().isEmpty())
-        m_header->search()->clear();
-    else if (m_notices->isShown())
-        m_notices->dismiss();
+    if (event->key() == Qt::Key_Escape)
+        escape();
     else
-        currentPage()->goBack();
+        QMainWindow::keyPressEvent(event);
 }
 
 void ContentView::paintEvent(QPaintEvent *)

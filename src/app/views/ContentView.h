@@ -11,20 +11,13 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
-#include <map>
-
-class QStackedWidget;
 class QTimer;
 
 namespace quillmark::app {
 
 class Header;
-class HistoryView;
 class NoticeBar;
-class OverviewPage;
-class ResultsPage;
-class SectionPage;
+class PageStack;
 class Sidebar;
 
 /// The window: the sidebar, the header, and one page at a time.
@@ -76,33 +69,32 @@ private:
     void buildWindow();
     void connectActions();
     void connectFilters();
+    void connectPages();
     void recordSnapshot();
     void inspectionDone();
 
-    /// The page of a kind, which is made when it is first shown.
-    template <typename Kind>
-    Kind *page(const std::function<void(Kind &)> &connectPage = {});
-    HistoryView *historyPage();
-    Page *pageAt(const QString &place);
     void show(Page *page);
+    void beginSearch();
     void searchFor(const QString &text);
     void updateHeader();
     void updateActions();
     void copyAsText();
+    void leaveSearch();
     void goBack();
+    void showLastVisited();
+    void escape();
     void saveWindow();
-    bool isSearching() const;
 
     const AppContext &m_context;
     Actions m_actions;
     Sidebar *m_sidebar;
     Header *m_header;
     NoticeBar *m_notices;
-    QStackedWidget *m_stack;
+    PageStack *m_pages;
     QTimer *m_searchPause;
-    std::map<const QMetaObject *, Page *> m_pages;
     QString m_place;
-    QStringList m_visited; ///< places to go back to
+    QStringList m_visited;         ///< places to go back to
+    bool m_isHereToSearch = false; ///< came from a place that has no search, to search
     bool m_wasPainted = false;
 };
 
