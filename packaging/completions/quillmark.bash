@@ -15,7 +15,7 @@ _quillmark() {
         if [[ $word == "=" ]]; then # of --option=value, which comes in three words
             continue
         elif [[ -n $option ]]; then
-            [[ $option != --history ]] || historyFile=$word
+            [[ $option != --history ]] || historyFile=${word/#\~\//$HOME/}
             option=""
         elif [[ $withValue == *" $word "* ]]; then
             option=$word

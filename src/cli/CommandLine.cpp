@@ -14,6 +14,9 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillmark::cli {
@@ -100,6 +103,20 @@ std::string namesSomeFile(const std::string &file)
     return file.empty() ? "names no file" : "";
 }
 
+/// Help without the dots behind an option that may be repeated: they promise several values for one of it.
+class HelpFormatter : public CLI::Formatter
+{
+public:
+    std::string make_option_opts(const CLI::Option *option) const override
+    {
+        constexpr std::string_view dots = " ...";
+        auto text = CLI::Formatter::make_option_opts(option);
+        if (text.ends_with(dots))
+            text.erase(text.size() - dots.size());
+        return text;
+    }
+};
+
 void addCommonOptions(CLI::App &program, CommonOptions &options)
 {
     program
@@ -140,6 +157,7 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
 {
     CLI::App program("Tells what this computer can really do.", "quillmark");
     program.set_version_flag("--version", "quillmark " + reports::applicationVersion().toStdString());
+    program.formatter(std::make_shared<HelpFormatter>());
     program.require_subcommand(1);
     program.fallthrough();
     program.footer("Examples:\n"

@@ -7,6 +7,7 @@
 #include "cli/inspectMachine.h"
 #include "history/HistoryFile.h"
 #include "history/ScanHistory.h"
+#include "history/historyTexts.h"
 #include "language/folding.h"
 #include "language/texts.h"
 
@@ -185,7 +186,8 @@ Result clear(const Session &session, const HistoryOptions &options)
     if (options.json)
         session.output().write("{\"removed\": %1}\n"_ba.replace("%1", QByteArray::number(count)));
     else
-        session.output().write(Text::tr("All saved scans were removed.") + u'\n');
+        session.output().write((count == 0 ? history::noScans() : Text::tr("All saved scans were removed.")) +
+                               u'\n');
     return {};
 }
 
