@@ -20,7 +20,7 @@ using design::Role;
 namespace {
 
 constexpr int controlHeight = 30;
-constexpr int controlPadding = 12;
+constexpr int fieldInset = 6; ///< of a field's text, beyond what Fusion leaves
 constexpr int indicatorSize = 18;
 constexpr qreal indicatorRadius = 4.5;
 
@@ -236,6 +236,11 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex *o
     const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
     if (control == CC_ScrollBar && slider)
         return visualRect(slider->direction, slider->rect, scrollBarPart(*slider, part));
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
+        const auto field = QProxyStyle::subControlRect(control, option, part, widget);
+        const bool isMirrored = option->direction == Qt::RightToLeft;
+        return isMirrored ? field.adjusted(0, 0, -fieldInset, 0) : field.adjusted(fieldInset, 0, 0, 0);
+    }
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
@@ -270,11 +275,13 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
     const int height = Appearance::current().scaled(controlHeight);
     switch (type) {
     case CT_PushButton:
-        result.setWidth(size.width() + 2 * controlPadding);
+        result.setWidth(size.width() + 2 * buttonPadding);
         result.setHeight(std::max(height, size.height() + 8));
         break;
-    case CT_LineEdit:
     case CT_ComboBox:
+        result.rwidth() += fieldInset;
+        [[fallthrough]];
+    case CT_LineEdit:
         result.setHeight(std::max(height, result.height()));
         break;
     default:

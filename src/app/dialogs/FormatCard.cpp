@@ -4,9 +4,11 @@
 #include "app/dialogs/FormatCard.h"
 
 #include "app/Appearance.h"
+#include "app/WrappedText.h"
 #include "app/painting.h"
 
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -41,7 +43,9 @@ FormatCard::FormatCard(const QString &symbol, QWidget *parent)
 {
     setCheckable(true);
     setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto policy = QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     connect(&Appearance::current(), &Appearance::changed, this, [this] {
         updateGeometry();
         update();
@@ -56,15 +60,31 @@ void FormatCard::setDescription(const QString &description)
     update();
 }
 
-QSize FormatCard::sizeHint() const
+/// Where the texts stand, from the leading edge.
+qreal FormatCard::textsBegin()
 {
     const auto &appearance = Appearance::current();
-    const QFontMetrics title(titleFont());
-    const QFontMetrics description(descriptionFont());
-    const int texts = std::max(title.horizontalAdvance(text()), description.horizontalAdvance(m_description));
-    return {
-        2 * padding + appearance.scaled(radioSize) + gap + appearance.scaled(symbolSize) + textGap + texts,
-        std::max(appearance.scaled(leastHeight), title.height() + description.height() + 2 * padding - 4)};
+    return padding + appearance.scaled(radioSize) + gap + appearance.scaled(symbolSize) + textGap;
+}
+
+/// In a card of that width.
+WrappedText FormatCard::description(qreal width) const
+{
+    return {m_description, descriptionFont(), width - textsBegin() - padding, 2, layoutDirection()};
+}
+
+int FormatCard::heightForWidth(int width) const
+{
+    const auto texts = QFontMetricsF(titleFont()).height() + description(width).height();
+    return std::max(Appearance::current().scaled(leastHeight), qCeil(texts) + 2 * padding - 4);
+}
+
+QSize FormatCard::sizeHint() const
+{
+    const auto texts = std::max(QFontMetricsF(titleFont()).horizontalAdvance(text()),
+                                QFontMetricsF(descriptionFont()).horizontalAdvance(m_description));
+    const int width = qCeil(textsBegin() + texts) + padding;
+    return {width, heightForWidth(width)};
 }
 
 void FormatCard::paintEvent(QPaintEvent *)
@@ -101,24 +121,17 @@ void FormatCard::paintEvent(QPaintEvent *)
     x += radio + gap;
     const qreal symbol = appearance.scaled(symbolSize);
     appearance.paintIcon(painter, place(symbol), m_symbol, isChecked() ? Role::AccentText : Role::Text2);
-    x += symbol + textGap;
 
     const QFontMetricsF title(titleFont());
-    const QFontMetricsF description(descriptionFont());
-    const qreal top = (bounds.height() - title.height() - description.height()) / 2;
-    const auto line = [&](qreal y, qreal height) {
-        return placed({x, y, bounds.width() - x - padding, height}, bounds, layoutDirection());
-    };
+    const auto lines = description(bounds.width());
+    const qreal top = (bounds.height() - title.height() - lines.height()) / 2;
+    const QRectF line(textsBegin(), top, bounds.width() - textsBegin() - padding, title.height());
+    const auto titleLine = placed(line, bounds, layoutDirection());
     painter.setFont(titleFont());
     painter.setPen(appearance.color(isChecked() ? Role::AccentText : Role::Text));
-    const auto titleLine = line(top, title.height());
     painter.drawText(titleLine, Qt::AlignLeft | Qt::AlignVCenter,
                      title.elidedText(text(), Qt::ElideRight, titleLine.width()));
-    painter.setFont(descriptionFont());
-    painter.setPen(appearance.color(Role::Text2));
-    const auto descriptionLine = line(top + title.height(), description.height());
-    painter.drawText(descriptionLine, Qt::AlignLeft | Qt::AlignVCenter,
-                     description.elidedText(m_description, Qt::ElideRight, descriptionLine.width()));
+    lines.draw(painter, titleLine.bottomLeft(), layoutDirection(), appearance.color(Role::Text2));
 }
 
 } // namespace quillmark::app

@@ -107,7 +107,13 @@ void ReportPreview::paintEvent(QPaintEvent *)
     painter.setPen(design::Theme::light().color(Role::Text));
     const auto inside = place.adjusted(textMargin, textMargin, -textMargin, -textMargin);
     painter.setClipRect(inside);
-    painter.drawText(inside, Qt::AlignTop | Qt::AlignLeft, m_text);
+    // No letter is cut, at the side or below.
+    const auto metrics = painter.fontMetrics();
+    const auto lines = m_text.split(u'\n');
+    const int height = metrics.lineSpacing();
+    for (int line = 0; line < lines.size() && (line + 1) * height <= inside.height(); ++line)
+        painter.drawText(inside.adjusted(0, line * height, 0, 0), Qt::AlignTop | Qt::AlignLeft,
+                         metrics.elidedText(lines[line], Qt::ElideRight, inside.width()));
 }
 
 } // namespace quillmark::app

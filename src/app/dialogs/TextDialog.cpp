@@ -5,11 +5,13 @@
 
 #include "app/Appearance.h"
 #include "app/views/Actions.h"
+#include "app/widgets/Card.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QFile>
+#include <QGuiApplication>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -22,18 +24,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize usualSize(640, 520);
+constexpr QSize usualSize(680, 560);
+constexpr int textMargin = 16; ///< within the card, beside what rounds its corners
 
 QString resource(const QString &name)
 {
     QFile file(u":/quillmark/texts/"_s + name);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/// Its lines as they are, of a text that is not Markdown.
-QString verbatim(const QString &text)
-{
-    return u"```\n%1\n```\n"_s.arg(text.trimmed());
 }
 
 /// A row for each command that has keys.
@@ -61,12 +58,20 @@ TextDialog::TextDialog(std::function<Content()> content, QWidget *parent)
     m_text->setReadOnly(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_text->setTabChangesFocus(true);
+    m_text->setFrameShape(QFrame::NoFrame);
+    m_text->viewport()->setAutoFillBackground(false);
+    m_text->document()->setDocumentMargin(textMargin);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(20, 20, 20, 16);
     column->setSpacing(14);
-    column->addWidget(m_text, 1);
+    auto *card = new Card(this);
+    auto *onCard = new QVBoxLayout(card);
+    constexpr int corner = 4; // what scrolls stays off the rounded corners
+    onCard->setContentsMargins(corner, corner, corner, corner);
+    onCard->addWidget(m_text);
+    column->addWidget(card, 1);
     column->addWidget(buttons);
     resize(usualSize * Appearance::current().scale());
     retranslate();
@@ -85,16 +90,23 @@ void TextDialog::retranslate()
     setWindowTitle(content.title);
     m_text->setAccessibleName(content.title);
     m_text->setLayoutDirection(content.isTranslated ? layoutDirection() : Qt::LeftToRight);
-    if (content.format == Qt::RichText)
+    switch (content.format) {
+    case Qt::RichText:
         m_text->setHtml(content.text);
-    else
+        break;
+    case Qt::MarkdownText:
         m_text->setMarkdown(content.text);
+        break;
+    default:
+        m_text->setPlainText(content.text);
+    }
 }
 
 TextDialog::Content licences()
 {
-    return {TextDialog::tr("Licences"),
-            verbatim(resource(u"LICENSE"_s)) + verbatim(resource(u"third-party.txt"_s))};
+    return {.title = TextDialog::tr("Licences"),
+            .text = resource(u"LICENSE"_s) + u'\n' + resource(u"third-party.txt"_s),
+            .format = Qt::PlainText};
 }
 
 TextDialog::Content whatsNew()
@@ -102,24 +114,26 @@ TextDialog::Content whatsNew()
     auto changes = resource(u"CHANGELOG.md"_s);
     // What stands above the first heading is for the file's authors.
     changes.remove(0, std::max<qsizetype>(0, changes.indexOf(u"\n## "_s)));
-    return {TextDialog::tr("What’s New"), changes};
+    return {.title = TextDialog::tr("What’s New"), .text = changes};
 }
 
 TextDialog::Content help(const Actions &actions)
 {
+    // Said for each heading: one of Latin letters alone would run from the left.
+    const auto heading =
+        u"<h3 dir='%1'>"_s.arg(QGuiApplication::isRightToLeft() ? u"rtl"_s : u"ltr"_s) + u"%1</h3>"_s;
     auto text = u"<p>%1</p>"_s.arg(
         TextDialog::tr("Everything in the window can be reached by keys: Tab moves from part to part, the "
                        "arrows move within one, Space and Return choose, and Esc goes back."));
     for (const auto *menu : actions.menus()) {
         if (const auto table = rows(*menu); !table.isEmpty())
-            text +=
-                u"<h3>%1</h3><table cellpadding='3'>%2</table>"_s.arg(menu->title().toHtmlEscaped(), table);
+            text += heading.arg(menu->title().toHtmlEscaped()) +
+                    u"<table cellpadding='3'>%1</table>"_s.arg(table);
     }
-    text += u"<h3>%1</h3><p>%2</p>"_s.arg(
-        TextDialog::tr("On the command line"),
-        TextDialog::tr(
-            "All that the window shows can be asked of the command quillmark as well: see quillmark "
-            "--help."));
+    text += heading.arg(TextDialog::tr("On the command line")) +
+            u"<p>%1</p>"_s.arg(TextDialog::tr(
+                "All that the window shows can be asked of the command quillmark as well: see quillmark "
+                "--help."));
     return {.title = TextDialog::tr("Quillmark Help"),
             .text = text,
             .format = Qt::RichText,

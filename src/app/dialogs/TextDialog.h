@@ -22,7 +22,7 @@ public:
     {
         QString title;
         QString text;
-        Qt::TextFormat format = Qt::MarkdownText; ///< or Qt::RichText
+        Qt::TextFormat format = Qt::MarkdownText; ///< or Qt::RichText, or Qt::PlainText
         bool isTranslated = false;                ///< else it is in English, whatever language the window has
     };
 

@@ -3,13 +3,13 @@
 
 #include "app/dialogs/UpdateNotices.h"
 
+#include "app/dialogs/TextDialog.h"
 #include "app/settingKeys.h"
 #include "app/widgets/question.h"
 #include "reports/Report.h"
 #include "update/updateTexts.h"
 
 #include <QDesktopServices>
-#include <QMessageBox>
 
 namespace quillmark::app {
 
@@ -105,13 +105,14 @@ void UpdateNotices::showNotes(const update::Offer &offer)
         QDesktopServices::openUrl(offer.releaseNotes);
         return;
     }
-    auto *box = new QMessageBox(m_window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->setText(tr("What’s new in Quillmark %1").arg(offer.title));
-    box->setInformativeText(offer.notes);
-    box->setStandardButtons(QMessageBox::Close);
-    box->open();
+    const auto content = [offer] {
+        return TextDialog::Content{.title = tr("What’s new in Quillmark %1").arg(offer.title),
+                                   .text = offer.notes,
+                                   .format = Qt::PlainText};
+    };
+    auto *dialog = new TextDialog(content, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 } // namespace quillmark::app

@@ -210,7 +210,7 @@ QString HistoryModel::summaryOf(qsizetype scan) const
         return history::firstScan();
     const auto &before = m_scans[scan + 1];
     if (before.modelIdentifier != m_scans[scan].modelIdentifier)
-        return isMac(m_context) ? tr("Other Mac") : tr("Other computer");
+        return m_scans[scan].osVersion.startsWith(u"macOS") ? tr("Other Mac") : tr("Other computer");
     const std::pair ids(before.id, m_scans[scan].id);
     auto counts = m_counts.constFind(ids);
     if (counts == m_counts.cend())

@@ -218,13 +218,17 @@ NoticeBar::Places NoticeBar::placesFor(int width) const
     const int content = line + (isBelow ? gap + buttons.height() : 0);
     const int height = std::max(appearance.scaled(leastHeight), content + 2 * padding);
 
+    // The word of a button without a ground stands below the text.
+    const bool isPlain = isBelow && m_notice.buttons.first().weight == Notice::Button::Weight::Plain;
+    const int indent = isPlain ? buttonPadding : 0;
+
     const int top = (height - content) / 2;
     const auto centred = [&](int x, const QSize &size) {
         return QRect(QPoint(x, top + (line - size.height()) / 2), size);
     };
     return {.icon = centred(leadingMargin, {icon, icon}),
             .text = centred(left, {textWidth, textHeight}),
-            .buttons = isBelow ? QRect(QPoint(left, top + line + gap), buttons)
+            .buttons = isBelow ? QRect(QPoint(left - indent, top + line + gap), buttons)
                                : centred(right - buttons.width(), buttons),
             .close = centred(right + gap, close),
             .height = height};
