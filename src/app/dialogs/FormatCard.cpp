@@ -43,7 +43,7 @@ FormatCard::FormatCard(const QString &symbol, QWidget *parent)
 {
     setCheckable(true);
     setAttribute(Qt::WA_Hover);
-    auto policy = QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto policy = QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     connect(&Appearance::current(), &Appearance::changed, this, [this] {

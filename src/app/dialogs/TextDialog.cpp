@@ -42,8 +42,8 @@ QString rows(const QMenu &menu)
             text += rows(*action->menu());
         const auto keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
         if (!keys.isEmpty())
-            text += u"<tr><td width='300'>%1</td><td>%2</td></tr>"_s.arg(action->text().toHtmlEscaped(),
-                                                                         keys.toHtmlEscaped());
+            text += u"<tr><td width='300' style='padding: 3px 0'>%1</td><td>%2</td></tr>"_s.arg(
+                action->text().toHtmlEscaped(), keys.toHtmlEscaped());
     }
     return text;
 }
@@ -128,7 +128,7 @@ TextDialog::Content help(const Actions &actions)
     for (const auto *menu : actions.menus()) {
         if (const auto table = rows(*menu); !table.isEmpty())
             text += heading.arg(menu->title().toHtmlEscaped()) +
-                    u"<table cellpadding='3'>%1</table>"_s.arg(table);
+                    u"<table cellspacing='0'>%1</table>"_s.arg(table);
     }
     text += heading.arg(TextDialog::tr("On the command line")) +
             u"<p>%1</p>"_s.arg(TextDialog::tr(

@@ -3,8 +3,10 @@
 
 #include "app/widgets/question.h"
 
+#include "app/Appearance.h"
 #include "language/texts.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -17,6 +19,8 @@ class Text
     QUILLMARK_TEXTS(Question)
 };
 
+constexpr int leastWidth = 320; ///< of the sentence: Qt would break a short one
+
 /// A box that can only be cancelled so far.
 QMessageBox *makeBox(QWidget *asker, const Question &question)
 {
@@ -26,6 +30,12 @@ QMessageBox *makeBox(QWidget *asker, const Question &question)
     box->setWindowTitle(QStringLiteral("Quillmark"));
     box->setText(question.sentence);
     box->setInformativeText(question.consequence);
+    // As the boxes of a Mac look by themselves.
+    const auto &appearance = Appearance::current();
+    if (auto *sentence = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
+        sentence->setFont(appearance.font(TextRole::Heading));
+        sentence->setMinimumWidth(appearance.scaled(leastWidth));
+    }
     auto *cancel = box->addButton(Text::tr("Cancel"), QMessageBox::RejectRole);
     box->setDefaultButton(cancel);
     box->setEscapeButton(cancel);
