@@ -118,6 +118,31 @@ private Q_SLOTS:
         QVERIFY(ground() != design::Theme::dark().color(design::Role::Window));
     }
 
+    void sidebarShowsThePlaceWhereverOneClicks()
+    {
+        AppStage stage(recordingText(u"macbook-pro-m3-max"_s));
+        app::ContentView window(stage.context);
+        window.QWidget::show();
+        auto *list = window.findChild<QListView *>();
+        const auto rowOf = [&](int row) { return list->visualRect(list->model()->index(row, 0)).center(); };
+        const auto selected = [&] { return list->selectionModel()->selectedIndexes(); };
+        const auto overview = selected();
+        QCOMPARE(overview.size(), 1);
+        const auto heading = rowOf(1);
+        const auto beside = QPoint(20, list->viewport()->height() - 2);
+        QVERIFY(!list->indexAt(beside).isValid());
+        for (const auto &spot : {heading, beside}) {
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, spot);
+            QCOMPARE(selected(), overview);
+        }
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, rowOf(0));
+        QCOMPARE(selected(), overview);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, rowOf(2));
+        QCOMPARE(window.place(), app::place::ofSection(u"system"_s));
+        QCOMPARE(selected().size(), 1);
+        QVERIFY(selected() != overview);
+    }
+
     void sidebarIsASoundModel()
     {
         AppStage stage(recordingText(u"macbook-pro-m3-max"_s));

@@ -33,6 +33,16 @@ QString resource(const QString &name)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/// Two cells, the first at the leading side: Qt's tables run from the left in any language.
+QString row(const QString &first, const QString &second)
+{
+    const auto cell = u"<td width='50%' align='%1' style='padding: 3px 0'>%2</td>"_s;
+    const auto cells = QGuiApplication::isRightToLeft()
+                           ? cell.arg(u"right"_s, second) + cell.arg(u"right"_s, first)
+                           : cell.arg(u"left"_s, first) + cell.arg(u"left"_s, second);
+    return u"<tr>%1</tr>"_s.arg(cells);
+}
+
 /// A row for each command that has keys.
 QString rows(const QMenu &menu)
 {
@@ -42,8 +52,7 @@ QString rows(const QMenu &menu)
             text += rows(*action->menu());
         const auto keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
         if (!keys.isEmpty())
-            text += u"<tr><td width='300' style='padding: 3px 0'>%1</td><td>%2</td></tr>"_s.arg(
-                action->text().toHtmlEscaped(), keys.toHtmlEscaped());
+            text += row(action->text().toHtmlEscaped(), keys.toHtmlEscaped());
     }
     return text;
 }
@@ -120,15 +129,14 @@ TextDialog::Content whatsNew()
 TextDialog::Content help(const Actions &actions)
 {
     // Said for each heading: one of Latin letters alone would run from the left.
-    const auto heading =
-        u"<h3 dir='%1'>"_s.arg(QGuiApplication::isRightToLeft() ? u"rtl"_s : u"ltr"_s) + u"%1</h3>"_s;
+    const auto heading = QGuiApplication::isRightToLeft() ? u"<h3 dir='rtl'>%1</h3>"_s : u"<h3>%1</h3>"_s;
     auto text = u"<p>%1</p>"_s.arg(
         TextDialog::tr("Everything in the window can be reached by keys: Tab moves from part to part, the "
                        "arrows move within one, Space and Return choose, and Esc goes back."));
     for (const auto *menu : actions.menus()) {
         if (const auto table = rows(*menu); !table.isEmpty())
             text += heading.arg(menu->title().toHtmlEscaped()) +
-                    u"<table cellspacing='0'>%1</table>"_s.arg(table);
+                    u"<table cellspacing='0' width='100%'>%1</table>"_s.arg(table);
     }
     text += heading.arg(TextDialog::tr("On the command line")) +
             u"<p>%1</p>"_s.arg(TextDialog::tr(

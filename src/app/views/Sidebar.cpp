@@ -33,6 +33,21 @@ constexpr int greatestWidth = 320;
 constexpr int stripHeight = 52;
 constexpr int footerHeight = 46;
 
+/// Wherever one clicks, beside the places or on a heading, the one where the window is stays selected.
+class PlaceList final : public QListView
+{
+public:
+    using QListView::QListView;
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *) const override
+    {
+        return index.flags() & Qt::ItemIsSelectable ? QItemSelectionModel::ClearAndSelect
+                                                    : QItemSelectionModel::NoUpdate;
+    }
+};
+
 } // namespace
 
 /// The program's name above the list.
@@ -137,7 +152,7 @@ private:
 Sidebar::Sidebar(const AppContext &context, QWidget *parent)
     : QWidget(parent)
     , m_model(new SidebarModel(context, this))
-    , m_list(new QListView(this))
+    , m_list(new PlaceList(this))
     , m_footer(new Footer(context, this))
 {
     m_list->setModel(m_model);

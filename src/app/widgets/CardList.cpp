@@ -16,6 +16,7 @@ CardList::CardList(QWidget *parent)
     : QListView(parent)
 {
     setFrameShape(QFrame::NoFrame);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); // as high as its rows
     setMouseTracking(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
