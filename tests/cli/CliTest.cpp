@@ -237,11 +237,14 @@ void CliTest::helpAndVersion_data()
     QTest::addColumn<QString>("expected");
     QTest::newRow("version") << u"--version"_s << u"quillmark %1\n"_s.arg(reports::applicationVersion());
     QTest::newRow("help") << u"--help"_s << u"inspect"_s;
-    QTest::newRow("inspect") << u"inspect --help"_s << u"--status"_s;
-    QTest::newRow("battery") << u"battery --help"_s << u"--json"_s;
-    QTest::newRow("export") << u"export --help"_s << u"--with-names"_s;
-    QTest::newRow("machine") << u"machine --help"_s << u"record"_s;
-    QTest::newRow("record") << u"machine record --help"_s << u"--with-names"_s;
+    QTest::newRow("options") << u"inspect --help"_s << u"  --status STATUS  "_s;
+    // Every command has an example of itself.
+    for (const auto *command : {"inspect", "battery", "monitor", "history", "history list", "history show",
+                                "history compare", "history remove", "history clear", "history record",
+                                "export", "machine", "machine record", "update", "app"}) {
+        const auto name = QString::fromLatin1(command);
+        QTest::newRow(command) << name + u" --help"_s << u"\nExamples:\n  quillmark "_s + name;
+    }
 }
 
 void CliTest::helpAndVersion()

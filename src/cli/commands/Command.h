@@ -15,11 +15,6 @@ namespace quillmark::cli {
 /// Called once the whole command line has been understood.
 using Command = std::function<std::expected<void, Failure>(const Session &)>;
 
-/// Stands below each command's own options in its help.
-inline constexpr auto commonOptionsHint =
-    "Every command also takes --machine FILE, --language TAG and --no-color: see "
-    "'quillmark --help'.\n";
-
 // Each adds its sub-command to the program; when that one is typed, `chosen` becomes what to do.
 void addApp(CLI::App &program, Command &chosen);
 void addBattery(CLI::App &program, Command &chosen);

@@ -4,6 +4,7 @@
 #include "app/RunApp.h"
 #include "cli/Module.h"
 #include "cli/commands/Command.h"
+#include "cli/commands/options.h"
 #include "reports/Report.h"
 
 #include <QFile>
@@ -41,10 +42,7 @@ std::expected<void, Failure> openWindow(const Session &session)
 void addApp(CLI::App &program, Command &chosen)
 {
     auto *command = program.add_subcommand("app", "Open the desktop application");
-    command->footer(std::string(commonOptionsHint) +
-                    "\nExamples:\n"
-                    "  quillmark app\n"
-                    "  quillmark app --machine machines/macbook-pro-m3-max.json");
+    command->footer(helpFooter({"app", "app --machine machines/macbook-pro-m3-max.json"}));
     command->callback([&chosen] { chosen = openWindow; });
 }
 

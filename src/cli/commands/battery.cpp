@@ -6,6 +6,7 @@
 #include "cli/TerminalPage.h"
 #include "cli/batteryJson.h"
 #include "cli/commands/Command.h"
+#include "cli/commands/options.h"
 #include "inspection/DeviceProbe.h"
 #include "inspection/batteryItems.h"
 #include "inspection/rows.h"
@@ -118,10 +119,7 @@ void addBattery(CLI::App &program, Command &chosen)
     const auto asJson = std::make_shared<bool>(false);
     auto *command = program.add_subcommand("battery", "Show the battery's health and figures");
     command->add_flag("--json", *asJson, "Print the figures as JSON (battery-v1)");
-    command->footer(std::string(commonOptionsHint) +
-                    "\nExamples:\n"
-                    "  quillmark battery\n"
-                    "  quillmark battery --json | jq '.batteries[].healthPercent'");
+    command->footer(helpFooter({"battery", "battery --json | jq '.batteries[].healthPercent'"}));
     command->callback([asJson, &chosen] {
         chosen = [asJson](const Session &session) { return showBattery(session, *asJson); };
     });

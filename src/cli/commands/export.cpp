@@ -127,12 +127,10 @@ void addExport(CLI::App &program, Command &chosen)
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
     addSectionOption(*command, options->sections);
-    command->footer("Sections: " + inspection::DeviceProbe::sectionKeys().join(u", "_s).toStdString() +
-                    "\n\n" + commonOptionsHint +
-                    "\nExamples:\n"
-                    "  quillmark export --output report.pdf\n"
-                    "  quillmark export --format markdown --output - --section graphics\n"
-                    "  quillmark export --output report.json --with-names --force");
+    command->footer(
+        helpFooter({"export --output report.pdf", "export --format markdown --output - --section graphics",
+                    "export --output report.json --with-names --force"},
+                   "Sections: " + inspection::DeviceProbe::sectionKeys().join(u", "_s).toStdString()));
     command->callback([options, &chosen] {
         if (options->output.path.empty())
             throw CLI::ValidationError(

@@ -3,6 +3,7 @@
 
 #include "cli/HistoryPages.h"
 #include "cli/commands/Command.h"
+#include "cli/commands/options.h"
 #include "cli/historyJson.h"
 #include "cli/inspectMachine.h"
 #include "history/HistoryFile.h"
@@ -228,6 +229,10 @@ std::string namesAScan(const std::string &given)
            "of it or more";
 }
 
+constexpr auto idMeaning =
+    "An ID is a scan's identifier, the first 4 characters of it or more, or its position in the "
+    "list: 0 is the newest.";
+
 } // namespace
 
 void addHistory(CLI::App &program, Command &chosen)
@@ -235,19 +240,13 @@ void addHistory(CLI::App &program, Command &chosen)
     const auto options = std::make_shared<HistoryOptions>();
     auto *command = program.add_subcommand("history", "Look at saved scans, compare them, and save new ones");
     command->require_subcommand(1);
-    command->footer(
-        std::string("ID is a scan's identifier, the first 4 characters of it or more, or its position in the "
-                    "list: 0 is the newest.\n\n") +
-        commonOptionsHint +
-        "\nExamples:\n"
-        "  quillmark history record\n"
-        "  quillmark history list\n"
-        "  quillmark history compare 1 0");
+    command->footer(helpFooter({"history record", "history list", "history compare 1 0"}, idMeaning));
 
-    const auto add = [&](const char *name, const char *description, auto action) {
+    const auto add = [&](const char *name, const char *description, auto action,
+                         const std::vector<std::string> &examples, const std::string &notes = {}) {
         auto *part = command->add_subcommand(name, description);
         part->add_flag("--json", options->json, "Print JSON");
-        part->footer(commonOptionsHint);
+        part->footer(helpFooter(examples, notes));
         part->callback([options, action, &chosen] {
             chosen = [options, action](const Session &session) { return action(session, *options); };
         });
@@ -257,15 +256,21 @@ void addHistory(CLI::App &program, Command &chosen)
         part->add_option(name, id, description)->required()->check(namesAScan)->type_name("");
     };
 
-    add("list", "List the saved scans, the newest first", list);
-    addScan(add("show", "Show a saved scan, row by row", show), "ID", options->id, "The scan");
-    auto *comparison = add("compare", "Show what differs between two saved scans", compare);
+    add("list", "List the saved scans, the newest first", list,
+        {"history list", "history list --json | jq -r '.[0].id'"});
+    addScan(add("show", "Show a saved scan, row by row", show, {"history show 0", "history show 4F1C"},
+                idMeaning),
+            "ID", options->id, "The scan");
+    auto *comparison = add("compare", "Show what differs between two saved scans", compare,
+                           {"history compare 1 0", "history compare 4F1C 0 --json"}, idMeaning);
     addScan(comparison, "OLD", options->id, "The older scan");
     addScan(comparison, "NEW", options->newerId, "The newer scan");
-    addScan(add("remove", "Remove a saved scan", remove), "ID", options->id, "The scan");
-    add("clear", "Remove all saved scans", clear)
+    addScan(add("remove", "Remove a saved scan", remove, {"history remove 4F1C"}, idMeaning), "ID",
+            options->id, "The scan");
+    add("clear", "Remove all saved scans", clear, {"history clear", "history clear --yes"})
         ->add_flag("--yes", options->isConfirmed, "Do not ask first");
-    add("record", "Inspect the machine and save the scan, unless nothing has changed", record);
+    add("record", "Inspect the machine and save the scan, unless nothing has changed", record,
+        {"history record", "history record --json | jq .recorded"});
 }
 
 } // namespace quillmark::cli

@@ -111,13 +111,11 @@ void addInspect(CLI::App &program, Command &chosen)
         ->type_name("STATUS");
     command->add_option("--search", options->search, "Only rows whose label or value contains this text")
         ->type_name("TEXT");
-    command->footer("Statuses: " + statusNames().join(u", "_s).toStdString() +
-                    "\nSections: " + inspection::DeviceProbe::sectionKeys().join(u", "_s).toStdString() +
-                    "\n\n" + commonOptionsHint +
-                    "\nExamples:\n"
-                    "  quillmark inspect --status warning --status unsupported\n"
-                    "  quillmark inspect --json | jq '.sections[].items[] | select(.status == \"warning\")'\n"
-                    "  quillmark inspect --machine machines/macbook-pro-m3-max.json --section graphics");
+    command->footer(helpFooter({"inspect --status warning --status unsupported",
+                                "inspect --json | jq '.sections[].items[] | select(.status == \"warning\")'",
+                                "inspect --machine machines/macbook-pro-m3-max.json --section graphics"},
+                               "Statuses: " + statusNames().join(u", "_s).toStdString() + "\nSections: " +
+                                   inspection::DeviceProbe::sectionKeys().join(u", "_s).toStdString()));
 
     command->callback([options, &chosen] {
         if (options->json + options->markdown + options->text > 1)

@@ -36,14 +36,15 @@ void addMachine(CLI::App &program, Command &chosen)
     const auto options = std::make_shared<RecordOptions>();
     auto *machine = program.add_subcommand("machine", "Work with recorded machines");
     machine->require_subcommand(1);
+    const auto footer =
+        helpFooter({"machine record --output my-machine.json", "inspect --machine my-machine.json"});
+    machine->footer(footer);
     auto *command =
         machine->add_subcommand("record", "Write this machine's raw readings as a recorded machine");
     addOutputOptions(*command, options->output);
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
-    command->footer(std::string(commonOptionsHint) + "\nExamples:\n"
-                                                     "  quillmark machine record --output my-machine.json\n"
-                                                     "  quillmark inspect --machine my-machine.json");
+    command->footer(footer);
     command->callback([options, &chosen] {
         chosen = [options](const Session &session) { return record(session, *options); };
     });

@@ -3,6 +3,7 @@
 
 #include "cli/MonitorView.h"
 #include "cli/commands/Command.h"
+#include "cli/commands/options.h"
 #include "json/Writer.h"
 #include "language/texts.h"
 #include "monitor/SystemSampler.h"
@@ -242,16 +243,13 @@ void addMonitor(CLI::App &program, Command &chosen)
     auto *command = program.add_subcommand("monitor", "Show processor, memory, network and heat live");
     command->add_flag("--json", options->json, "Print one JSON object per sample and line");
     command->add_option("--samples", options->samples, "End after so many samples, which are a second apart")
-        ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 53))
+        ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 53).description(""))
         ->type_name("N");
-    command->footer(
+    command->footer(helpFooter(
+        {"monitor", "monitor --json --samples 60 > minute.jsonl",
+         "monitor --machine machines/macbook-pro-m3-max.json"},
         "On a terminal the view is redrawn in place; q, Esc or Ctrl-C ends it. Elsewhere there is a line\n"
-        "for each sample.\n\n" +
-        std::string(commonOptionsHint) +
-        "\nExamples:\n"
-        "  quillmark monitor\n"
-        "  quillmark monitor --json --samples 60 > minute.jsonl\n"
-        "  quillmark monitor --machine machines/macbook-pro-m3-max.json");
+        "for each sample."));
     command->callback([options, &chosen] {
         chosen = [options](const Session &session) { return watch(session, *options); };
     });

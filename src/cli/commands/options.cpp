@@ -23,6 +23,16 @@ CLI::Validator isOneOf(const QStringList &names, const std::string &kind)
         "");
 }
 
+std::string helpFooter(const std::vector<std::string> &examples, const std::string &notes)
+{
+    auto text = notes.empty() ? std::string() : notes + "\n\n";
+    text += "Every command also takes --machine FILE, --history FILE, --language TAG and --no-color: see "
+            "'quillmark --help'.\n\nExamples:";
+    for (const auto &example : examples)
+        text += "\n  quillmark " + example;
+    return text;
+}
+
 void addSectionOption(CLI::App &command, std::vector<std::string> &sections)
 {
     command.add_option("--section", sections, "Only this section (repeatable)")

@@ -15,9 +15,13 @@
 #include <string>
 #include <vector>
 
-// Options that several commands take.
+// What several commands have in common.
 
 namespace quillmark::cli {
+
+/// What stands below a command's own options in its help: notes on them, what every command takes, and
+/// examples, of which each is the words after the program's name.
+std::string helpFooter(const std::vector<std::string> &examples, const std::string &notes = {});
 
 /// Lets one of the names through; otherwise says what there is.
 CLI::Validator isOneOf(const QStringList &names, const std::string &kind);

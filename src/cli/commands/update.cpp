@@ -4,6 +4,7 @@
 #include "cli/Module.h"
 #include "cli/TerminalPage.h"
 #include "cli/commands/Command.h"
+#include "cli/commands/options.h"
 #include "cli/updateJson.h"
 #include "language/texts.h"
 #include "reports/Report.h"
@@ -187,12 +188,8 @@ void addUpdate(CLI::App &program, Command &chosen)
     command->add_flag("--ledger", options->ledger, "Print the last requests that were sent, and send none")
         ->excludes(agreed);
     command->footer(
-        "Nothing is sent before somebody has agreed to it: here, in the window, or by --yes.\n\n" +
-        std::string(commonOptionsHint) +
-        "\nExamples:\n"
-        "  quillmark update\n"
-        "  quillmark update --yes --json | jq -r .status\n"
-        "  quillmark update --ledger");
+        helpFooter({"update", "update --yes --json | jq -r .status", "update --ledger"},
+                   "Nothing is sent before somebody has agreed to it: here, in the window, or by --yes."));
     command->callback([options, &chosen] {
         chosen = [options](const Session &session) { return showUpdate(session, *options); };
     });
