@@ -10,6 +10,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace quillmark::app {
 
 namespace {
@@ -19,7 +21,10 @@ class Text
     QUILLMARK_TEXTS(Question)
 };
 
-constexpr int leastWidth = 320; ///< of the sentence: Qt would break a short one
+// Of the sentence, which Qt would break early or cut off. It has several lines where it is longer than these
+// 500 pixels, from which on Qt breaks lines.
+constexpr int leastWidth = 320;
+constexpr int greatestWidth = 560;
 
 /// A box that can only be cancelled so far.
 QMessageBox *makeBox(QWidget *asker, const Question &question)
@@ -34,7 +39,9 @@ QMessageBox *makeBox(QWidget *asker, const Question &question)
     const auto &appearance = Appearance::current();
     if (auto *sentence = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
         sentence->setFont(appearance.font(TextRole::Heading));
-        sentence->setMinimumWidth(appearance.scaled(leastWidth));
+        const int width = sentence->fontMetrics().horizontalAdvance(question.sentence);
+        sentence->setMinimumWidth(
+            std::clamp(width, appearance.scaled(leastWidth), appearance.scaled(greatestWidth)));
     }
     auto *cancel = box->addButton(Text::tr("Cancel"), QMessageBox::RejectRole);
     box->setDefaultButton(cancel);
