@@ -97,6 +97,22 @@ private:
     rlimit m_before{};
 };
 
+/// As in a program that has opened all that it may.
+class NoFileToSpare final : public Obstacle
+{
+public:
+    NoFileToSpare()
+    {
+        getrlimit(RLIMIT_NOFILE, &m_before);
+        const rlimit limit{.rlim_cur = 0, .rlim_max = m_before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
+    ~NoFileToSpare() override { setrlimit(RLIMIT_NOFILE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
 /// Root may write everywhere, and becomes somebody else for that.
 class ReadOnlyFolder final : public Obstacle
 {
@@ -137,9 +153,12 @@ private Q_SLOTS:
     void removes();
     void failures_data();
     void failures();
+    void savedAfterAll();
     void keepsTheUnreadableAside();
+    void replacesNothingUnread();
     void followsLinks();
     void twoPrograms();
+    void sameScanOfAnother();
     void waitsForAnother();
     void lockFileRemoved();
     void savesInOrder();
@@ -293,6 +312,26 @@ void ScanHistoryTest::failures()
     QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 2); // the history and its lock
 }
 
+/// A failure that a later save has mended by the time it could be told of.
+void ScanHistoryTest::savedAfterAll()
+{
+    ScanHistory history(m_language, m_path);
+    record(history, u"before"_s);
+    QVERIFY(history.flush());
+    const QSignalSpy failed(&history, &ScanHistory::saveFailed);
+    {
+        const FileSizeLimit noRoom;
+        expectLogged(u"File too large"_s);
+        record(history, u"a"_s);
+        QVERIFY(!history.flush());
+    }
+    record(history, u"b"_s);
+    QVERIFY(history.flush());
+    QCoreApplication::processEvents();
+    QCOMPARE(failed.size(), 0);
+    QCOMPARE(values(snapshotsIn(m_path)), u"b a before"_s);
+}
+
 void ScanHistoryTest::keepsTheUnreadableAside()
 {
     QVERIFY(QDir().mkpath(QFileInfo(m_path).path()));
@@ -320,6 +359,36 @@ void ScanHistoryTest::keepsTheUnreadableAside()
     QCOMPARE(contents(aside({})), first);
     QCOMPARE(contents(aside(u"-2"_s)), second);
     QVERIFY(!QFileInfo::exists(aside(u"-3"_s)));
+}
+
+/// What cannot be opened or read just now is neither an empty history nor replaced by one.
+void ScanHistoryTest::replacesNothingUnread()
+{
+    QCOMPARE(HistoryFile(m_path).readDigests().value().size(), 0U); // there is none
+
+    QVERIFY(QDir().mkpath(QFileInfo(m_path).path()));
+    const auto text = historyOf(3);
+    write(m_path, text);
+    HistoryFile file(m_path);
+    QVERIFY(file.claim());
+    {
+        const NoFileToSpare obstacle;
+        const auto reason = u"Too many open files"_s;
+        QCOMPARE(file.readDigests().error(), reason);
+        QCOMPARE(file.read().fault, reason);
+        QCOMPARE(file.write({}).error(),
+                 (SaveError{SaveError::Kind::NotWritten,
+                            u"the unreadable history could not be copied aside: "_s + reason}));
+    }
+    QCOMPARE(contents(m_path), text);
+    QCOMPARE(file.read().snapshots.size(), 3U);
+
+#ifdef Q_OS_LINUX
+    HistoryFile unreadable(u"/proc/self/mem"_s); // a regular file, whose first page is not there
+    QCOMPARE(unreadable.readDigests().error(), u"Input/output error"_s);
+    QCOMPARE(unreadable.read().fault, u"Input/output error"_s);
+    QCOMPARE(unreadable.write({}).error().kind, SaveError::Kind::NotWritten);
+#endif
 }
 
 void ScanHistoryTest::followsLinks()
@@ -362,6 +431,20 @@ void ScanHistoryTest::twoPrograms()
     QVERIFY(second.flush());
     QCOMPARE(values(second.snapshots()), u"y x b a"_s);
     QCOMPARE(values(snapshotsIn(m_path)), u"y x b a"_s);
+}
+
+/// One that was saved after this program had read the file is no news here either.
+void ScanHistoryTest::sameScanOfAnother()
+{
+    ScanHistory history(m_language, m_path);
+    {
+        ScanHistory other(m_language, m_path);
+        record(other, u"a"_s);
+    }
+    QVERIFY(!record(history, u"a"_s));
+    QCOMPARE(values(history.snapshots()), u"a"_s);
+    QVERIFY(history.flush());
+    QCOMPARE(values(snapshotsIn(m_path)), u"a"_s);
 }
 
 /// A short command waits for another short one.

@@ -52,7 +52,7 @@ ScanSnapshot snapshotOf(const QStringList &lines, std::optional<QString> languag
 QStringList changesBetween(const ScanSnapshot &older, const ScanSnapshot &newer)
 {
     QStringList lines;
-    for (const auto &change : diff(older, newer))
+    for (const auto &change : changeRows(diff(older, newer)))
         lines += u"%1/%2: %3 -> %4"_s.arg(change.section, change.label, change.oldValue.value_or(u"-"_s),
                                           change.newValue.value_or(u"-"_s));
     return lines;
