@@ -6,6 +6,7 @@
 #include "app/AppContext.h"
 #include "app/Appearance.h"
 #include "app/MenuBar.h"
+#include "app/QuitSignals.h"
 #include "app/SingleInstance.h"
 #include "app/dialogs/Dialogs.h"
 #include "app/painting.h"
@@ -130,6 +131,8 @@ int run(const Launch &launch, QString &)
         QApplication::quit();
     };
     QObject::connect(&window, &ContentView::quitAsked, &window, quit);
+    const QuitSignals quitSignals;
+    QObject::connect(&quitSignals, &QuitSignals::quitAsked, &window, quit);
     MenuBar menuBar(context);
     QObject::connect(&menuBar, &MenuBar::openAsked, &window, &ContentView::bringForward);
     QObject::connect(&menuBar, &MenuBar::settingsAsked, &window, &ContentView::settingsAsked);
