@@ -54,12 +54,15 @@ SettingsDialog::SettingsDialog(const AppContext &context, update::UpdateChecker 
         m_panes->setCurrentIndex(index);
         retranslate();
     });
-    const auto addKey = [this](QKeySequence::StandardKey keys, int by) {
-        auto *shortcut = new QShortcut(keys, this);
+    const auto addKeys = [this](const QList<QKeySequence> &keys, int by) {
+        auto *shortcut = new QShortcut(this);
+        shortcut->setKeys(keys);
         connect(shortcut, &QShortcut::activated, this, [this, by] { step(by); });
     };
-    addKey(QKeySequence::NextChild, 1);
-    addKey(QKeySequence::PreviousChild, -1);
+    addKeys(QKeySequence::keyBindings(QKeySequence::NextChild), 1);
+    // Qt's own of Linux, with Backtab, is never met there.
+    addKeys(QKeySequence::keyBindings(QKeySequence::PreviousChild) << (Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+            -1);
     for (auto *button : findChildren<QPushButton *>())
         button->setAutoDefault(false);
     setUp();
