@@ -15,8 +15,10 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillmark::cli {
@@ -103,10 +105,37 @@ std::string namesSomeFile(const std::string &file)
     return file.empty() ? "names no file" : "";
 }
 
-/// Help without the dots behind an option that may be repeated: they promise several values for one of it.
+constexpr std::size_t helpWidth = 79;
+constexpr std::size_t helpColumn = 30; ///< where the library has what an option does
+
+/// A line of help in several, where it is too long. An example stays whole, to be copied.
+void wrap(std::string line, std::string &text)
+{
+    const bool isExample = line.starts_with("  quillmark ");
+    const std::string indent(line.starts_with(' ') ? helpColumn : 0, ' ');
+    while (!isExample && line.size() > helpWidth) {
+        const auto end = line.rfind(' ', helpWidth);
+        if (end == std::string::npos || end <= indent.size())
+            break;
+        text += line.substr(0, end) + '\n';
+        line = indent + line.substr(end + 1);
+    }
+    text += line + '\n';
+}
+
 class HelpFormatter : public CLI::Formatter
 {
 public:
+    std::string make_help(const CLI::App *app, std::string name, CLI::AppFormatMode mode) const override
+    {
+        std::istringstream lines(CLI::Formatter::make_help(app, std::move(name), mode));
+        std::string text;
+        for (std::string line; std::getline(lines, line);)
+            wrap(std::move(line), text);
+        return text;
+    }
+
+    /// Without the dots behind an option that may be repeated: they promise several values for one of it.
     std::string make_option_opts(const CLI::Option *option) const override
     {
         constexpr std::string_view dots = " ...";
@@ -128,12 +157,12 @@ void addCommonOptions(CLI::App &program, CommonOptions &options)
     program.add_option("--history", options.historyFile, "Keep the saved scans in this file")
         ->check(namesSomeFile)
         ->type_name("FILE");
-    program.add_option("--language", options.language, "Interface language for this run")
-        ->check([](const std::string &tag) {
+    const auto languages = language::LanguageManager::available().join(QStringLiteral(", ")).toStdString();
+    program.add_option("--language", options.language, "Interface language for this run: " + languages)
+        ->check([languages](const std::string &tag) {
             if (!language::LanguageManager::match(QString::fromStdString(tag)).isEmpty())
                 return std::string();
-            return "there is no '" + tag + "'; the languages are: " +
-                   language::LanguageManager::available().join(QStringLiteral(", ")).toStdString();
+            return "there is no '" + tag + "'; the languages are: " + languages;
         })
         ->type_name("TAG");
     program.add_flag("--no-color", options.noColor, "No colours, even on a terminal");
@@ -163,7 +192,7 @@ int run(int argumentCount, const char *const *arguments, const Output &output,
     program.footer("Examples:\n"
                    "  quillmark inspect --status warning\n"
                    "  quillmark export --output report.pdf\n"
-                   "  quillmark history record && quillmark history compare 1 0\n"
+                   "  quillmark history record && quillmark history list\n"
                    "'quillmark COMMAND --help' has more of each.");
 
     CommonOptions options;

@@ -56,7 +56,8 @@ Reason reasonOf(int number)
 QString diskOf(const std::filesystem::path &file)
 {
     std::error_code ignored;
-    const auto folder = std::filesystem::weakly_canonical(file, ignored).parent_path();
+    const auto folder =
+        std::filesystem::weakly_canonical(std::filesystem::absolute(file, ignored), ignored).parent_path();
     return QStorageInfo(QFile::decodeName(folder.c_str())).displayName();
 }
 

@@ -84,9 +84,9 @@ void UpdateCommandTest::notAsked()
     const auto outcome = runWith(u"update"_s);
     QCOMPARE(outcome.status, 1);
     QCOMPARE(outcome.out, QString());
-    QCOMPARE(
-        outcome.err,
-        u"quillmark: localhost was not asked, because nobody has agreed to that (--yes does, this once)\n"_s);
+    QCOMPARE(outcome.err, u"quillmark: localhost was not asked, because you have not agreed to it; --yes "
+                          u"agrees to this one request, "
+                          "and the window's settings change the answer\n"_s);
     QCOMPARE(m_server->requests, QByteArrayList());
     QCOMPARE(runWith(u"update --ledger"_s).out, u"Quillmark has sent no request.\n"_s);
 }

@@ -114,7 +114,7 @@ void TextDialog::retranslate()
 TextDialog::Content licences()
 {
     return {.title = TextDialog::tr("Licences"),
-            .text = resource(u"LICENSE"_s) + u'\n' + resource(u"third-party.txt"_s),
+            .text = resource(u"LICENSE"_s) + u'\n' + resource(u"NOTICE"_s),
             .format = Qt::PlainText};
 }
 

@@ -42,7 +42,7 @@ std::expected<void, Failure> openWindow(const Session &session)
 void addApp(CLI::App &program, Command &chosen)
 {
     auto *command = program.add_subcommand("app", "Open the desktop application");
-    command->footer(helpFooter({"app", "app --machine machines/macbook-pro-m3-max.json"}));
+    command->footer(helpFooter({"app", "app --machine my-machine.json"}));
     command->callback([&chosen] { chosen = openWindow; });
 }
 

@@ -123,7 +123,7 @@ void addExport(CLI::App &program, Command &chosen)
                      "text, markdown, json or pdf; else as the file's name tells")
         ->check(isOneOf(formatNames(), "format"))
         ->type_name("FORMAT");
-    addOutputOptions(*command, options->output);
+    addOutputOptions(*command, options->output, "The file to write (required); - is standard output");
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
     addSectionOption(*command, options->sections);

@@ -78,8 +78,8 @@ std::expected<StoredSnapshot, Failure> findScan(const std::vector<StoredSnapshot
     if (meant.empty() && isNumber && position < scans.size())
         meant.push_back(&scans[position]);
     if (meant.empty())
-        return std::unexpected(
-            Failure{u"there is no scan '%1' in the history"_s.arg(QString::fromStdString(given))});
+        return std::unexpected(Failure{u"there is no scan '%1' in the history, which has %2"_s.arg(
+            QString::fromStdString(given), QString::number(scans.size()))});
     if (meant.size() > 1)
         return std::unexpected(
             Failure{u"'%1' is the beginning of more than one scan's identifier"_s.arg(text)});

@@ -113,7 +113,7 @@ void addInspect(CLI::App &program, Command &chosen)
         ->type_name("TEXT");
     command->footer(helpFooter({"inspect --status warning --status unsupported",
                                 "inspect --json | jq '.sections[].items[] | select(.status == \"warning\")'",
-                                "inspect --machine machines/macbook-pro-m3-max.json --section graphics"},
+                                "inspect --machine my-machine.json --section graphics"},
                                "Statuses: " + statusNames().join(u", "_s).toStdString() + "\nSections: " +
                                    inspection::DeviceProbe::sectionKeys().join(u", "_s).toStdString()));
 

@@ -41,7 +41,7 @@ void addMachine(CLI::App &program, Command &chosen)
     machine->footer(footer);
     auto *command =
         machine->add_subcommand("record", "Write this machine's raw readings as a recorded machine");
-    addOutputOptions(*command, options->output);
+    addOutputOptions(*command, options->output, "The file to write; without it, or with -, standard output");
     command->add_flag("--with-names", options->withNames,
                       "Keep the computer's name, volume names and addresses, which are left out otherwise");
     command->footer(footer);

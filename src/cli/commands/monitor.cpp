@@ -235,6 +235,13 @@ std::expected<void, Failure> watch(const Session &session, const MonitorOptions 
     return {};
 }
 
+std::string isCount(const std::string &given)
+{
+    bool isNumber = false;
+    const auto number = QString::fromStdString(given).toLongLong(&isNumber);
+    return isNumber && number > 0 ? "" : "'" + given + "' is no whole number from 1";
+}
+
 } // namespace
 
 void addMonitor(CLI::App &program, Command &chosen)
@@ -243,11 +250,10 @@ void addMonitor(CLI::App &program, Command &chosen)
     auto *command = program.add_subcommand("monitor", "Show processor, memory, network and heat live");
     command->add_flag("--json", options->json, "Print one JSON object per sample and line");
     command->add_option("--samples", options->samples, "End after so many samples, which are a second apart")
-        ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 53).description(""))
+        ->check(isCount)
         ->type_name("N");
     command->footer(helpFooter(
-        {"monitor", "monitor --json --samples 60 > minute.jsonl",
-         "monitor --machine machines/macbook-pro-m3-max.json"},
+        {"monitor", "monitor --json --samples 60 > minute.jsonl", "monitor --machine my-machine.json"},
         "On a terminal the view is redrawn in place; q, Esc or Ctrl-C ends it. Elsewhere there is a line\n"
         "for each sample."));
     command->callback([options, &chosen] {

@@ -50,11 +50,11 @@ std::expected<void, reports::SaveError> OutputFile::save(const Output &output, c
     return {};
 }
 
-void addOutputOptions(CLI::App &command, OutputFile &file)
+void addOutputOptions(CLI::App &command, OutputFile &file, const std::string &use)
 {
-    command.add_option("--output", file.path, "The file to write; - is standard output")
-        ->type_name("FILE")
-        ->check([](const std::string &path) { return std::string(path.empty() ? "names no file" : ""); });
+    command.add_option("--output", file.path, use)->type_name("FILE")->check([](const std::string &path) {
+        return std::string(path.empty() ? "names no file" : "");
+    });
     command.add_flag("--force", file.mayReplace, "Replace the file if it exists");
 }
 

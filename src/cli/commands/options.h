@@ -39,7 +39,8 @@ struct OutputFile
     std::expected<void, reports::SaveError> save(const Output &output, const QByteArray &bytes) const;
 };
 
-void addOutputOptions(CLI::App &command, OutputFile &file);
+/// `use` says what the file is for, and what happens without one.
+void addOutputOptions(CLI::App &command, OutputFile &file, const std::string &use);
 
 /// "PATH: You don’t have permission to write there.", with what helps where an option does.
 QString reasonFor(const reports::SaveError &error);

@@ -77,7 +77,8 @@ std::expected<update::Trigger, Failure> triggerFor(const UpdateOptions &options,
     if (checker.hasConsent() || host.isEmpty()) // then the address is refused by name
         return update::Trigger::OnDemand;
     return std::unexpected(
-        Failure{u"%1 was not asked, because nobody has agreed to that (--yes does, this once)"_s.arg(host)});
+        Failure{u"%1 was not asked, because you have not agreed to it; --yes agrees to this one request, "
+                "and the window's settings change the answer"_s.arg(host)});
 }
 
 update::CheckResult check(UpdateChecker &checker, update::Trigger trigger)
