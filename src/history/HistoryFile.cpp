@@ -107,15 +107,13 @@ HistoryFile::Contents HistoryFile::read()
     const auto version = versionOf(m_path);
     m_version = version.value_or(std::nullopt);
     m_isUnreadable = false;
-    Contents contents;
-    if (!version)
-        contents.fault = version.error();
+    m_faultInReading = version ? QString() : version.error();
+    Contents contents{.fault = m_faultInReading};
     if (!m_version)
         return contents;
-    m_isUnreadable = true;
     auto text = readText();
     if (!text) {
-        contents.fault = text.error();
+        contents.fault = m_faultInReading = text.error();
         return contents;
     }
     contents.text = std::move(*text);
@@ -160,7 +158,7 @@ std::expected<void, SaveError> HistoryFile::claim()
 
 bool HistoryFile::hasChanged() const
 {
-    return versionOf(m_path).value_or(std::nullopt) != m_version;
+    return !m_faultInReading.isEmpty() || versionOf(m_path).value_or(std::nullopt) != m_version;
 }
 
 std::expected<void, SaveError> HistoryFile::write(const QList<QByteArray> &snapshots)
@@ -168,12 +166,14 @@ std::expected<void, SaveError> HistoryFile::write(const QList<QByteArray> &snaps
     const auto wasTaken = takeLock();
     if (!wasTaken)
         return std::unexpected(wasTaken.error());
+    if (const QFileInfo file(m_path); file.exists() && !file.isFile())
+        return notWritten(file.isDir() ? messageOf(EISDIR) : QStringLiteral("not a regular file"));
+    if (!m_faultInReading.isEmpty())
+        return notWritten(QStringLiteral("the history could not be read: ") + m_faultInReading);
     if (*wasTaken && hasChanged()) {
         m_lock.release(); // so that the next claim() reads what is there now
         return inUse(QStringLiteral("another program has changed the history"));
     }
-    if (const QFileInfo file(m_path); file.exists() && !file.isFile())
-        return notWritten(file.isDir() ? messageOf(EISDIR) : QStringLiteral("not a regular file"));
     if (m_isUnreadable) {
         if (const auto kept = keepAside(); !kept)
             return kept;

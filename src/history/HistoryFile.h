@@ -58,12 +58,13 @@ public:
     /// Makes this program the one that writes, until the object is gone. Makes the folder if there is none.
     std::expected<void, SaveError> claim();
 
-    /// Whether the file is another one than read() read or write() wrote.
+    /// Whether the file has to be read again: it is another one than read() read or write() wrote, or read()
+    /// could not get at what is in it.
     bool hasChanged() const;
 
     /// Replaces the file, on the disk, with these snapshots (each encoded), or leaves it as it is. A file
     /// that read() could not make out is copied aside first. Includes claim(), but never replaces a file that
-    /// changed before this program was the one that writes.
+    /// changed before this program was the one that writes, nor one that read() could not get at.
     std::expected<void, SaveError> write(const QList<QByteArray> &snapshots);
 
 private:
@@ -88,7 +89,8 @@ private:
     std::chrono::milliseconds m_patience;
     platform::FileLock m_lock;
     std::optional<Version> m_version; ///< absent: no file
-    bool m_isUnreadable = false;
+    bool m_isUnreadable = false;      ///< what is in it makes no history
+    QString m_faultInReading;         ///< why what is in it is not known; empty: it is, or there is no file
 };
 
 } // namespace quillmark::history

@@ -48,8 +48,10 @@ bool ScanHistory::record(const inspection::DeviceSummary &summary,
                          const QList<inspection::CapabilitySection> &sections)
 {
     const auto snapshot = takeSnapshot(summary, sections, m_language.language());
-    if (!isNews(snapshot))
+    if (!isNews(snapshot)) {
+        saveUnsaved();
         return false;
+    }
     const bool maySave = becomeWriter();
     if (!isNews(snapshot)) // after what another program has saved
         return false;
@@ -77,9 +79,15 @@ void ScanHistory::remove(const QUuid &id)
 
 void ScanHistory::clear()
 {
+    QSet<QUuid> meant;
+    for (const auto &snapshot : m_snapshots)
+        meant.insert(snapshot.id);
     if (!becomeWriter())
         return;
-    erase(0, m_snapshots.size());
+    for (qsizetype at = m_snapshots.size() - 1; at >= 0; --at) {
+        if (meant.contains(m_snapshots[at].id))
+            erase(at, 1);
+    }
     save();
     Q_EMIT snapshotsChanged();
 }
@@ -129,13 +137,14 @@ bool ScanHistory::becomeWriter()
         claimed = m_file.claim();
         if (claimed && m_file.hasChanged())
             changed = m_file.read();
+        m_isWriter = claimed && !m_file.hasChanged();
     });
     if (!claimed && claimed.error().kind == SaveError::Kind::InUse) {
         finish(claimed);
         return false;
     }
-    m_isWriter = claimed.has_value();
-    if (changed) {
+    // What could not be read is no reason to forget what was read before.
+    if (changed && changed->fault.isEmpty()) {
         merge(changed->snapshots);
         Q_EMIT snapshotsChanged();
     }
@@ -156,6 +165,18 @@ void ScanHistory::merge(const std::vector<StoredSnapshot> &stored)
             m_snapshots, [&](const ScanSnapshot &other) { return other.date <= snapshot->date; });
         insert(place - m_snapshots.begin(), *snapshot);
     }
+}
+
+/// What could not be saved when it was new: the disk may have room by now, the other program may have ended.
+void ScanHistory::saveUnsaved()
+{
+    {
+        const std::lock_guard lock(m_outcomeMutex);
+        if (m_outcome)
+            return;
+    }
+    if (becomeWriter())
+        save();
 }
 
 void ScanHistory::save()

@@ -29,9 +29,10 @@ namespace quillmark::history {
 /// the truth, and the whole file is written after each change, in order, on a thread of the object's own. The
 /// first change makes this program the only one that writes the file, until the object is gone: the list may
 /// then take in what another program saved in the meantime. While another program has the file, scans are
-/// kept here only and join the file with the first change that finds it free; nothing can be removed.
+/// kept here only, and nothing can be removed.
 ///
-/// A change that could not be saved is logged, and announced by saveFailed(); it stays in the list.
+/// A change that could not be saved is logged, and announced by saveFailed(). It stays in the list, and joins
+/// the file with the next change, or the next inspection that could be a scan, by then without a failure.
 class ScanHistory : public QObject
 {
     Q_OBJECT
@@ -66,6 +67,7 @@ public:
     /// Removes the scan, if there is one.
     void remove(const QUuid &id);
 
+    /// Removes all scans that are in the list: not those that another program has saved since it was read.
     void clear();
 
     /// Waits until all changes are saved, and tells how the last one went.
@@ -83,6 +85,7 @@ private:
     bool becomeWriter();
     void merge(const std::vector<StoredSnapshot> &stored);
     void save();
+    void saveUnsaved();
     void finish(const std::expected<void, SaveError> &outcome);
     Q_INVOKABLE void announceFailure();
 

@@ -158,6 +158,8 @@ private Q_SLOTS:
     void replacesNothingUnread();
     void followsLinks();
     void twoPrograms();
+    void savedByTheNextInspection();
+    void clearsWhatWasThere();
     void sameScanOfAnother();
     void waitsForAnother();
     void lockFileRemoved();
@@ -377,11 +379,36 @@ void ScanHistoryTest::replacesNothingUnread()
         QCOMPARE(file.readDigests().error(), reason);
         QCOMPARE(file.read().fault, reason);
         QCOMPARE(file.write({}).error(),
-                 (SaveError{SaveError::Kind::NotWritten,
-                            u"the unreadable history could not be copied aside: "_s + reason}));
+                 (SaveError{SaveError::Kind::NotWritten, u"the history could not be read: "_s + reason}));
     }
     QCOMPARE(contents(m_path), text);
     QCOMPARE(file.read().snapshots.size(), 3U);
+
+    // A program that began without it has it again when it can be read, and asks for nothing to be removed.
+    std::unique_ptr<ScanHistory> history;
+    {
+        const NoFileToSpare obstacle;
+        history = std::make_unique<ScanHistory>(m_language, m_path);
+        QVERIFY(history->snapshots().isEmpty());
+        expectLogged(u"Too many open files"_s);
+        record(*history, u"new"_s);
+        QVERIFY(!history->flush());
+    }
+    file = HistoryFile(m_path); // gives the lock back
+    record(*history, u"newer"_s);
+    QVERIFY(history->flush());
+    QCOMPARE(snapshotsIn(m_path).size(), 5);
+    QCOMPARE(snapshotsIn(m_path), history->snapshots());
+
+    // One that is damaged while the program has it in mind is put aside, and written anew from there.
+    const auto known = history->snapshots();
+    history.reset();
+    ScanHistory other(m_language, m_path);
+    write(m_path, "damaged");
+    record(other, u"newest"_s);
+    QVERIFY(other.flush());
+    QCOMPARE(snapshotsIn(m_path).sliced(1), known);
+    QCOMPARE(contents(m_folder->filePath(u"History/snapshots.unreadable.json"_s)), QByteArray("damaged"));
 
 #ifdef Q_OS_LINUX
     HistoryFile unreadable(u"/proc/self/mem"_s); // a regular file, whose first page is not there
@@ -431,6 +458,39 @@ void ScanHistoryTest::twoPrograms()
     QVERIFY(second.flush());
     QCOMPARE(values(second.snapshots()), u"y x b a"_s);
     QCOMPARE(values(snapshotsIn(m_path)), u"y x b a"_s);
+}
+
+/// A scan that could not join the file does with the next inspection, though that one has no news.
+void ScanHistoryTest::savedByTheNextInspection()
+{
+    auto first = std::make_unique<ScanHistory>(m_language, m_path);
+    record(*first, u"a"_s);
+    QVERIFY(first->flush());
+    ScanHistory second(m_language, m_path);
+    const auto reason = u"another Quillmark (process %1) has the history open"_s.arg(getpid());
+    expectLogged(reason);
+    QVERIFY(record(second, u"b"_s));
+    QVERIFY(!second.flush());
+    first.reset();
+    QVERIFY(!record(second, u"b"_s));
+    QVERIFY(second.flush());
+    QCOMPARE(values(snapshotsIn(m_path)), u"b a"_s);
+}
+
+/// What another program saved after the list was read is not what was meant to go.
+void ScanHistoryTest::clearsWhatWasThere()
+{
+    ScanHistory history(m_language, m_path);
+    {
+        ScanHistory other(m_language, m_path);
+        record(other, u"a"_s);
+    }
+    history.clear();
+    QVERIFY(history.flush());
+    QCOMPARE(values(snapshotsIn(m_path)), u"a"_s);
+    history.clear();
+    QVERIFY(history.flush());
+    QVERIFY(snapshotsIn(m_path).isEmpty());
 }
 
 /// One that was saved after this program had read the file is no news here either.
