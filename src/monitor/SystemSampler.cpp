@@ -25,8 +25,9 @@ constexpr double shortestRateInterval = 0.2;
 
 /// Loopback, tunnels, links between Apple devices, and what only passes on the bytes of an interface that is
 /// counted already.
-constexpr std::array<std::string_view, 10> uncountedPrefixes = {"lo",   "utun", "ipsec",  "gif",  "stf",
-                                                                "awdl", "llw",  "bridge", "anpi", "ap"};
+constexpr auto uncountedPrefixes = std::to_array<std::string_view>(
+    {"lo", "utun", "ipsec", "gif", "stf", "awdl", "llw", "bridge", "anpi", "ap", // a Mac's
+     "tun", "tap", "wg", "tailscale", "docker", "veth", "br-", "virbr"});        // Linux's
 
 Date dateOf(const CounterReading &reading, Date otherwise)
 {

@@ -189,8 +189,10 @@ void SystemSamplerTest::network_data()
         {u"0 0"_s, u"0 0"_s, u"0 0"_s, u"1 2"_s});
     QByteArray before;
     QByteArray after;
-    for (const char *name : {"lo0", "lo", "utun3", "ipsec0", "gif0", "stf0", "awdl0", "llw0", "bridge100",
-                             "anpi0", "ap1", "apple", "en5", "wlan0", "enap"}) {
+    for (const char *name :
+         {"lo0",       "lo",       "utun3",   "ipsec0", "gif0", "stf0",  "awdl0", "llw0",
+          "bridge100", "anpi0",    "ap1",     "apple",  "tun0", "tap0",  "wg0",   "tailscale0",
+          "docker0",   "veth1f2e", "br-5a17", "virbr0", "en5",  "wlan0", "enap"}) {
         before += (before.isEmpty() ? "[" : ", ") + link(name, "0", "0");
         after += (after.isEmpty() ? "[" : ", ") + link(name, "100", "10");
     }
