@@ -55,10 +55,19 @@ void Quillmark::copyReport()
     m_pasteboard.setText(m_reportText(m_sections, m_lastUpdated));
 }
 
+/// Of several changes at once one inspection is enough.
 void Quillmark::pathChanged(const platform::NetworkPath &path)
 {
     m_networkPath = path;
-    refresh();
+    if (std::exchange(m_isRefreshDue, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isRefreshDue = false;
+            refresh();
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace quillmark::inspection

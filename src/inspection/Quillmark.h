@@ -76,6 +76,7 @@ private:
     QList<CapabilitySection> m_sections;
     std::optional<QDateTime> m_lastUpdated;
     std::optional<platform::NetworkPath> m_networkPath;
+    bool m_isRefreshDue = false; ///< for a path that has just come
     std::unique_ptr<platform::PathWatch> m_monitor;
 };
 
