@@ -198,16 +198,19 @@ void TerminalConsole::installHandlers()
     sigemptyset(&awaited);
     for (const int signal : awaitedSignals) {
         takeNotice(signal);
-        if (isIgnored(signal))
-            continue;
-        sigaddset(&awaited, signal);
-        setAction(signal, note);
+        if (!isIgnored(signal))
+            sigaddset(&awaited, signal);
+    }
+    // Before they are handled: one that came in between would be noted, and nobody wakened.
+    ::pthread_sigmask(SIG_BLOCK, &awaited, &m_mask);
+    for (const int signal : awaitedSignals) {
+        if (!isIgnored(signal))
+            setAction(signal, note);
     }
     for (const int signal : endingSignals) {
         if (!isIgnored(signal))
             setAction(signal, &TerminalConsole::giveBackAndDie);
     }
-    ::pthread_sigmask(SIG_BLOCK, &awaited, &m_mask);
 }
 
 void TerminalConsole::removeHandlers()

@@ -97,7 +97,8 @@ TerminalMark::TerminalMark(CapabilityStatus status)
 
 void TerminalPage::addParagraph(const QString &text, Weight weight)
 {
-    for (const auto &line : lined(printable(text), m_style.columns)) {
+    constexpr qsizetype longest = 10'000;
+    for (const auto &line : lined(printable(text, longest), m_style.columns)) {
         m_text += weight == Weight::Plain ? line : styled(line, weight == Weight::Bold ? bold : faint);
         m_text += u'\n';
     }
@@ -159,7 +160,7 @@ void TerminalPage::addBlocks(const QList<TerminalBlock> &blocks)
 void TerminalPage::addTable(const QList<TerminalColumn> &columns, QList<QStringList> rows)
 {
     for (auto &row : rows)
-        std::ranges::transform(row, row.begin(), printable);
+        std::ranges::transform(row, row.begin(), [](const QString &text) { return printable(text); });
     const auto layout = layOut(columns, rows, m_style.columns);
     const auto line = [&](auto textOf) {
         QString text;

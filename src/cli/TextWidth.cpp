@@ -109,9 +109,8 @@ QStringList wrapped(const QString &text, int columns)
     return lines;
 }
 
-QString printable(const QString &text)
+QString printable(const QString &text, qsizetype longest)
 {
-    constexpr qsizetype longest = 500;
     const bool isCut = text.size() > longest;
     QString result;
     result.reserve(qMin(text.size(), longest + 1));

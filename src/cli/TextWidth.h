@@ -25,7 +25,7 @@ QString padded(const QString &text, int columns);
 QStringList wrapped(const QString &text, int columns);
 
 /// The text without what would steer a terminal: control characters become U+FFFD, marks that reorder text
-/// are dropped. One that is longer than anybody reads is cut.
-QString printable(const QString &text);
+/// are dropped. One that is longer than `longest`, by default as much as anybody reads in a row, is cut.
+QString printable(const QString &text, qsizetype longest = 500);
 
 } // namespace quillmark::cli

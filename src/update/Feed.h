@@ -74,7 +74,7 @@ struct FeedError
 
 /// Reads an update feed in the form of a Sparkle appcast: RSS 2.0 with the elements of Sparkle's namespace.
 /// Elements and attributes that are not known are passed over, addresses that are not https count as absent,
-/// and of a text that stands twice the first one counts. Nothing is looked up or expanded.
+/// and of an address or a note that stands twice the first one counts. Nothing is looked up or expanded.
 std::expected<Feed, FeedError> parseFeed(QByteArrayView bytes);
 
 } // namespace quillmark::update

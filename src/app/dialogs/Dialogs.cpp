@@ -73,7 +73,10 @@ Dialog *Dialogs::open(QPointer<Dialog> &dialog, const Make &make)
 QWidget *Dialogs::activeWindow() const
 {
     auto *active = QApplication::activeWindow();
-    return active && m_window.isAncestorOf(active) ? active : &m_window;
+    const auto *ancestor = active;
+    while (ancestor && ancestor != &m_window)
+        ancestor = ancestor->parentWidget(); // that of a dialog is another window
+    return ancestor ? active : &m_window;
 }
 
 void Dialogs::showAbout()

@@ -21,9 +21,8 @@ class Text
     QUILLMARK_TEXTS(Question)
 };
 
-// Of the sentence, which Qt would break early, or cut off where it has no room and is shorter than the 500 pixels
-// from which on Qt breaks lines. So a long one is given more than those.
-// 500 pixels, from which on Qt breaks lines.
+// Of the sentence, which Qt would break early, or cut off where it has no room and is shorter than the 500
+// pixels from which on Qt breaks lines. So a long one is given more than those.
 constexpr int leastWidth = 320;
 constexpr int greatestWidth = 560;
 

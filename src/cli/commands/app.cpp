@@ -8,6 +8,7 @@
 #include "reports/Report.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace quillmark::cli {
 
@@ -25,9 +26,13 @@ std::expected<void, Failure> openWindow(const Session &session)
         return std::unexpected(function.error());
 
     const auto &options = session.options();
+    // By which windows are told apart, wherever each was started.
+    const auto absolute = [](const std::string &path) {
+        return path.empty() ? QString() : QFileInfo(QFile::decodeName(path.c_str())).absoluteFilePath();
+    };
     const app::Launch launch{.machine = **machine,
-                             .recording = QFile::decodeName(options.machineFile.c_str()),
-                             .historyFile = QFile::decodeName(options.historyFile.c_str()),
+                             .recording = absolute(options.machineFile),
+                             .historyFile = absolute(options.historyFile),
                              .language = QString::fromStdString(options.language)};
     QString failure;
     const int status =

@@ -5,6 +5,9 @@
 
 #include <cstdlib>
 
+#include <pwd.h>
+#include <unistd.h>
+
 namespace quillmark::platform {
 
 namespace {
@@ -15,6 +18,15 @@ std::filesystem::path pathFromEnvironment(const char *name)
     return value ? value : "";
 }
 
+/// What a service is started without HOME for stands in the list of users.
+std::filesystem::path homeFolder()
+{
+    auto folder = pathFromEnvironment("HOME");
+    if (const auto *user = folder.is_absolute() ? nullptr : ::getpwuid(::geteuid()))
+        folder = user->pw_dir;
+    return "/" / folder;
+}
+
 } // namespace
 
 /// As XDG has it, which ignores a relative path. The folder is everybody's, so
@@ -23,7 +35,7 @@ std::filesystem::path dataFolder()
 {
     auto folder = pathFromEnvironment("XDG_DATA_HOME");
     if (!folder.is_absolute())
-        folder = "/" / pathFromEnvironment("HOME") / ".local/share";
+        folder = homeFolder() / ".local/share";
     return folder / "Quillmark";
 }
 

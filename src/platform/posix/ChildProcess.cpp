@@ -71,7 +71,8 @@ private:
     posix_spawnattr_t m_attributes;
 };
 
-/// Milliseconds for poll(), rounded up so that it does not spin at the end.
+/// Milliseconds for poll(), rounded up so that it does not spin at the end; at most a minute, which is more
+/// than any program is waited for.
 int remaining(ChildProcess::Clock::time_point deadline)
 {
     const auto left =

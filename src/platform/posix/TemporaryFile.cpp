@@ -134,6 +134,10 @@ int writeAll(int descriptor, std::string_view bytes)
 
 int synchronize(int descriptor)
 {
+#ifdef F_FULLFSYNC // a Mac's fsync() leaves it to the drive when
+    if (::fcntl(descriptor, F_FULLFSYNC) == 0)
+        return 0;
+#endif
     return ::fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : errno;
 }
 
