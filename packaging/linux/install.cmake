@@ -31,6 +31,7 @@ endif()
 set(documents "${CMAKE_INSTALL_DATADIR}/doc/quillmark")
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/NOTICE" "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
     "${PROJECT_SOURCE_DIR}/docs/contracts.md" "${PROJECT_SOURCE_DIR}/docs/recorded-machines.md"
+    "${PROJECT_SOURCE_DIR}/docs/updates.md"
     "${PROJECT_SOURCE_DIR}/docs/report-v1.schema.json"
     DESTINATION "${documents}")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/machines/" DESTINATION "${documents}/examples")

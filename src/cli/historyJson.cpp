@@ -4,6 +4,7 @@
 #include "cli/historyJson.h"
 
 #include "json/Writer.h"
+#include "language/utcText.h"
 
 namespace quillmark::cli {
 
@@ -24,7 +25,7 @@ void addScan(json::Writer &writer, const history::ScanDigest &scan)
 {
     writer.beginObject();
     addMember(writer, "id", history::idText(scan.id));
-    addMember(writer, "date", history::dateText(scan.date));
+    addMember(writer, "date", language::utcText(scan.date));
     addMember(writer, "deviceName", scan.deviceName);
     addMember(writer, "modelIdentifier", scan.modelIdentifier);
     addMember(writer, "osVersion", scan.osVersion);

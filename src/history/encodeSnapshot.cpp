@@ -4,6 +4,7 @@
 #include "history/recordFields.h"
 #include "history/snapshotJson.h"
 #include "json/Writer.h"
+#include "language/utcText.h"
 
 namespace quillmark::history {
 
@@ -51,7 +52,7 @@ private:
         m_json.string(std::u16string_view(QStringView(text).utf16(), static_cast<std::size_t>(text.size())));
     }
     void write(const QUuid &id) { write(idText(id)); }
-    void write(const QDateTime &date) { write(dateText(date)); }
+    void write(const QDateTime &date) { write(language::utcText(date)); }
     void write(inspection::CapabilityStatus status) { m_json.string(statusText(status)); }
     void write(bool value) { m_json.boolean(value); }
 

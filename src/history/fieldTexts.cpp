@@ -44,16 +44,6 @@ std::optional<QUuid> idFrom(std::string_view text)
     return QUuid::fromString(QLatin1StringView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
-QString dateText(const QDateTime &date)
-{
-    // QDateTime's own text of this form sets a locale up, a noticeable part of a short run.
-    const auto utc = date.toUTC();
-    const auto day = utc.date();
-    const auto time = utc.time();
-    return QString::asprintf("%04d-%02d-%02dT%02d:%02d:%02dZ", day.year(), day.month(), day.day(),
-                             time.hour(), time.minute(), time.second());
-}
-
 std::optional<QDateTime> dateFrom(std::string_view text)
 {
     constexpr std::string_view form = "dddd-dd-ddTdd:dd:ddZ";

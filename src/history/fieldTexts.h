@@ -20,10 +20,7 @@ QString idText(const QUuid &id);
 /// Of exactly eight, four, four, four and twelve digits, of either case.
 std::optional<QUuid> idFrom(std::string_view text);
 
-/// The date as files and the command line write it: "2026-11-22T20:35:32Z".
-QString dateText(const QDateTime &date);
-
-/// Of exactly that form, and a moment that there is.
+/// A moment that there is, in exactly the form of language::utcText().
 std::optional<QDateTime> dateFrom(std::string_view text);
 
 /// "supported", "unsupported", "warning", "info".

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "json/Writer.h"
+#include "language/utcText.h"
 #include "reports/Report.h"
 
 namespace quillmark::reports {
@@ -10,17 +11,6 @@ namespace {
 
 using inspection::CapabilityItem;
 using inspection::CapabilitySection;
-
-/// "2026-11-22T20:35:32Z". QDateTime's own text of this form takes a locale's set-up, a noticeable part of a
-/// short run.
-QString utcText(const QDateTime &date)
-{
-    const auto utc = date.toUTC();
-    const auto day = utc.date();
-    const auto time = utc.time();
-    return QString::asprintf("%04d-%02d-%02dT%02d:%02d:%02dZ", day.year(), day.month(), day.day(),
-                             time.hour(), time.minute(), time.second());
-}
 
 class ReportWriter
 {
@@ -31,7 +21,7 @@ public:
         m_writer.member("schema", "report-v1");
         writeApplication();
         if (report.date)
-            text("date", utcText(*report.date));
+            text("date", language::utcText(*report.date));
         text("language", report.language);
         writeSummary(report.summary);
         m_writer.member("score", inspection::capabilityScore(report.sections));
