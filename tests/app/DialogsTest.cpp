@@ -255,6 +255,28 @@ private Q_SLOTS:
         QVERIFY(desk.updates.hasConsent());
     }
 
+    void asksInFrontOfTheDialogThatOneIsAt()
+    {
+        Desk desk;
+        auto *settings = desk.dialogs.showSettings();
+        const auto asksThere = [&](SettingsDialog::Pane pane, const QString &text) {
+            settings->activateWindow();
+            if (!QTest::qWaitFor([&] { return settings->isActiveWindow(); }))
+                return false;
+            settings->showPane(pane);
+            button(settings, text)->click();
+            auto *box = desk.window.findChild<QMessageBox *>();
+            if (!box || box->parentWidget()->window() != settings)
+                return false;
+            QTest::keyClick(box, Qt::Key_Return); // the safe answer
+            return QTest::qWaitFor([&] { return !desk.window.findChild<QMessageBox *>(); });
+        };
+        QVERIFY(asksThere(SettingsDialog::Pane::General, u"Clear history…"_s));
+        QCOMPARE(desk.stage.history.snapshots().size(), 1);
+        QVERIFY(asksThere(SettingsDialog::Pane::Updates, u"Check now"_s));
+        QCOMPARE(desk.questions, 0);
+    }
+
     void everyStopHasAName()
     {
         Desk desk;
