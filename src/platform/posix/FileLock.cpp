@@ -27,7 +27,7 @@ int lockUntil(int descriptor, Clock::time_point end)
     while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         if (errno == EINTR)
             continue;
-        if (errno == ENOLCK || errno == ENOTSUP || errno == EOPNOTSUPP || errno == ENOSYS)
+        if (errno == ENOLCK || errno == ENOTSUP || errno == ENOSYS)
             return 0; // a file system without locks: better unlocked than never saved
         if (errno != EWOULDBLOCK || Clock::now() >= end)
             return errno;
