@@ -81,35 +81,21 @@ public:
     virtual ~Obstacle() = default;
 };
 
-class FileSizeLimit final : public Obstacle
+/// As on a full disk, or in a program that has opened all that it may.
+class Limit final : public Obstacle
 {
 public:
-    FileSizeLimit()
+    Limit(decltype(RLIMIT_FSIZE) resource, rlim_t most)
+        : m_resource(resource)
     {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{.rlim_cur = 100, .rlim_max = m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
+        getrlimit(m_resource, &m_before);
+        const rlimit limit{.rlim_cur = most, .rlim_max = m_before.rlim_max};
+        setrlimit(m_resource, &limit);
     }
-    ~FileSizeLimit() override { setrlimit(RLIMIT_FSIZE, &m_before); }
+    ~Limit() override { setrlimit(m_resource, &m_before); }
 
 private:
-    rlimit m_before{};
-};
-
-/// As in a program that has opened all that it may.
-class NoFileToSpare final : public Obstacle
-{
-public:
-    NoFileToSpare()
-    {
-        getrlimit(RLIMIT_NOFILE, &m_before);
-        const rlimit limit{.rlim_cur = 0, .rlim_max = m_before.rlim_max};
-        setrlimit(RLIMIT_NOFILE, &limit);
-    }
-    ~NoFileToSpare() override { setrlimit(RLIMIT_NOFILE, &m_before); }
-
-private:
+    decltype(RLIMIT_FSIZE) m_resource;
     rlimit m_before{};
 };
 
@@ -183,6 +169,7 @@ private:
 void ScanHistoryTest::initTestCase()
 {
     qunsetenv("QT_FATAL_WARNINGS"); // failures are logged as such
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 void ScanHistoryTest::init()
@@ -290,7 +277,7 @@ void ScanHistoryTest::failures()
     {
         std::unique_ptr<Obstacle> standing;
         if (obstacle == u"limit")
-            standing = std::make_unique<FileSizeLimit>();
+            standing = std::make_unique<Limit>(RLIMIT_FSIZE, 100);
         else if (obstacle == u"read-only")
             standing = std::make_unique<ReadOnlyFolder>(folder);
         expectLogged(reason);
@@ -322,7 +309,7 @@ void ScanHistoryTest::savedAfterAll()
     QVERIFY(history.flush());
     const QSignalSpy failed(&history, &ScanHistory::saveFailed);
     {
-        const FileSizeLimit noRoom;
+        const Limit noRoom(RLIMIT_FSIZE, 100);
         expectLogged(u"File too large"_s);
         record(history, u"a"_s);
         QVERIFY(!history.flush());
@@ -347,7 +334,7 @@ void ScanHistoryTest::keepsTheUnreadableAside()
         ScanHistory history(m_language, m_path);
         QVERIFY(history.snapshots().isEmpty());
         {
-            const FileSizeLimit noRoom;
+            const Limit noRoom(RLIMIT_FSIZE, 100);
             expectLogged(u"the unreadable history could not be copied aside: File too large"_s);
             record(history, u"a"_s);
             QVERIFY(!history.flush());
@@ -374,7 +361,7 @@ void ScanHistoryTest::replacesNothingUnread()
     HistoryFile file(m_path);
     QVERIFY(file.claim());
     {
-        const NoFileToSpare obstacle;
+        const Limit noFileToSpare(RLIMIT_NOFILE, 0);
         const auto reason = u"Too many open files"_s;
         QCOMPARE(file.readDigests().error(), reason);
         QCOMPARE(file.read().fault, reason);
@@ -387,7 +374,7 @@ void ScanHistoryTest::replacesNothingUnread()
     // A program that began without it has it again when it can be read, and asks for nothing to be removed.
     std::unique_ptr<ScanHistory> history;
     {
-        const NoFileToSpare obstacle;
+        const Limit noFileToSpare(RLIMIT_NOFILE, 0);
         history = std::make_unique<ScanHistory>(m_language, m_path);
         QVERIFY(history->snapshots().isEmpty());
         expectLogged(u"Too many open files"_s);
