@@ -44,22 +44,17 @@ void handle(int signal, void (*handler)(int))
 
 QuitSignals::QuitSignals(QObject *parent)
     : QObject(parent)
+    , m_pipe(platform::makePipe())
 {
-    std::array<int, 2> ends = {};
-    if (::pipe(ends.data()) != 0)
+    if (!m_pipe.writingEnd)
         return; // the signals end the program as they would by themselves
-    m_wakened = platform::FileDescriptor(ends[0]);
-    m_waking = platform::FileDescriptor(ends[1]);
-    for (const int end : ends) {
-        ::fcntl(end, F_SETFD, FD_CLOEXEC);
-        ::fcntl(end, F_SETFL, O_NONBLOCK);
-    }
-    auto *notifier = new QSocketNotifier(m_wakened.number(), QSocketNotifier::Read, this);
+    ::fcntl(m_pipe.writingEnd.number(), F_SETFL, O_NONBLOCK);
+    auto *notifier = new QSocketNotifier(m_pipe.readingEnd.number(), QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
         notifier->setEnabled(false); // once is enough
         Q_EMIT quitAsked();
     });
-    waking = m_waking.number();
+    waking = m_pipe.writingEnd.number();
     for (const int signal : quitSignals)
         handle(signal, wake);
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/posix/FileDescriptor.h"
+#include "platform/posix/spawning.h"
 
 #include <QObject>
 
@@ -25,8 +25,7 @@ Q_SIGNALS:
     void quitAsked();
 
 private:
-    platform::FileDescriptor m_wakened; ///< readable once a signal has come
-    platform::FileDescriptor m_waking;
+    platform::Pipe m_pipe; ///< readable once a signal has come
 };
 
 } // namespace quillmark::app

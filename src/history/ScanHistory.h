@@ -31,8 +31,8 @@ namespace quillmark::history {
 /// then take in what another program saved in the meantime. While another program has the file, scans are
 /// kept here only, and nothing can be removed.
 ///
-/// A change that could not be saved is logged, and announced by saveFailed(). It stays in the list, and joins
-/// the file with the next change, or the next inspection that could be a scan, by then without a failure.
+/// A change that could not be saved is logged, and announced by saveFailed(). It stays in the list, and is
+/// saved with the next change, or when the next inspection is recorded, news or not.
 class ScanHistory : public QObject
 {
     Q_OBJECT
